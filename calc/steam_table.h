@@ -1,0 +1,28 @@
+// Density of saturated steam by gauge pressure.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace tarvix {
+
+struct SteamTableRow {
+    std::int16_t pressurePsig;  // strictly increasing down the table
+    float density;              // lb per cubic foot
+};
+
+inline constexpr int kSteamTableRows = 230;
+extern const std::array<SteamTableRow, kSteamTableRows> kSteamTable;
+
+enum class SteamRange { BelowTable, InTable, AboveTable };
+
+struct SteamDensity {
+    SteamRange range = SteamRange::InTable;
+    float density = 0;  // lb per cubic foot; read it only for InTable
+};
+
+// The density of saturated steam at `pressurePsig` (0 to 3000): that of the row, or linear between
+// the nearest row (of two equally near ones the lower) and its neighbour on the other side.
+SteamDensity SaturatedSteamDensity(float pressurePsig);
+
+}  // namespace tarvix

@@ -1,0 +1,31 @@
+# What holds for every target of the project: kind of build, places, language level, warnings.
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+# Every program of the tree lands in one folder, beside the logos that the windows load.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+
+# What the checking tools read.
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# One interface target carries the language level and the warnings.
+add_library(tarvix_flags INTERFACE)
+target_compile_features(tarvix_flags INTERFACE cxx_std_20)
+
+if(MSVC)
+    # /fp:strict keeps single precision arithmetic single, step by step.
+    target_compile_options(tarvix_flags INTERFACE /W4 /utf-8 /fp:strict
+        $<$<BOOL:${TARVIX_WERROR}>:/WX>)
+else()
+    target_compile_options(tarvix_flags INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wdouble-promotion
+        $<$<BOOL:${TARVIX_WERROR}>:-Werror>
+        # A fused multiply-add would skip the rounding to single that the equations ask for.
+        -ffp-contract=off)
+    if(TARVIX_SANITIZE)
+        target_compile_options(tarvix_flags INTERFACE
+            -fsanitize=${TARVIX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+        target_link_options(tarvix_flags INTERFACE -fsanitize=${TARVIX_SANITIZE})
+    endif()
+endif()

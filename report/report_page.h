@@ -1,0 +1,52 @@
+// The printed report as data: lines of text with their font and place, composed from what the main
+// window shows. Knows no printer.
+#pragma once
+
+#include "app/input_sheet.h"
+#include "app/module1.h"
+
+#include <string>
+#include <vector>
+
+namespace tarvix {
+
+// What the main window shows beyond the inputs of a calculation when a report is printed.
+struct ReportSheet {
+    InputSheet inputs;
+    std::string oriBoreDia;            // txtOriBoreDia
+    std::string oriBoreUnit;           // text of cboOriBoreUnit
+    std::string pipeIdUnit;            // unit name of the selected cboPipeIDUnit entry
+    std::string pipeIdText;            // text of cboPipeID
+    bool saturated = false;            // optSaturated
+    std::string message;               // caption of lblMsg
+    bool plateWarning = false;         // fraPlateThicknessWarning is visible
+    std::string plateWarning1;         // caption of lbl1PlateThicknessWarning
+    std::string plateWarning2;         // caption of lbl2PlateThicknessWarning
+    bool zfCompWarning = false;        // fraZfCompWarning is visible
+    bool zfCompWarningYellow = false;  // its back colour is yellow: the milder wording
+    std::string date;                  // dd mmm yyyy, as the system's locale names the month
+};
+
+struct ReportFont {
+    double sizePt = 12;
+    bool bold = false;
+    bool italic = false;
+};
+
+// One piece of text. Places are twips (1/1440 inch) from where printing starts.
+struct ReportLine {
+    std::string text;  // UTF-8
+    ReportFont font;   // "Courier New"
+    double xTwips = 0;
+    double yTwips = 0;  // upper edge
+};
+
+struct ReportPage {
+    std::vector<ReportLine> lines;
+};
+
+// Composes the page from the sheet and the customer lines in `module`. An unknown fluid, no
+// selected mode or an unknown pipe ID unit ends the program.
+ReportPage ComposeReport(const ReportSheet& sheet, Module1& module);
+
+}  // namespace tarvix
