@@ -6,6 +6,7 @@
 #include "app/module1.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarvix {
@@ -33,14 +34,30 @@ struct ReportFont {
     bool italic = false;
 };
 
+// The report's font and its measures, in parts of the font size: those of Courier New's horizontal
+// header (ascent 1705, descent 615, no line gap, every advance 1229, of 2048 units an em). Its
+// metric-compatible stand-ins share them, so the page is laid out before any font is at hand.
+inline constexpr std::string_view kReportFontFamily = "Courier New";
+inline constexpr double kFontAscent = 1705.0 / 2048.0;
+inline constexpr double kFontLineHeight = (1705.0 + 615.0) / 2048.0;
+inline constexpr double kFontAdvance = 1229.0 / 2048.0;
+inline constexpr double kTwipsPerPoint = 20;
+
+// The value of a value line ends in this column, counted from 1.
+inline constexpr int kValueColumn = 40;
+
+// The notes start here, whatever stands above them.
+inline constexpr double kNotesTopTwips = 8000;
+
 // One piece of text. Places are twips (1/1440 inch) from where printing starts.
 struct ReportLine {
-    std::string text;  // UTF-8
+    std::string text;  // UTF-8, no line breaks
     ReportFont font;   // "Courier New"
     double xTwips = 0;
     double yTwips = 0;  // upper edge
 };
 
+// Lines without text are not in it; they only move the lines below them down.
 struct ReportPage {
     std::vector<ReportLine> lines;
 };

@@ -1,0 +1,32 @@
+#include "app/frm_tarvix.h"
+#include "app/system_locale.h"
+#include "ui/frm_splash.h"
+#include "ui/qt_platform.h"
+#include "ui/window_host_qt.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+
+#include <memory>
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Tarvix"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tarvix"));
+
+    tarvix::QtPlatform platform;
+    tarvix::Module1 module(platform, tarvix::SystemNumberLocale());
+    tarvix::WindowHostQt host(platform);
+    std::unique_ptr<tarvix::frmTarvix> mainWindow;
+
+    tarvix::frmSplash splash(module, {.loadMainWindow =
+                                          [&] {
+                                              mainWindow =
+                                                  std::make_unique<tarvix::frmTarvix>(module, host);
+                                              mainWindow->Form_Load();
+                                          },
+                                      .showMainWindow = [&] { mainWindow->show(); }});
+    splash.Form_Load();
+    splash.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,94 @@
+// The kinds of control that the main window is made of, where the toolkit's own differ from what
+// the calculator needs.
+#pragma once
+
+#include "app/module1.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <functional>
+#include <string>
+
+namespace tarvix {
+
+// Back colours of state, as 0xBBGGRR. Text on them is dark, in dark desktop themes too.
+enum class BackColor : int {
+    Default = -1,           // none set by the program
+    WindowBackground = -2,  // the system's window background: a field that applies
+    Green = 0x00FF00,       // result fields, selected mode and fluid
+    LightGrey = 0xC0C0C0,   // mode and fluid not selected
+    PaleGrey = 0xE0E0E0,    // a field that does not apply; the message line without a message
+    Yellow = 0x00FFFF,
+    Red = 0x0000FF,
+};
+
+void SetBackColor(QWidget& widget, BackColor color);
+BackColor BackColorOf(const QWidget& widget);
+
+// A text box for a number. Asks `onKeyPress` about every character that a key, or an input method,
+// would put into it, and drops those for which it answers 0; pasted text is not asked about. Tells
+// `onGotFocus` when the focus comes from another control.
+class NumericField : public QLineEdit {
+  public:
+    explicit NumericField(QWidget* parent);
+
+    std::function<int(int keyCode)> onKeyPress;
+    std::function<void()> onGotFocus;
+
+    std::string Text() const { return text().toStdString(); }
+    void SetText(const std::string& value) { setText(QString::fromStdString(value)); }
+
+    // What the decimal key of the number pad types.
+    void SetDecimalSeparator(char separator) { decimalSeparator_ = separator; }
+
+    // A locked field shows its text but can't be typed into.
+    void SetLocked(bool locked) { setReadOnly(locked); }
+    bool Locked() const { return isReadOnly(); }
+    void SetTabStop(bool stop) { setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
+    bool TabStop() const { return (focusPolicy() & Qt::TabFocus) != 0; }
+
+    // The text in three pieces around the selection or the caret.
+    FieldSelection Selection() const;
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+
+  private:
+    bool IsKept(QChar character) const;
+
+    char decimalSeparator_ = '.';
+    bool focusCameByThisPress_ = false;
+};
+
+// An option button. Selecting it from code runs its click handler, as a click does, also when it is
+// selected already.
+class OptionButton : public QRadioButton {
+  public:
+    using QRadioButton::QRadioButton;
+
+    void Select();
+    bool Value() const { return isChecked(); }
+};
+
+// A drop-down list. Selecting an entry from code runs its click handler, as a pick does, also for
+// the entry that is selected already; clearing runs nothing.
+class DropDownList : public QComboBox {
+  public:
+    explicit DropDownList(QWidget* parent);
+
+    std::string Text() const { return currentText().toStdString(); }
+    int ListIndex() const { return currentIndex(); }
+    void SetListIndex(int index);
+    void AddItem(std::string_view text);
+    void Clear() { clear(); }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace tarvix
