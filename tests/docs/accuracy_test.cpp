@@ -1,0 +1,215 @@
+// What docs/accuracy.md rests on: the program's estimate differs from ISO 5167-2 by nothing but the
+// discharge coefficient and the expansion factor, and the beta error is the flow error seen through
+// the flow equation.
+#include "tests/docs/document_figures.h"
+#include "tests/docs/estimate_error.h"
+#include "tests/docs/iso5167.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace tarvix::accuracy {
+
+namespace {
+
+constexpr float kPipesIn[] = {2.067F, 4.026F, 7.981F, 22.624F};
+constexpr float kBetas[] = {0.15F, 0.3F, 0.45F, 0.6F, 0.67F};
+constexpr double kReynolds[] = {1e4, 1e5, 1e6, 1e7};
+constexpr float kHigh = 795.0F;  // about a quarter of 114.7 psia, in inches of water
+
+template <typename Check>
+void ForEachPoint(Fluid fluid, float diffPressInH2O, Check check) {
+    for (const float pipe : kPipesIn) {
+        for (const float beta : kBetas) {
+            for (const double reynolds : kReynolds) {
+                SCOPED_TRACE(::testing::Message()
+                             << pipe << " in, beta " << beta << ", Re " << reynolds);
+                check(Point{fluid, pipe, beta, diffPressInH2O, reynolds});
+            }
+        }
+    }
+}
+
+double CoefficientAt(const Point& point) {
+    const double mm = double{point.pipeDiameterIn} * 25.4;
+    return iso5167::DischargeCoefficient(double{point.beta}, mm, point.reynolds,
+                                         iso5167::FlangeTaps(mm));
+}
+
+double ExpansibilityAt(const Point& point, double exponent) {
+    const double fraction = double{point.diffPressInH2O} * kPascalPerInchWater /
+                            (double{kPressurePsia} * kPascalPerPsi);
+    return iso5167::Expansibility(double{point.beta}, 1 - fraction, exponent);
+}
+
+double YAt(const Point& point) {
+    return double{ExpansionFactor(point.beta, point.diffPressInH2O, kPressurePsia)};
+}
+
+// The constants of the program against SI units: nothing left but 0.6 / C and Y / epsilon.
+constexpr double kUnitConstants = 5e-5;
+
+}  // namespace
+
+TEST(Accuracy, LiquidDiffersByTheDischargeCoefficientAlone) {
+    ForEachPoint(Fluid::Liquid, 100.0F, [](const Point& point) {
+        const Comparison c = Compare(point);
+        EXPECT_NEAR(c.estimate / c.standard * CoefficientAt(point) / 0.6, 1, kUnitConstants);
+    });
+}
+
+TEST(Accuracy, GasDiffersByCoefficientAndExpansionFactor) {
+    for (const float h : {100.0F, kHigh}) {
+        ForEachPoint(Fluid::Gas, h, [](const Point& point) {
+            const Comparison c = Compare(point);
+            const double expected =
+                0.6 / CoefficientAt(point) * YAt(point) / ExpansibilityAt(point, kAirExponent);
+            // The constant of the standard volume equation is 0.007% low.
+            EXPECT_NEAR(c.estimate / c.standard / expected, 1 - 0.00007, kUnitConstants);
+        });
+    }
+}
+
+TEST(Accuracy, SteamDiffersByCoefficientAndExpansionFactor) {
+    for (const float h : {100.0F, kHigh}) {
+        ForEachPoint(Fluid::Steam, h, [](const Point& point) {
+            const Comparison c = Compare(point);
+            const double expected =
+                0.6 / CoefficientAt(point) * YAt(point) / ExpansibilityAt(point, kSteamExponent);
+            EXPECT_NEAR(c.estimate / c.standard / expected, 1, kUnitConstants);
+        });
+    }
+}
+
+// The flow of a liquid goes with beta^2 / sqrt(1 - beta^4). So the beta that carries a flow of
+// (1 + e) times the standard's estimate is found from that function alone.
+TEST(Accuracy, LiquidBetaErrorIsTheFlowErrorSeenThroughTheEquation) {
+    ForEachPoint(Fluid::Liquid, 100.0F, [](const Point& point) {
+        const Comparison c = Compare(point);
+        const auto carried = [](double beta) {
+            return beta * beta / std::sqrt(1 - std::pow(beta, 4));
+        };
+        const double ratio = carried(c.solvedBeta) / carried(double{point.beta});
+        // Beta has 5 decimals: half of the last one, times the slope of the flow.
+        const double slope = 2 / (1 - std::pow(double{point.beta}, 4));
+        EXPECT_NEAR(ratio * (1 + c.flowErrorPercent / 100), 1, slope * 5.5e-6 / double{point.beta});
+    });
+}
+
+// For small errors the error of beta is -(1 - beta^4) / 2 times that of the flow, for all fluids.
+TEST(Accuracy, BetaErrorIsAboutHalfOfTheFlowError) {
+    for (const Fluid fluid : {Fluid::Liquid, Fluid::Gas, Fluid::Steam}) {
+        ForEachPoint(fluid, 100.0F, [](const Point& point) {
+            const Comparison c = Compare(point);
+            const double expected = -(1 - std::pow(double{point.beta}, 4)) / 2 * c.flowErrorPercent;
+            // 5 decimals of beta, and what is left of the series at errors of some percent.
+            const double fiveDecimals = 100 * 5.5e-6 / double{point.beta};
+            EXPECT_NEAR(c.betaErrorPercent, expected,
+                        fiveDecimals + 0.025 * std::fabs(c.flowErrorPercent));
+        });
+    }
+}
+
+// The short answer of the document, on the grid of its tables. Only points within the limits of the
+// standard count.
+template <typename Check>
+void ForTheWholeGrid(Fluid fluid, float diffPressInH2O, double reynolds, Check check) {
+    for (const float pipe : kPipesIn) {
+        for (int percent = 15; percent <= 67; ++percent) {
+            const Point point{fluid, pipe, static_cast<float>(percent / 100.0), diffPressInH2O,
+                              reynolds};
+            const Comparison c = Compare(point);
+            if (c.withinLimits) {
+                SCOPED_TRACE(::testing::Message()
+                             << pipe << " in, beta " << point.beta << ", Re " << reynolds);
+                check(point, c);
+            }
+        }
+    }
+}
+
+TEST(AccuracyDocument, GasAndSteamHoldTheStatement) {
+    for (const Fluid fluid : {Fluid::Gas, Fluid::Steam}) {
+        for (const float h : {100.0F, kHigh}) {
+            for (const double reynolds : {1e5, 1e6, 1e7}) {
+                ForTheWholeGrid(fluid, h, reynolds, [](const Point&, const Comparison& c) {
+                    EXPECT_LE(std::fabs(c.betaErrorPercent), 2);
+                });
+            }
+            for (const double reynolds : {1e4, 3e4}) {
+                ForTheWholeGrid(fluid, h, reynolds, [](const Point&, const Comparison& c) {
+                    EXPECT_LE(std::fabs(c.betaErrorPercent), 3.05);
+                });
+            }
+        }
+    }
+}
+
+TEST(AccuracyDocument, ThinLiquidsHoldTheStatement) {
+    for (const double reynolds : {1e6, 1e7}) {
+        ForTheWholeGrid(Fluid::Liquid, 100.0F, reynolds, [](const Point&, const Comparison& c) {
+            EXPECT_LE(std::fabs(c.betaErrorPercent), 1);
+        });
+    }
+    ForTheWholeGrid(Fluid::Liquid, 100.0F, 1e5, [](const Point& point, const Comparison& c) {
+        const bool theOneException = point.pipeDiameterIn == 2.067F && point.beta == 0.67F;
+        EXPECT_EQ(std::fabs(c.betaErrorPercent) > 1, theOneException) << c.betaErrorPercent;
+        EXPECT_LE(std::fabs(c.betaErrorPercent), 1.015);
+    });
+}
+
+TEST(AccuracyDocument, ViscousLiquidsDoNot) {
+    double worstAt1e4 = 0;
+    double worstAt3e4 = 0;
+    ForTheWholeGrid(Fluid::Liquid, 100.0F, 1e4, [&](const Point&, const Comparison& c) {
+        worstAt1e4 = std::max(worstAt1e4, c.betaErrorPercent);
+        EXPECT_GE(c.flowErrorPercent, -6.0);
+    });
+    ForTheWholeGrid(Fluid::Liquid, 100.0F, 3e4, [&](const Point&, const Comparison& c) {
+        worstAt3e4 = std::max(worstAt3e4, c.betaErrorPercent);
+    });
+    EXPECT_NEAR(worstAt1e4, 2.5, 0.1);
+    EXPECT_NEAR(worstAt3e4, 1.5, 0.1);
+}
+
+TEST(AccuracyDocument, FlowOfThinLiquidsAtSmallBeta) {
+    for (const double reynolds : {1e5, 1e6, 1e7}) {
+        ForTheWholeGrid(Fluid::Liquid, 100.0F, reynolds,
+                        [](const Point& point, const Comparison& c) {
+                            if (point.beta <= 0.4F) {
+                                EXPECT_LE(std::fabs(c.flowErrorPercent), 1);
+                            }
+                        });
+    }
+}
+
+TEST(AccuracyDocument, CoefficientAtHighReynoldsNumbers) {
+    double lowest = 1;
+    double highest = 0;
+    for (const double reynolds : {1e6, 1e7}) {
+        ForTheWholeGrid(Fluid::Liquid, 100.0F, reynolds,
+                        [&](const Point& point, const Comparison&) {
+                            lowest = std::min(lowest, CoefficientAt(point));
+                            highest = std::max(highest, CoefficientAt(point));
+                        });
+    }
+    EXPECT_NEAR(lowest, 0.596, 5e-4);
+    EXPECT_NEAR(highest, 0.609, 5e-4);
+}
+
+// Re = 4 qm / (pi D mu), in the document's units.
+TEST(AccuracyDocument, ReynoldsFormulas) {
+    const docs::FigureTable figures = docs::ReadFigures("accuracy.md", "reynolds");
+    const double perInchAndCentipoise = std::acos(-1.0) * kMetersPerInch * 1e-3;
+
+    const double poundPerHour = kKgPerPound / 3600;
+    EXPECT_NEAR(figures.Number("W, lb/h"), 4 * poundPerHour / perInchAndCentipoise, 0.005);
+
+    const double gallonM3 = 231 * std::pow(kMetersPerInch, 3);
+    const double gpmOfWater = gallonM3 * 62.366 * kKgPerM3PerPoundPerFt3 / 60;
+    EXPECT_NEAR(figures.Number("Q, gpm, of a liquid with flowing specific gravity SG"),
+                4 * gpmOfWater / perInchAndCentipoise, 5);
+}
+
+}  // namespace tarvix::accuracy

@@ -1,0 +1,152 @@
+// The yardstick itself: the formulas of ISO 5167-2 against published values, against values worked
+// out term by term, and against what is known of their course.
+#include "tests/docs/iso5167.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace tarvix::iso5167 {
+
+namespace {
+
+// Air through a plate of 22.2 mm in a pipe of 73.91 mm: mass flow 0.124431876 kg/s, viscosity
+// 1.85861753095e-5 Pa s. Values published with the open library "fluids" (C. Bell), which holds the
+// same edition of the formulas.
+constexpr double kDiameterMm = 73.91;
+constexpr double kBeta = 22.2 / 73.91;
+
+double PublishedReynolds() {
+    return 4 * 0.124431876 / (std::acos(-1.0) * 0.07391 * 1.85861753095e-5);
+}
+
+double FlangeCoefficient(double beta, double diameterMm, double reynolds) {
+    return DischargeCoefficient(beta, diameterMm, reynolds, FlangeTaps(diameterMm));
+}
+
+constexpr double kPipesMm[] = {52.5, 102.3, 202.7, 574.6};
+constexpr double kInfinite = 1e40;
+
+}  // namespace
+
+TEST(Iso5167, PublishedCoefficientsOfTheThreeTapArrangements) {
+    const double reynolds = PublishedReynolds();
+    EXPECT_NEAR(DischargeCoefficient(kBeta, kDiameterMm, reynolds, kCornerTaps), 0.6000085121444034,
+                1e-12);
+    EXPECT_NEAR(DischargeCoefficient(kBeta, kDiameterMm, reynolds, kDAndHalfDTaps),
+                0.5988219225153976, 1e-12);
+    EXPECT_NEAR(FlangeCoefficient(kBeta, kDiameterMm, reynolds), 0.5990042535666878, 1e-12);
+}
+
+TEST(Iso5167, PublishedExpansibility) {
+    EXPECT_NEAR(Expansibility(0.0222 / 0.0739, 0.99, 1.4), 0.9974739057343425, 1e-12);
+}
+
+// beta 0.5, Re 100,000, D 50.8 mm, all terms by hand:
+//   A = 0.095^0.8 = 0.1521174;  L1 = L2' = 0.5;  M2' = 2
+//   0.5961 + 0.006525 - 0.00084375                                        = 0.60178125
+//   0.000521 x 5^0.7 = 0.000521 x 3.0851693                               = 0.00160737
+//   (0.0188 + 0.00095834) x 0.08838835 x 10^0.3 (1.99526231)              = 0.00348454
+//   (0.043 + 0.080 x 0.00673795 - 0.123 x 0.03019738) x 0.98326709 / 15   = 0.00261056
+//   -0.031 x (2 - 0.8 x 2.14354693) x 0.40612620                          = -0.00359017
+//   small pipe: 0.011 x 0.25 x 0.8                                        = 0.0022
+TEST(Iso5167, CoefficientTermByTerm) {
+    EXPECT_NEAR(FlangeCoefficient(0.5, 50.8, 1e5), 0.60809355, 2e-8);
+}
+
+TEST(Iso5167, CornerTapsAtInfiniteReynoldsNumberLeaveThePolynomial) {
+    for (const double beta : {0.1, 0.2, 0.45, 0.6, 0.75}) {
+        const double b2 = beta * beta;
+        EXPECT_NEAR(DischargeCoefficient(beta, 100, kInfinite, kCornerTaps),
+                    0.5961 + 0.0261 * b2 - 0.216 * b2 * b2 * b2 * b2, 1e-10)
+            << beta;
+    }
+}
+
+// The small-pipe term starts at 71.12 mm without a jump and makes a smaller pipe's C larger.
+TEST(Iso5167, SmallPipeTermStartsSmoothly) {
+    for (const double beta : {0.2, 0.5, 0.7}) {
+        EXPECT_NEAR(FlangeCoefficient(beta, 71.12 - 1e-6, 1e5),
+                    FlangeCoefficient(beta, 71.12 + 1e-6, 1e5), 1e-8);
+    }
+    // Its slope: 0.011 (0.75 - beta) an inch.
+    const double with = DischargeCoefficient(0.5, 1.8 * 25.4, 1e5, kCornerTaps);
+    const double without = DischargeCoefficient(0.5, 2.8 * 25.4, 1e5, kCornerTaps);
+    EXPECT_NEAR(with - without, 0.011 * 0.25, 1e-12);
+}
+
+TEST(Iso5167, CoefficientFallsWithTheReynoldsNumber) {
+    for (const double diameter : kPipesMm) {
+        for (int percent = 15; percent <= 67; ++percent) {
+            const double beta = percent / 100.0;
+            double before = FlangeCoefficient(beta, diameter, 1e4);
+            for (const double reynolds : {1.5e4, 3e4, 6e4, 1e5, 3e5, 1e6, 3e6, 1e7, 1e8}) {
+                const double now = FlangeCoefficient(beta, diameter, reynolds);
+                EXPECT_LT(now, before) << diameter << " mm, beta " << beta << ", Re " << reynolds;
+                before = now;
+            }
+        }
+    }
+}
+
+// Sharp-edged plates lie around 0.6: the contraction of the jet, pi / (pi + 2) = 0.611, little
+// changed.
+TEST(Iso5167, CoefficientStaysNearTheContractionOfTheJet) {
+    for (const double diameter : kPipesMm) {
+        for (int percent = 15; percent <= 67; ++percent) {
+            for (const double reynolds : {1e4, 1e5, 1e6, 1e7}) {
+                const double c = FlangeCoefficient(percent / 100.0, diameter, reynolds);
+                EXPECT_GT(c, 0.59);
+                EXPECT_LT(c, 0.645);
+            }
+        }
+    }
+}
+
+// For a small pressure drop epsilon is 1 - (0.351 + 0.256 b^4 + 0.93 b^8) (dp / p) / kappa.
+TEST(Iso5167, ExpansibilityStartsWithItsSlope) {
+    for (const double beta : {0.2, 0.5, 0.7}) {
+        for (const double exponent : {1.1, 1.3, 1.67}) {
+            const double b4 = std::pow(beta, 4);
+            const double x = 1e-6;
+            EXPECT_NEAR((1 - Expansibility(beta, 1 - x, exponent)) / x,
+                        (0.351 + 0.256 * b4 + 0.93 * b4 * b4) / exponent, 1e-6);
+            EXPECT_EQ(Expansibility(beta, 1, exponent), 1);
+        }
+    }
+}
+
+// A quarter of the pressure, exponent 1: the bracket is exactly 0.25.
+TEST(Iso5167, ExpansibilityByHand) {
+    EXPECT_NEAR(Expansibility(0.5, 0.75, 1), 1 - (0.351 + 0.016 + 0.93 / 256) * 0.25, 1e-15);
+}
+
+TEST(Iso5167, MassFlowByHand) {
+    // d = 0.05 m, dp = 20 kPa, rho = 1000 kg/m3: sqrt(2 dp rho) = 6324.5553.
+    // 0.6 / sqrt(0.9375) = 0.6196773; pi/4 0.05^2 = 0.0019634954.
+    MeteringConditions run;
+    run.diameterM = 0.1;
+    run.beta = 0.5;
+    run.diffPressurePa = 20000;
+    run.upstreamDensity = 1000;
+    run.dischargeCoefficient = 0.6;
+    EXPECT_NEAR(MassFlow(run), 7.695299, 2e-6);
+    run.expansibility = 0.5;
+    EXPECT_NEAR(MassFlow(run), 7.695299 / 2, 1e-6);
+}
+
+TEST(Iso5167, LimitsOfFlangeTaps) {
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.5, 100, 5000));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 100, 4999));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.25, 50, 1e5));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.249, 50, 1e5));  // a bore below 12.5 mm
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 49.9, 1e5));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.5, 1000, 1e5));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 1000.1, 1e5));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.75, 1000, 1e6));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.751, 1000, 1e6));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.099, 1000, 1e6));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.5, 400, 17001));  // 170 x 0.25 x 400 = 17000
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 400, 16999));
+}
+
+}  // namespace tarvix::iso5167

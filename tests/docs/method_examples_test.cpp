@@ -1,0 +1,349 @@
+// The worked examples of docs/method.md: every figure against an independent calculation in double
+// precision with the document's own constants, and against the program.
+#include "app/calculation.h"
+#include "app/data_checks.h"
+#include "calc/orifice_gas.h"
+#include "calc/orifice_liquid.h"
+#include "calc/orifice_steam.h"
+#include "calc/steam_table.h"
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
+#include "tests/docs/document_figures.h"
+#include "units/bore_and_beta.h"
+#include "units/flow_units.h"
+#include "units/unit_tables.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+
+namespace tarvix::docs {
+
+namespace {
+
+constexpr const char* kMethod = "method.md";
+
+// What single precision may add to a figure worked out in doubles, step after step.
+constexpr double kSingleRounding = 1.2e-7;
+
+class MethodExamples : public ::testing::Test {
+  protected:
+    double Constant(std::string_view name) const { return constants_.Number(name); }
+
+    double VelocityTerm(double beta) const {
+        return Constant("Cd") / std::sqrt(1 - std::pow(beta, 4));
+    }
+    double Expansion(double beta, double h, double p) const {
+        return 1 - (Constant("a") + Constant("b") * std::pow(beta, 4)) *
+                       (h / (Constant("KY") * p)) / Constant("κ");
+    }
+
+    FigureTable constants_ = ReadFigures(kMethod, "constants");
+};
+
+// The text of a result field for these inputs, as the window gets it; fails on any message.
+std::string Shown(const InputSheet& sheet) {
+    testing::RecordingPlatform platform;
+    Module1 module(platform, testing::kUnitedStates);
+    EXPECT_EQ(CheckInputs(sheet, module), kDataGood) << module.MsgText;
+    const CalculationResult result = CalculateResult(sheet, module);
+    EXPECT_EQ(result.message, "");
+    return result.text;
+}
+
+// The figure in the document is the value in single precision, rounded to the digits that stand
+// there, and the independent value within what single precision may add.
+void ExpectFigure(const FigureTable& table, std::string_view symbol, double independent,
+                  std::optional<float> program = std::nullopt) {
+    const std::string& text = table.Text(symbol);
+    EXPECT_NEAR(NumberOf(text), independent,
+                HalfOfLastDigit(text) + std::fabs(independent) * kSingleRounding)
+        << symbol;
+    if (program) {
+        EXPECT_NEAR(NumberOf(text), double{*program}, HalfOfLastDigit(text) * 1.000001) << symbol;
+    }
+}
+
+InputSheet SheetFor(std::string fluidType, SolveFor mode, const FlowUnit& flow, const Unit& time,
+                    std::string diameter) {
+    InputSheet sheet;
+    sheet.fluidType = std::move(fluidType);
+    sheet.mode = mode;
+    sheet.flowUnit = {flow.text, flow.factor};
+    sheet.flowKind = flow.kind;
+    sheet.timeUnit = time;
+    sheet.deltaPUnit = kDeltaPUnits[0];
+    sheet.pressUnit = kPressUnits[0];
+    sheet.densityUnit = kDensityUnits[0];
+    sheet.zfDensityUnit = kDensityUnits[0];
+    sheet.pipeDiameter = std::move(diameter);
+    return sheet;
+}
+
+InputSheet LiquidSheet(SolveFor mode) {
+    InputSheet sheet = SheetFor("L", mode, FlowUnitsOf("L").units[0], kTimeUnits[0], "4.026");
+    sheet.sgf = "1";
+    sheet.sgb = "1";
+    sheet.sgbVisible = true;
+    return sheet;
+}
+
+InputSheet GasSheet(SolveFor mode) {
+    InputSheet sheet = SheetFor("G", mode, FlowUnitsOf("G").units[0], kTimeUnits[2], "2.067");
+    sheet.tf = "60";
+    sheet.pf = "100";
+    sheet.gasSGb = "1";
+    sheet.gasSGbVisible = true;
+    return sheet;
+}
+
+InputSheet SteamSheet(SolveFor mode) {
+    InputSheet sheet = SheetFor("S", mode, FlowUnitsOf("S").units[0], kTimeUnits[1], "4.026");
+    sheet.pf = "100";
+    sheet.steamFromTable = true;
+    testing::RecordingPlatform platform;
+    const Module1 module(platform, testing::kUnitedStates);
+    sheet.density = CalcSteamDensity(sheet, module).density;
+    return sheet;
+}
+
+constexpr float kGasPsia = 114.7F;
+constexpr float kGasR = 519.67F;
+
+GasProperties AirExample() {
+    GasProperties gas;
+    gas.pressurePsia = kGasPsia;
+    gas.basePressurePsia = 14.7F;
+    gas.flowingTempR = kGasR;
+    gas.baseTempR = kGasR;
+    gas.baseSG = 1.0F;
+    return gas;
+}
+
+}  // namespace
+
+TEST_F(MethodExamples, Liquid) {
+    const FigureTable t = ReadFigures(kMethod, "liquid example");
+    const double beta = t.Number("β");
+    const double d = t.Number("D");
+    const double root = std::sqrt(t.Number("h") * t.Number("Gf"));
+    const double q =
+        Constant("KL") * VelocityTerm(beta) * beta * beta * d * d * root / t.Number("Gb");
+
+    MeteringRun run;
+    run.solveFor = SolveFor::FlowRate;
+    run.pipeDiameterIn = 4.026F;
+    run.beta = 0.5F;
+    run.diffPressInH2O = 100.0F;
+    const Outcome solved = OrificeCalcLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
+
+    ExpectFigure(t, "Ff", 1, FlowUnitsOf("L").units[0].factor / kTimeUnits[0].factor);
+    ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
+    ExpectFigure(t, "E", VelocityTerm(beta), VelocityOfApproach(0.5F));
+    ExpectFigure(t, "√(h Gf)", root);
+    ExpectFigure(t, "Q", q, solved.value);
+
+    InputSheet sheet = LiquidSheet(SolveFor::FlowRate);
+    sheet.deltaP = "100";
+    sheet.beta = "0.5";
+    EXPECT_EQ(t.Text("shown"), Shown(sheet));
+}
+
+TEST_F(MethodExamples, LiquidBack) {
+    const FigureTable t = ReadFigures(kMethod, "liquid example back");
+    const double d = 4.026;
+    const double q = t.Number("Q");
+    const double a = q / (d * d * Constant("KL") * std::sqrt(100.0));
+    const double beta = std::pow(a * a / (a * a + Constant("Cd²")), 0.25);
+    const double h = std::pow(q / (VelocityTerm(0.5) * Constant("KL") * 0.25 * d * d), 2);
+
+    ExpectFigure(t, "A", a);
+    ExpectFigure(t, "A²", a * a);
+    ExpectFigure(t, "β", beta);
+
+    MeteringRun run;
+    run.solveFor = SolveFor::DiffPressure;
+    run.pipeDiameterIn = 4.026F;
+    run.beta = 0.5F;
+    run.flow = 142.3F;
+    const Outcome solved = OrificeCalcLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
+    ExpectFigure(t, "h", h, solved.value);
+
+    InputSheet sheet = LiquidSheet(SolveFor::Beta);
+    sheet.flow = t.Text("Q");
+    sheet.deltaP = "100";
+    const std::string betaText = Shown(sheet);
+    EXPECT_EQ(t.Text("β shown"), betaText);
+
+    const auto betaValue = TextToSingle(betaText, testing::kUnitedStates);
+    ASSERT_TRUE(betaValue);
+    const auto bore = BoreFromBeta(*betaValue, 4.026F, kLengthUnits[0].factor);
+    ASSERT_TRUE(bore);
+    EXPECT_EQ(t.Text("bore shown"), FormatNumber(*bore, 3, testing::kUnitedStates, Grouping::Off));
+
+    sheet = LiquidSheet(SolveFor::DiffPressure);
+    sheet.flow = t.Text("Q");
+    sheet.beta = "0.5";
+    EXPECT_EQ(t.Text("h shown"), Shown(sheet));
+}
+
+TEST_F(MethodExamples, Gas) {
+    const FigureTable t = ReadFigures(kMethod, "gas example");
+    const double beta = t.Number("β");
+    const double h = t.Number("h");
+    const double d = t.Number("D");
+    const double p = 100 + Constant("Pb");
+    const double tempR = 60 + Constant("T0");
+    const double radicand = h * p / (tempR * t.Number("G") * t.Number("Zf"));
+    const double y = Expansion(beta, h, p);
+    const double q = Constant("KV") * VelocityTerm(beta) * y * beta * beta * d * d *
+                     (tempR / Constant("Pb")) * std::sqrt(radicand);
+
+    MeteringRun run;
+    run.solveFor = SolveFor::FlowRate;
+    run.pipeDiameterIn = 2.067F;
+    run.beta = 0.5F;
+    run.diffPressInH2O = 100.0F;
+    const Outcome solved = OrificeCalcGas(run, AirExample());
+
+    ExpectFigure(t, "P", p, kGasPsia);
+    ExpectFigure(t, "Tf", tempR, kGasR);
+    ExpectFigure(t, "Tb", tempR, kGasR);
+    ExpectFigure(t, "Pb", Constant("Pb"), kAtmosphericPressurePsi);
+    ExpectFigure(t, "Ff", 60.0 / 1440);
+    ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
+    ExpectFigure(t, "E", VelocityTerm(beta), VelocityOfApproach(0.5F));
+    ExpectFigure(t, "h/(KY P)", h / (Constant("KY") * p));
+    ExpectFigure(t, "Y", y, ExpansionFactor(0.5F, 100.0F, kGasPsia));
+    ExpectFigure(t, "Tb/Pb", tempR / Constant("Pb"));
+    ExpectFigure(t, "h P/(Tf G Zf)", radicand);
+    ExpectFigure(t, "Q", q, solved.value);
+    ExpectFigure(t, "Q/Ff", q / (60.0 / 1440));
+
+    InputSheet sheet = GasSheet(SolveFor::FlowRate);
+    sheet.deltaP = "100";
+    sheet.beta = "0.5";
+    EXPECT_EQ(t.Text("shown"), Shown(sheet));
+}
+
+TEST_F(MethodExamples, GasBack) {
+    const FigureTable t = ReadFigures(kMethod, "gas example back");
+    const double p = 100 + Constant("Pb");
+    const double tempR = 60 + Constant("T0");
+    const double q = 570361 * (60.0 / 1440);
+    const double target =
+        q / (Constant("KV") * VelocityTerm(0.5) * 0.25 * (tempR / Constant("Pb")));
+    ExpectFigure(t, "Q", q);
+    ExpectFigure(t, "T", target);
+
+    InputSheet sheet = GasSheet(SolveFor::DiffPressure);
+    sheet.flow = "570361";
+    sheet.beta = "0.5";
+    EXPECT_EQ(t.Text("h shown"), Shown(sheet));
+
+    MeteringRun run;
+    run.solveFor = SolveFor::DiffPressure;
+    run.pipeDiameterIn = 2.067F;
+    run.beta = 0.5F;
+    run.flow = 570361.0F * static_cast<float>(60.0 / 1440);
+    const Outcome solved = OrificeCalcGas(run, AirExample());
+
+    const FigureTable steps = ReadFigures(kMethod, "gas example steps");
+    double h = 50;
+    for (int n = 1; n <= solved.steps; ++n) {
+        const double y = Expansion(0.5, h, p);
+        const double r = target / (y * std::sqrt(h * p / tempR));
+        const double s = std::sqrt(r) / 2.067;
+        if (n <= 3 || n == solved.steps) {
+            SCOPED_TRACE(n);
+            const std::string row = std::to_string(n);
+            EXPECT_NEAR(steps.Number(row, 1), h, h * 1e-6);
+            EXPECT_NEAR(steps.Number(row, 2), y, 1e-6);
+            EXPECT_NEAR(steps.Number(row, 3), r, r * 1e-6);
+            EXPECT_NEAR(steps.Number(row, 4), s, 1e-6);
+        }
+        h *= s;
+    }
+    EXPECT_EQ(steps.rows().size(), 4U);
+    ASSERT_TRUE(solved.value);
+    EXPECT_NEAR(steps.Number(steps.rows().back()[0], 1), double{*solved.value}, 5.1e-6);
+}
+
+TEST_F(MethodExamples, Steam) {
+    const FigureTable t = ReadFigures(kMethod, "steam example");
+    const double beta = t.Number("β");
+    const double h = t.Number("h");
+    const double d = t.Number("D");
+    const double p = 100 + Constant("Pb");
+    const double y = Expansion(beta, h, p);
+    const double q = Constant("KM") * VelocityTerm(beta) * y * beta * beta * d * d *
+                     std::sqrt(h * t.Number("ρ"));
+
+    MeteringRun run;
+    run.solveFor = SolveFor::FlowRate;
+    run.pipeDiameterIn = 4.026F;
+    run.beta = 0.5F;
+    run.diffPressInH2O = 100.0F;
+    const float density = SaturatedSteamDensity(100.0F).density;
+    const Outcome solved = OrificeCalcSteam(run, {.pressurePsia = kGasPsia, .density = density});
+
+    ExpectFigure(t, "P", p, kGasPsia);
+    ExpectFigure(t, "ρ", t.Number("ρ"), density);
+    ExpectFigure(t, "Ff", 1);
+    ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
+    ExpectFigure(t, "E", VelocityTerm(beta), VelocityOfApproach(0.5F));
+    ExpectFigure(t, "h/(KY P)", h / (Constant("KY") * p));
+    ExpectFigure(t, "Y", y, ExpansionFactor(0.5F, 100.0F, kGasPsia));
+    ExpectFigure(t, "h ρ", h * t.Number("ρ"));
+    ExpectFigure(t, "Q", q, solved.value);
+
+    InputSheet sheet = SteamSheet(SolveFor::FlowRate);
+    EXPECT_EQ(t.Text("ρ"), sheet.density);
+    sheet.deltaP = "100";
+    sheet.beta = "0.5";
+    EXPECT_EQ(t.Text("shown"), Shown(sheet));
+}
+
+TEST_F(MethodExamples, SteamBack) {
+    const FigureTable t = ReadFigures(kMethod, "steam example back");
+    const double p = 100 + Constant("Pb");
+    const double target = t.Number("Q") / (Constant("KM") * std::sqrt(100 * 0.25704));
+    ExpectFigure(t, "T", target);
+
+    InputSheet sheet = SteamSheet(SolveFor::Beta);
+    sheet.flow = t.Text("Q");
+    sheet.deltaP = "100";
+    EXPECT_EQ(t.Text("β shown"), Shown(sheet));
+
+    MeteringRun run;
+    run.solveFor = SolveFor::Beta;
+    run.pipeDiameterIn = 4.026F;
+    run.flow = 7000.0F;
+    run.diffPressInH2O = 100.0F;
+    const Outcome solved = OrificeCalcSteam(
+        run, {.pressurePsia = kGasPsia, .density = SaturatedSteamDensity(100.0F).density});
+
+    const FigureTable steps = ReadFigures(kMethod, "steam example steps");
+    ASSERT_EQ(steps.rows().size(), static_cast<std::size_t>(solved.steps));
+    double beta = 0.5;
+    for (int n = 1; n <= solved.steps; ++n) {
+        SCOPED_TRACE(n);
+        const double e = VelocityTerm(beta);
+        const double y = Expansion(beta, 100, p);
+        const double r = target / (y * e * beta * beta);
+        const double s = std::sqrt(r) / 4.026;
+        const std::string row = std::to_string(n);
+        EXPECT_NEAR(steps.Number(row, 1), beta, 1e-6);
+        EXPECT_NEAR(steps.Number(row, 2), e, 1e-6);
+        EXPECT_NEAR(steps.Number(row, 3), y, 1e-6);
+        EXPECT_NEAR(steps.Number(row, 4), r, r * 1e-6);
+        EXPECT_NEAR(steps.Number(row, 5), s, 1e-6);
+        beta *= s;
+    }
+    // The step before the last is not yet within the band, the last one is.
+    EXPECT_GT(std::fabs(steps.Number(std::to_string(solved.steps - 1), 5) - 1), 1e-6);
+    EXPECT_LT(std::fabs(steps.Number(std::to_string(solved.steps), 5) - 1), 1e-6);
+}
+
+}  // namespace tarvix::docs
