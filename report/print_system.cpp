@@ -9,6 +9,12 @@ namespace {
 // From this status on, the answers of CUPS are errors (RFC 8010, client-error-bad-request).
 constexpr int kFirstErrorStatus = 0x0400;
 
+// What CUPS answers for a printer that it doesn't know, or can't be reached to ask about. The text
+// that comes with it ("No such file or directory") would only mislead.
+constexpr int kNotFound = 0x0406;
+constexpr int kInternalError = 0x0500;
+constexpr int kServiceUnavailable = 0x0502;
+
 }  // namespace
 
 // The toolkit's CUPS back end ignores what CUPS answers to a page. CUPS keeps its last answer for
@@ -22,8 +28,15 @@ std::optional<QString> PrintSystemRefusal() {
     const auto lastError = reinterpret_cast<LastError>(cups.resolve("cupsLastError"));
     const auto lastErrorString =
         reinterpret_cast<LastErrorString>(cups.resolve("cupsLastErrorString"));
-    if (lastError == nullptr || lastErrorString == nullptr || lastError() < kFirstErrorStatus) {
+    if (lastError == nullptr || lastErrorString == nullptr) {
         return std::nullopt;
+    }
+    const int status = lastError();
+    if (status < kFirstErrorStatus) {
+        return std::nullopt;
+    }
+    if (status == kNotFound || status == kInternalError || status == kServiceUnavailable) {
+        return "The print system does not know this printer any more, or does not answer.";
     }
     return QString::fromUtf8(lastErrorString());
 #else

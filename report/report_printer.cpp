@@ -5,15 +5,14 @@
 
 #include <QBuffer>
 #include <QByteArray>
-#include <QCoreApplication>
 #include <QDir>
+#include <QLocale>
+#include <QPageSize>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
-
-#include <memory>
 
 namespace tarvix {
 
@@ -75,13 +74,33 @@ PrintOutcome PrintToPrinter(QPrinter& printer, const ReportPage& page, const QIm
     return {};
 }
 
+// The printer's own paper; without a printer, what is usual where the user lives. A system that
+// names no locale counts as American.
+QPageSize PaperOf(const QPrinterInfo& printer) {
+    if (!printer.isNull() && printer.defaultPageSize().isValid()) {
+        return printer.defaultPageSize();
+    }
+    const QLocale locale = QLocale::system();
+    const bool american =
+        locale.language() == QLocale::C || locale.measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize(american ? QPageSize::Letter : QPageSize::A4);
+}
+
 QString NameOf(const QPrinter& printer) {
     return printer.outputFormat() == QPrinter::PdfFormat
                ? QDir::toNativeSeparators(printer.outputFileName())
                : printer.printerName();
 }
 
-void Report(Platform& platform, const QPrinter& printer, const PrintOutcome& outcome) {
+}  // namespace
+
+PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QImage& logo) {
+    printer.setFullPage(true);
+    return printer.outputFormat() == QPrinter::PdfFormat ? PrintToFile(printer, page, logo)
+                                                         : PrintToPrinter(printer, page, logo);
+}
+
+MessageBoxRequest PrintOutcomeBox(const QPrinter& printer, const PrintOutcome& outcome) {
     MessageBoxRequest box;
     box.title = kProgramName;
     QString text;
@@ -102,20 +121,15 @@ void Report(Platform& platform, const QPrinter& printer, const PrintOutcome& out
                    .arg(NameOf(printer));
     }
     box.text = text.toStdString();
-    platform.ShowMessageBox(box);
-}
-
-}  // namespace
-
-PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QImage& logo) {
-    printer.setFullPage(true);
-    return printer.outputFormat() == QPrinter::PdfFormat ? PrintToFile(printer, page, logo)
-                                                         : PrintToPrinter(printer, page, logo);
+    return box;
 }
 
 void PrintReport(QWidget& owner, Platform& platform, const ReportPage& page, const QImage& logo) {
-    QPrinter printer(QPrinter::HighResolution);
-    if (QPrinterInfo::defaultPrinter().isNull()) {
+    const QPrinterInfo defaultPrinter = QPrinterInfo::defaultPrinter();
+    QPrinter printer(defaultPrinter, QPrinter::HighResolution);
+    // The toolkit starts with A4, whatever paper the printer holds.
+    printer.setPageSize(PaperOf(defaultPrinter));
+    if (defaultPrinter.isNull()) {
         QPrintDialog dialog(&printer, &owner);
         dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
         dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
@@ -125,7 +139,7 @@ void PrintReport(QWidget& owner, Platform& platform, const ReportPage& page, con
     }
     const PrintOutcome outcome = PrintReportOn(printer, page, logo);
     if (outcome.status != PrintOutcome::Status::Printed) {
-        Report(platform, printer, outcome);
+        platform.ShowMessageBox(PrintOutcomeBox(printer, outcome));
     }
 }
 

@@ -25,6 +25,9 @@ struct PrintOutcome {
 // Prints the page on the printer, or into the PDF file, that `printer` stands for.
 PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QImage& logo);
 
+// What the user is told about a page that waits or failed.
+MessageBoxRequest PrintOutcomeBox(const QPrinter& printer, const PrintOutcome& outcome);
+
 // Prints the page on the default printer. Where the system has none, the print dialog lets the user
 // choose, a PDF file among others; cancelling it prints nothing. A page that waits or fails is
 // reported in a message box; the caller goes on either way.

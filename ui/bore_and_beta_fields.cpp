@@ -16,10 +16,8 @@ constexpr const char* kLineEnd = "\n\r";
 BoreAndBeta::BoreAndBeta(const FormContext& context, OrificeCalculations& calculations)
     : context_(context), calculations_(calculations) {
     const MainForm& form = context_.form;
-    QObject::connect(form.txtBeta, &QLineEdit::textChanged, form.txtBeta,
-                     [this] { txtBeta_Change(); });
-    QObject::connect(form.txtOriBoreDia, &QLineEdit::textChanged, form.txtOriBoreDia,
-                     [this] { txtOriBoreDia_Change(); });
+    form.txtBeta->onChange = [this] { txtBeta_Change(); };
+    form.txtOriBoreDia->onChange = [this] { txtOriBoreDia_Change(); };
     QObject::connect(form.cboOriBoreUnit, &QComboBox::activated, form.cboOriBoreUnit,
                      [this] { cboOriBoreUnit_Click(); });
 }

@@ -61,6 +61,12 @@ BackColor BackColorOf(const QWidget& widget) {
 
 NumericField::NumericField(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight);
+    // The toolkit also reports an edit that puts the same text in place of the selected one.
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (std::exchange(reportedText_, text) != text && onChange) {
+            onChange();
+        }
+    });
 }
 
 FieldSelection NumericField::Selection() const {
@@ -135,7 +141,6 @@ void OptionButton::Select() {
 DropDownList::DropDownList(QWidget* parent) : QComboBox(parent) {
     // A hover or a scroll of the page must not change a unit.
     setFocusPolicy(Qt::StrongFocus);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(20);
 }
 

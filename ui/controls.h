@@ -29,13 +29,15 @@ BackColor BackColorOf(const QWidget& widget);
 
 // A text box for a number. Asks `onKeyPress` about every character that a key, or an input method,
 // would put into it, and drops those for which it answers 0; pasted text is not asked about. Tells
-// `onGotFocus` when the focus comes from another control.
+// `onGotFocus` when the focus comes from another control, and `onChange` at once when the text has
+// become a different one.
 class NumericField : public QLineEdit {
   public:
     explicit NumericField(QWidget* parent);
 
     std::function<int(int keyCode)> onKeyPress;
     std::function<void()> onGotFocus;
+    std::function<void()> onChange;
 
     std::string Text() const { return text().toStdString(); }
     void SetText(const std::string& value) { setText(QString::fromStdString(value)); }
@@ -61,6 +63,7 @@ class NumericField : public QLineEdit {
   private:
     bool IsKept(QChar character) const;
 
+    QString reportedText_;
     char decimalSeparator_ = '.';
     bool focusCameByThisPress_ = false;
 };

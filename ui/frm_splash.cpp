@@ -7,6 +7,7 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFont>
+#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QPalette>
 #include <QScreen>
@@ -39,7 +40,10 @@ constexpr int kMargin = 32;
 
 QFont SplashFont(const QString& family, double scale, bool bold, const QFont& base) {
     QFont font = base;
-    font.setFamilies({family, base.family()});
+    // Asking for a family that is not there costs a search through all fonts.
+    if (QFontDatabase::hasFamily(family)) {
+        font.setFamily(family);
+    }
     font.setPointSizeF(scale * base.pointSizeF());
     font.setBold(bold);
     return font;
@@ -79,7 +83,6 @@ frmSplash::frmSplash(Module1& module, HandOver handOver)
     imgBrindleLogo->setAccessibleName("Brindle");
     imgVeltraneLogo->setAccessibleName("Veltrane");
     LayOut();
-    Form_Load();
 }
 
 void frmSplash::LayOut() {

@@ -3,8 +3,8 @@
 
 #include "app/module1.h"
 
-#include <QImage>
 #include <QFrame>
+#include <QImage>
 #include <QLabel>
 #include <QString>
 
@@ -26,9 +26,11 @@ class frmSplash : public QFrame {
         std::function<void()> showMainWindow;
     };
 
-    // Sets module.AppPath. The rest happens once the window is shown and the event loop runs.
+    // Builds the window. Form_Load is the caller's next step, then showing it; the rest happens
+    // once the event loop runs.
     frmSplash(Module1& module, HandOver handOver);
 
+    // Sets module.AppPath to the program's folder.
     void Form_Load();
 
     // Shows the logos, waits about three seconds by the clock of module.platform() and hands over.

@@ -1,7 +1,8 @@
 #include "ui/main_form.h"
 
+#include "ui/frame_box.h"
+
 #include <QFontMetricsF>
-#include <QGroupBox>
 
 #include <algorithm>
 #include <cmath>
@@ -110,7 +111,7 @@ void MainForm::Register(QWidget* widget, const char* name, ControlKind kind, Twi
 
 QWidget* MainForm::AddFrame(QWidget* parent, const char* name, const char* caption,
                             TwipsRect place) {
-    auto* frame = new QGroupBox(QString::fromUtf8(caption), parent);
+    auto* frame = new FrameBox(QString::fromUtf8(caption), parent);
     Register(frame, name, ControlKind::Frame, place);
     return frame;
 }

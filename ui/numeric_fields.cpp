@@ -12,8 +12,7 @@ NumericFields::NumericFields(const FormContext& context, OrificeCalculations& ca
         field->onKeyPress = [this, field](int keyCode) { return KeyPress(*field, keyCode); };
     }
     const auto connect = [this](NumericField* field, void (NumericFields::*handler)()) {
-        QObject::connect(field, &QLineEdit::textChanged, field,
-                         [this, handler] { (this->*handler)(); });
+        field->onChange = [this, handler] { (this->*handler)(); };
     };
     connect(form.txtFlow, &NumericFields::txtFlow_Change);
     connect(form.txtDeltaP, &NumericFields::txtDeltaP_Change);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QGroupBox>
+
+namespace tarvix {
+
+// A frame with a caption above its border. Paints with a line and a text instead of the style's
+// pictures: a frame is painted again behind every field that changes, at each key press.
+class FrameBox : public QGroupBox {
+  public:
+    using QGroupBox::QGroupBox;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tarvix
