@@ -1,0 +1,73 @@
+#!/usr/bin/env bash
+# Checks the project's files themselves: house rules that no compiler sees.
+set -euo pipefail
+# shellcheck source=packaging/scripts/common.sh
+source "$(dirname "${BASH_SOURCE[0]}")/../scripts/common.sh"
+root=$(project_root)
+cd "$root"
+
+faults=0
+fault() {
+    printf 'house rule: %s\n' "$*" >&2
+    faults=$((faults + 1))
+}
+
+# All files of the project, those that git does not know yet included.
+mapfile -t files < <(git ls-files --cached --others --exclude-standard | while IFS= read -r file; do
+    [ ! -f "$file" ] || printf '%s\n' "$file"
+done)
+[ "${#files[@]}" -gt 0 ] || fail "git names no files."
+mapfile -t texts < <(grep -IlE '^' "${files[@]}")
+
+# Prints what it finds and counts it as one fault.
+none_of() {
+    local rule=$1
+    shift
+    if "$@" >&2; then fault "$rule (above)"; fi
+}
+
+none_of "no path of a machine" \
+    grep -nF -e "$root/" -e "/home""/" -e "/root""/" -e "/Users""/" "${texts[@]}"
+none_of "no blanks at the end of a line" grep -nE '[[:blank:]]+$' "${texts[@]}"
+none_of "line ends are single line feeds" grep -lE $'\r$' "${texts[@]}"
+mapfile -t code < <(printf '%s\n' "${texts[@]}" |
+    grep -E '\.(cpp|h|py|sh|cmake|json)$|CMakeLists\.txt$')
+none_of "no tabs in code" grep -nP '\t' "${code[@]}"
+for file in "${texts[@]}"; do
+    [ -z "$(tail -c 1 "$file")" ] || fault "$file does not end with a line feed"
+done
+
+# A source file that outgrows this wants to be two.
+for file in "${files[@]}"; do
+    case $file in
+        *.cpp | *.h)
+            lines=$(wc -l <"$file")
+            [ "$lines" -le 500 ] || fault "$file has $lines lines"
+            ;;
+    esac
+done
+
+# Scripts can be run, and the shell's are clean.
+scripts=()
+for file in "${files[@]}"; do
+    IFS= read -r first <"$file" 2>/dev/null || first=""
+    case $first in
+        '#!'*bash | '#!'*sh) scripts+=("$file") ;;
+        '#!'*) ;;
+        *) continue ;;
+    esac
+    [ -x "$file" ] || fault "$file begins with $first but cannot be run"
+done
+none_of "shellcheck finds nothing" bash -c '! shellcheck -x "$@"' - "${scripts[@]}"
+
+# The logos say their size, and the report's fits into three lines of 12 point text.
+for logo in BrindleLogo VeltraneLogo; do
+    # JFIF: unit (1 is dots per inch) and density across and down, at 13 bytes from the start.
+    read -r -a density < <(od -An -tu1 -j 13 -N 5 "packaging/logos/$logo.jpg")
+    [ "${density[*]}" = "1 0 200 0 200" ] || fault "$logo.jpg is not at 200 dots per inch"
+    size=$(identify -format '%wx%h' "packaging/logos/$logo.jpg")
+    [ "$size" = 424x106 ] || fault "$logo.jpg is not 424 x 106 dots but $size"
+done
+
+[ "$faults" -eq 0 ] || fail "$faults house rules are broken."
+say "${#files[@]} files keep the house rules."
