@@ -1,0 +1,233 @@
+// What follows from a density or a pressure before anything is solved: the gravity of a liquid, the
+// density of saturated steam, and the two warnings.
+#include "app/calculation.h"
+#include "app/sheets.h"
+#include "named_row.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+class DensitiesTest : public SheetTest {
+  protected:
+    InputSheet SteamAt(const char* pressure, bool absolute = false) const {
+        InputSheet sheet = SteamSheet();
+        sheet.pf = pressure;
+        sheet.absolutePressure = absolute;
+        return sheet;
+    }
+    const SelectedUnit kPound = kDensityUnits[0];
+    const SelectedUnit kKilogram = kDensityUnits[1];
+};
+
+// CalcSGf -----------------------------------------------------------------------------------------
+
+TEST_F(DensitiesTest, TheGravityOfADensity) {
+    EXPECT_EQ(CalcSGf("62.366", kPound, module), "1.0000");
+    EXPECT_EQ(CalcSGf("50", kPound, module), "0.8017");
+    EXPECT_EQ(CalcSGf("124.732", kPound, module), "2.0000");
+    EXPECT_EQ(CalcSGf("1000", kKilogram, module), "1.0010");  // 62.42798 / 62.366 = 1.00099
+    EXPECT_EQ(CalcSGf("850", kKilogram, module), "0.8508");   // 53.06378 / 62.366 = 0.850845
+    EXPECT_EQ(CalcSGf("100000", kPound, module), "1,603.4380");
+    EXPECT_EQ(CalcSGf("0.000001", kPound, module), "0.0000");
+}
+
+TEST_F(DensitiesTest, WithoutAPositiveDensityThereIsNoGravity) {
+    for (const char* density : {"", "0", "-5", "abc", "1e60", " ", "1e-60"}) {
+        EXPECT_EQ(CalcSGf(density, kPound, module), "") << density;
+    }
+}
+
+TEST_F(DensitiesTest, TheGravityIsWrittenInTheLocale) {
+    const Module1 german(platform, kGermany);
+    EXPECT_EQ(CalcSGf("62,366", kPound, german), "1,0000");
+    EXPECT_EQ(CalcSGf("62.366", kPound, german), "1.000,0000");  // sixty-two thousand
+}
+
+// The factor is the double of its text, not the single: 0.06242798 x 8.4e10 / 62.366.
+TEST_F(DensitiesTest, TheDensityFactorIsTakenInDoublePrecision) {
+    int differing = 0;
+    for (int i = 1; i <= 2000; ++i) {
+        const auto value = static_cast<float>(i) * 1.37e7F;
+        const auto asDouble = static_cast<float>(0.06242798 * double{value}) / 62.366F;
+        const auto asSingle = 0.06242798F * value / 62.366F;
+        const std::string expected = FormatNumber(asDouble, 4, kUnitedStates, Grouping::On);
+        const std::string text = FormatNumber(value, 0, kUnitedStates, Grouping::Off);
+        EXPECT_EQ(CalcSGf(text, kKilogram, module), expected);
+        differing += FormatNumber(asSingle, 4, kUnitedStates, Grouping::On) != expected ? 1 : 0;
+    }
+    EXPECT_GT(differing, 10);
+}
+
+// CalcSteamDensity --------------------------------------------------------------------------------
+
+struct SteamDensityRow : NamedRow {
+    const char* pressure;
+    const char* pressUnit;
+    bool absolute;
+    const char* densityUnit;
+    std::string density;
+    std::string message;
+};
+
+class SteamDensityOf : public DensitiesTest,
+                       public ::testing::WithParamInterface<SteamDensityRow> {};
+
+TEST_P(SteamDensityOf, IsWrittenOrRefused) {
+    const auto& row = GetParam();
+    InputSheet sheet = SteamAt(row.pressure, row.absolute);
+    sheet.pressUnit = UnitNamed(kPressUnits, row.pressUnit);
+    sheet.densityUnit = UnitNamed(kDensityUnits, row.densityUnit);
+    const SteamDensityResult result = CalcSteamDensity(sheet, module);
+    EXPECT_EQ(result.density, row.density);
+    EXPECT_EQ(result.message, row.message);
+}
+
+constexpr const char* kLb = "lb/cubic foot";
+constexpr const char* kKg = "kg/cubic meter";
+constexpr const char* kBelow = "The Op. Pressure is below the steam table mimimum: ";
+constexpr const char* kAbove = "The Op. Pressure exceeds the steam table maximum: ";
+
+std::string Below(const char* limit) {
+    return std::string(kBelow) + limit;
+}
+std::string Above(const char* limit) {
+    return std::string(kAbove) + limit;
+}
+
+// clang-format off
+const SteamDensityRow kSteamDensityRows[] = {
+    {"HundredPsig",         "100",    "PSI", false, kLb, "0.25704", ""},
+    {"Between",             "102",    "PSI", false, kLb, "0.26129", ""},
+    {"FallingPart",         "67.5",   "PSI", false, kLb, "0.18457", ""},  // 0.184565, halves away
+    {"ZeroPsig",            "0",      "PSI", false, kLb, "0.03738", ""},
+    {"AtmosphereAbsolute",  "14.7",   "PSI", true,  kLb, "0.03738", ""},
+    {"HundredPsia",         "114.7",  "PSI", true,  kLb, "0.25704", ""},
+    {"LastRow",             "3000",   "PSI", false, kLb, "11.86182", ""},
+    {"LastRowAbsolute",     "3,014.7", "PSI", true, kLb, "11.86182", ""},
+    {"Metric",              "100",    "PSI", false, kKg, "4.11738", ""},
+    {"MetricLastRow",       "3000",   "PSI", false, kKg, "190.00810", ""},
+    {"Kilopascal",          "700",    "kPa", false, kLb, "0.26029", ""},  // 101.526 psig
+    {"Bar",                 "7",      "bar", true,  kLb, "0.22893", ""},  // 86.827 psig
+    {"GaugeBelow",          "-1",     "PSI", false, kLb, "", Below("0.0 PSI (gauge)")},
+    {"GaugeJustBelow",      "-1e-40", "PSI", false, kLb, "", Below("0.0 PSI (gauge)")},
+    {"AbsoluteBelow",       "14.6",   "PSI", true,  kLb, "", Below("14.70 PSI (absolute)")},
+    {"AbsoluteBelowMetric", "100",    "kPa", true,  kLb, "", Below("101.4 kPa (absolute)")},
+    {"AbsoluteBelowInPascal", "1",    "Pa",  true,  kLb, "", Below("101,353 Pa (absolute)")},
+    {"GaugeBelowMetric",    "-1",     "kPa", false, kLb, "", Below("0.0 kPa (gauge)")},
+    {"GaugeAbove",          "3001",   "PSI", false, kLb, "", Above("3,000 PSI (gauge)")},
+    {"AbsoluteAbove",       "3015",   "PSI", true,  kLb, "", Above("3,015 PSI (absolute)")},
+    {"GaugeAboveInBar",     "300",    "bar", false, kLb, "", Above("206.8 bar (gauge)")},
+    {"AbsoluteAboveInBar",  "300",    "bar", true,  kLb, "", Above("207.9 bar (absolute)")},
+    {"GaugeAboveInPascal",  "1e9",    "Pa",  false, kLb, "", Above("20,684,276 Pa (gauge)")},
+    {"FarAbove",            "3e38",   "bar", false, kLb, "", Above("206.8 bar (gauge)")},
+    {"Empty",               "",       "PSI", false, kLb, "", ""},
+    {"NotNumeric",          "abc",    "PSI", false, kLb, "", ""},
+    {"Overflow",            "1e39",   "PSI", false, kLb, "", ""},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Densities, SteamDensityOf, ::testing::ValuesIn(kSteamDensityRows),
+                         kRowName);
+
+TEST_F(DensitiesTest, SteamDensityIsWrittenInTheLocale) {
+    const Module1 german(platform, kGermany);
+    EXPECT_EQ(CalcSteamDensity(SteamAt("100"), german).density, "0,25704");
+    EXPECT_EQ(CalcSteamDensity(SteamAt("100,5"), german).density, "0,25810");
+    EXPECT_EQ(CalcSteamDensity(SteamAt("3.001"), german).message, Above("3.000 PSI (gauge)"));
+}
+
+// CheckZfComp -------------------------------------------------------------------------------------
+
+struct WarningRow : NamedRow {
+    const char* pressure;
+    const char* pressUnit;
+    bool absolute;
+    CompCorrection correction;
+    CompressibilityWarning warning;
+};
+
+class ZfCompWarning : public SheetTest, public ::testing::WithParamInterface<WarningRow> {};
+
+TEST_P(ZfCompWarning, DependsOnTheGaugePressure) {
+    const auto& row = GetParam();
+    InputSheet sheet = GasSheet();
+    sheet.pf = row.pressure;
+    sheet.pressUnit = UnitNamed(kPressUnits, row.pressUnit);
+    sheet.absolutePressure = row.absolute;
+    sheet.compCorrection = row.correction;
+    EXPECT_EQ(CheckZfComp(sheet, module), row.warning);
+}
+
+constexpr auto kNoCorrection = CompCorrection::None;
+constexpr auto kNoWarning = CompressibilityWarning::None;
+constexpr auto kMay = CompressibilityWarning::May;
+constexpr auto kWill = CompressibilityWarning::Will;
+
+// clang-format off
+const WarningRow kWarningRows[] = {
+    {"Low",                "100",        "PSI", false, kNoCorrection, kNoWarning},
+    {"TwoHundred",         "200",        "PSI", false, kNoCorrection, kNoWarning},
+    {"JustOverTwoHundred", "200.00002",  "PSI", false, kNoCorrection, kMay},
+    {"FourHundred",        "400",        "PSI", false, kNoCorrection, kMay},
+    {"JustOverFourHundred", "400.00004", "PSI", false, kNoCorrection, kWill},
+    {"Absolute2147",       "214.7",      "PSI", true,  kNoCorrection, kNoWarning},
+    {"Absolute2148",       "214.8",      "PSI", true,  kNoCorrection, kMay},
+    {"Absolute4147",       "414.7",      "PSI", true,  kNoCorrection, kMay},
+    {"Absolute4148",       "414.8",      "PSI", true,  kNoCorrection, kWill},
+    {"Kilopascal1378",     "1378",       "kPa", false, kNoCorrection, kNoWarning},  // 199.86 psi
+    {"Kilopascal1380",     "1380",       "kPa", false, kNoCorrection, kMay},        // 200.15 psi
+    {"Kilopascal2760",     "2760",       "kPa", false, kNoCorrection, kWill},       // 400.30 psi
+    {"Kilopascal2760Absolute", "2760",   "kPa", true,  kNoCorrection, kMay},        // 385.60 psi
+    {"ZfTyped",            "1000",       "PSI", false, CompCorrection::Zf, kNoWarning},
+    {"DensityTyped",       "1000",       "PSI", false, CompCorrection::Density, kNoWarning},
+    {"Empty",              "",           "PSI", false, kNoCorrection, kNoWarning},
+    {"NotNumeric",         "1000 psi",   "PSI", false, kNoCorrection, kNoWarning},
+    {"Negative",           "-1000",      "PSI", false, kNoCorrection, kNoWarning},
+    {"FarOver",            "3e38",       "bar", false, kNoCorrection, kWill},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Warnings, ZfCompWarning, ::testing::ValuesIn(kWarningRows), kRowName);
+
+// CheckPlateThickness -----------------------------------------------------------------------------
+
+TEST(PlateThicknessTest, FromEightInchesAnd150InchesOfWaterOn) {
+    const SelectedUnit& inches = kDeltaPUnits[0];
+    EXPECT_TRUE(CheckPlateThickness("8", "150", inches, kUnitedStates));
+    EXPECT_FALSE(CheckPlateThickness("8", "149.9", inches, kUnitedStates));
+    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", inches, kUnitedStates));
+    EXPECT_TRUE(CheckPlateThickness("42", "1000", inches, kUnitedStates));
+    EXPECT_TRUE(CheckPlateThickness("10", "150", inches, kUnitedStates));
+    EXPECT_FALSE(CheckPlateThickness("6", "150", inches, kUnitedStates));
+    EXPECT_FALSE(CheckPlateThickness("6", "1000000", inches, kUnitedStates));
+    EXPECT_FALSE(CheckPlateThickness("7.9999995", "150", inches, kUnitedStates));
+    EXPECT_FALSE(CheckPlateThickness("0.5", "150", inches, kUnitedStates));
+}
+
+TEST(PlateThicknessTest, OtherUnitsAreConvertedFirst) {
+    const SelectedUnit psi = UnitNamed(kDeltaPUnits, "PSI");
+    EXPECT_FALSE(CheckPlateThickness("8", "5.41", psi, kUnitedStates));  // 149.86
+    EXPECT_TRUE(CheckPlateThickness("8", "5.42", psi, kUnitedStates));   // 150.13
+    const SelectedUnit pascal = UnitNamed(kDeltaPUnits, "Pa");
+    EXPECT_TRUE(CheckPlateThickness("8", "0.04", pascal, kUnitedStates));
+}
+
+TEST(PlateThicknessTest, WithoutANumberThereIsNoWarning) {
+    const SelectedUnit& inches = kDeltaPUnits[0];
+    for (const char* deltaP : {"", "abc", "150,0", "-200", "1e39"}) {
+        EXPECT_FALSE(CheckPlateThickness("8", deltaP, inches, kUnitedStates)) << deltaP;
+    }
+    EXPECT_FALSE(CheckPlateThickness("", "200", inches, kUnitedStates));
+    EXPECT_TRUE(CheckPlateThickness("8", "150,5", inches, kGermany));
+    EXPECT_TRUE(CheckPlateThickness("8,0", "150", inches, kGermany));
+}
+
+}  // namespace
+
+}  // namespace tarvix

@@ -1,0 +1,349 @@
+// One recalculation: from the texts of a sheet to the text of the result.
+#include "app/calculation.h"
+
+#include "app/sheets.h"
+#include "named_row.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+class CalculationTest : public SheetTest {
+  protected:
+    // Checks and solves a sheet that must be good.
+    CalculationResult Solve(const InputSheet& sheet) {
+        EXPECT_EQ(CheckInputs(sheet, module), kDataGood) << module.MsgText;
+        const CalculationResult result = CalculateResult(sheet, module);
+        EXPECT_EQ(module.MsgText, result.message);
+        return result;
+    }
+
+    // What the fatal error that `action` ends in is about.
+    template <typename Action>
+    std::string FatalCauseOf(Action action) {
+        module.MsgText = "";
+        platform.boxes.clear();
+        try {
+            action();
+            ADD_FAILURE() << "the program did not end";
+            return "";
+        } catch (const ProgramEnded& end) {
+            EXPECT_EQ(end.exitStatus, 1);
+        }
+        EXPECT_EQ(platform.boxes.size(), 1U);
+        return platform.boxes.empty() ? "" : platform.boxes.front().text;
+    }
+};
+
+// Results in every mode ---------------------------------------------------------------------------
+
+struct ResultRow : NamedRow {
+    InputSheet (*sheet)(SolveFor mode);
+    void (*change)(InputSheet& sheet);
+    const char* flow;
+    const char* deltaP;
+    const char* beta;
+};
+
+class CalculationRow : public CalculationTest, public ::testing::WithParamInterface<ResultRow> {
+  protected:
+    CalculationResult SolveFor_(SolveFor mode) {
+        InputSheet sheet = GetParam().sheet(mode);
+        GetParam().change(sheet);
+        return Solve(sheet);
+    }
+};
+
+TEST_P(CalculationRow, GivesTheTextOfEachResult) {
+    for (const auto& [mode, text] : {std::pair{SolveFor::FlowRate, GetParam().flow},
+                                     std::pair{SolveFor::DiffPressure, GetParam().deltaP},
+                                     std::pair{SolveFor::Beta, GetParam().beta}}) {
+        const CalculationResult result = SolveFor_(mode);
+        EXPECT_EQ(result.text, text);
+        EXPECT_EQ(result.message, "");
+    }
+}
+
+void TwoInchPipe(InputSheet& sheet) {
+    sheet.pipeDiameter = "2.067";
+}
+
+// clang-format off
+const ResultRow kResultRows[] = {
+    // Liquid: 4.026 inches, 100 inches of water, beta 0.5, 140 gallons a minute unless said.
+    {"LiquidGallonsPerMinute", LiquidSheet, [](InputSheet& s) { s.flow = "142.3"; },
+     "142.3", "100.0", "0.50002"},
+    {"LiquidLitersPerHour", LiquidSheet,
+     [](InputSheet& s) { SelectFlow(s, "Liters", "Hour"); s.flow = "32000"; },
+     "32,317", "98.05", "0.49769"},
+    {"LiquidBarrelsPerDayKilopascal", LiquidSheet,
+     [](InputSheet& s) {
+         SelectFlow(s, "Barrels", "Day"); s.flow = "5,000"; s.sgf = ".82"; s.sgb = ".85";
+         s.deltaPUnit = UnitNamed(kDeltaPUnits, "kPa"); s.deltaP = "25"; },
+     "5,209", "23.04", "0.49049"},
+    {"LiquidKilogramsPerSecond", LiquidSheet,
+     [](InputSheet& s) { SelectFlow(s, "Kilograms", "Second"); s.flow = "9"; s.sgf = "0.9"; s.sgb = "3"; },
+     "8.499", "112.1", "0.51356"},
+    {"LiquidTonsPerHourPsi", LiquidSheet,
+     [](InputSheet& s) {
+         SelectFlow(s, "Tons", "Hour"); s.flow = "40"; s.sgf = "1.1";
+         s.deltaPUnit = UnitNamed(kDeltaPUnits, "PSI"); s.deltaP = "3.5"; },
+     "36.71", "4.155", "0.52039"},
+    {"LiquidPascal", LiquidSheet,
+     [](InputSheet& s) { s.deltaPUnit = UnitNamed(kDeltaPUnits, "Pa"); s.deltaP = "0.02"; },
+     "127.5", "0.02410", "0.52218"},
+    {"LiquidCubicCentimetersPerSecond", LiquidSheet,
+     [](InputSheet& s) { SelectFlow(s, "Cubic Centimeters", "Second"); s.flow = "9000"; },
+     "8,977", "100.5", "0.50060"},
+    // Steam at 100 psi gauge, 1000 pounds an hour.
+    {"SteamPoundsPerHour", SteamSheet, [](InputSheet&) {}, "4,522", "4.794", "0.23871"},
+    {"SteamKilogramsPerMinuteMbar", SteamSheet,
+     [](InputSheet& s) {
+         SelectFlow(s, "Kilograms", "Minute"); s.flow = "30";
+         s.deltaPUnit = UnitNamed(kDeltaPUnits, "mbar"); s.deltaP = "250"; },
+     "34.26", "190.8", "0.46960"},
+    {"SteamAbsolute", SteamSheet, [](InputSheet& s) { s.absolutePressure = true; },
+     "4,515", "4.795", "0.23888"},
+    {"SteamKilopascalAndMetricDensity", SteamSheet,
+     [](InputSheet& s) {
+         s.absolutePressure = true; s.pf = "700"; s.pressUnit = UnitNamed(kPressUnits, "kPa");
+         s.density = "4"; s.densityUnit = UnitNamed(kDensityUnits, "kg/cubic meter"); },
+     "4,451", "4.936", "0.24059"},
+    // Air at 60 deg F and 100 psi gauge.
+    {"GasTwoInches", GasSheet, TwoInchPipe, "570,361", "76.47", "0.46983"},
+    {"GasTwoInchesThereAndBack", GasSheet,
+     [](InputSheet& s) { TwoInchPipe(s); s.flow = "570,361"; }, "570,361", "100.00", "0.50000"},
+    {"GasCubicMetersPerHourMercury", GasSheet,
+     [](InputSheet& s) {
+         SelectFlow(s, "Standard Cubic Meters", "Hour"); s.flow = "2000";
+         s.deltaPUnit = UnitNamed(kDeltaPUnits, "mm of Mercury"); s.deltaP = "150"; },
+     "2,292", "113.7", "0.46876"},
+    {"GasPoundsPerHour", GasSheet,
+     [](InputSheet& s) { SelectFlow(s, "Pounds", "Hour"); s.flow = "5000"; },
+     "6,883", "52.24", "0.42930"},
+    {"GasKilogramsPerMinuteZf", GasSheet,
+     [](InputSheet& s) {
+         SelectFlow(s, "Kilograms", "Minute"); s.flow = "40";
+         s.compCorrection = CompCorrection::Zf; s.zfVisible = true; s.zf = "0.92"; },
+     "54.26", "53.81", "0.43236"},
+    {"GasTypedDensity", GasSheet,
+     [](InputSheet& s) {
+         s.flow = "2000000"; s.compCorrection = CompCorrection::Density; s.zfVisible = true; s.zf = "0.7"; },
+     "2,345,635", "72.28", "0.46365"},
+    {"GasKilogramsPerHourMetricDensity", GasSheet,
+     [](InputSheet& s) {
+         SelectFlow(s, "Kilograms", "Hour"); s.flow = "2500"; s.gasSGbVisible = false; s.gasSGb = "";
+         s.compCorrection = CompCorrection::Density; s.zfVisible = true; s.zf = "10";
+         s.zfDensityUnit = UnitNamed(kDensityUnits, "kg/cubic meter"); },
+     "3,197", "60.65", "0.44484"},
+    {"GasAbsoluteCelsius", GasSheet,
+     [](InputSheet& s) {
+         s.absolutePressure = true; s.pf = "50"; s.degC = true; s.tf = "20"; s.gasSGb = "0.6";
+         s.flow = "900000"; s.deltaP = "40"; },
+     "1,158,603", "23.95", "0.44341"},
+    // 0 psi gauge are 14.7 psia.
+    {"GasAtAtmosphere", GasSheet,
+     [](InputSheet& s) { s.pf = "0"; s.flow = "300000"; s.deltaP = "20"; },
+     "344,373", "15.05", "0.46841"},
+    {"GasAtAtmosphereAbsolute", GasSheet,
+     [](InputSheet& s) { s.absolutePressure = true; s.pf = "14.7"; s.flow = "300000"; s.deltaP = "20"; },
+     "344,373", "15.05", "0.46841"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Calculation, CalculationRow, ::testing::ValuesIn(kResultRows), kRowName);
+
+TEST_F(CalculationTest, AMassFlowUnitMakesTheBaseGravityOneForThisCalculation) {
+    InputSheet sheet = LiquidSheet();
+    sheet.sgb = "2";
+    const std::string volume = Solve(sheet).text;
+    EXPECT_EQ(volume, "71.14");  // half of 142.29
+    SelectFlow(sheet, "Pounds", "Minute");
+    const std::string pounds = Solve(sheet).text;
+    EXPECT_EQ(module.working.BaseSG, 1.0F);
+    sheet.sgb = "1";
+    EXPECT_EQ(Solve(sheet).text, pounds);
+    // The next check restores it.
+    sheet.sgb = "2";
+    SelectFlow(sheet, "Gallons", "Minute");
+    EXPECT_EQ(Solve(sheet).text, volume);
+    EXPECT_EQ(module.working.BaseSG, 2.0F);
+}
+
+TEST_F(CalculationTest, TheMassKindIsCaseSensitive) {
+    InputSheet sheet = LiquidSheet();
+    sheet.sgb = "2";
+    sheet.flowKind = "m";
+    EXPECT_EQ(Solve(sheet).text, "71.14");
+    EXPECT_EQ(module.working.BaseSG, 2.0F);
+}
+
+TEST_F(CalculationTest, NumbersAreReadAndWrittenInTheLocale) {
+    Module1 german(platform, kGermany);
+    InputSheet sheet = GasSheet();
+    sheet.pipeDiameter = "2,067";
+    sheet.beta = "0,5";
+    EXPECT_EQ(CheckInputs(sheet, german), kDataGood);
+    EXPECT_EQ(CalculateResult(sheet, german).text, "570.361");
+    sheet.mode = SolveFor::Beta;
+    sheet.flow = "570.361";
+    EXPECT_EQ(CheckInputs(sheet, german), kDataGood);
+    EXPECT_EQ(CalculateResult(sheet, german).text, "0,50000");
+}
+
+// Messages ----------------------------------------------------------------------------------------
+
+TEST_F(CalculationTest, ALiquidFlowTooHighForThePipe) {
+    InputSheet sheet = LiquidSheet(SolveFor::Beta);
+    sheet.flow = "100000";
+    const CalculationResult result = Solve(sheet);
+    EXPECT_EQ(result.text, "");
+    EXPECT_EQ(result.message,
+              "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.");
+    sheet.flow = "0.00000000001";
+    EXPECT_EQ(Solve(sheet).message, "Flow rate is out of range (beta <= 0.0).");
+}
+
+TEST_F(CalculationTest, AGasFlowTooHigh) {
+    InputSheet sheet = GasSheet(SolveFor::Beta);
+    sheet.flow = "100000000";
+    EXPECT_EQ(Solve(sheet).message,
+              "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.");
+    sheet.deltaP = "20000";
+    EXPECT_EQ(Solve(sheet).message,
+              "Unable to calculate beta for conditions (Flow rate too high).");
+    sheet.mode = SolveFor::DiffPressure;
+    EXPECT_EQ(Solve(sheet).message,
+              "Unable to calculate differential pressure for conditions (Flow rate too high).");
+}
+
+TEST_F(CalculationTest, ASteamFlowTooHighForThePipeIsSilent) {
+    InputSheet sheet = SteamSheet(SolveFor::Beta);
+    sheet.flow = "1000000";
+    const CalculationResult result = Solve(sheet);
+    EXPECT_EQ(result.text, "");
+    EXPECT_EQ(result.message, "");
+}
+
+TEST_F(CalculationTest, ABetaOfOneIsReportedInEveryFluid) {
+    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
+        for (const SolveFor mode : {SolveFor::FlowRate, SolveFor::DiffPressure}) {
+            InputSheet sheet = sheetOf(mode);
+            sheet.beta = "1";
+            const CalculationResult result = Solve(sheet);
+            EXPECT_EQ(result.text, "");
+            EXPECT_EQ(result.message, "Beta Ratio must be less than 1.");
+        }
+    }
+}
+
+TEST_F(CalculationTest, APipeWithoutDiameterGivesNothing) {
+    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
+        for (const SolveFor mode : {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta}) {
+            for (const char* diameter : {"0", "0.000", ""}) {
+                InputSheet sheet = sheetOf(mode);
+                sheet.pipeDiameter = diameter;
+                const CalculationResult result = Solve(sheet);
+                EXPECT_EQ(result.text, "");
+                EXPECT_EQ(result.message, "");
+            }
+        }
+    }
+}
+
+TEST_F(CalculationTest, AMissingCalculatedGravityGivesNothing) {
+    for (const SolveFor mode : {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta}) {
+        InputSheet sheet = LiquidSheet(mode);
+        sheet.sgCalculated = true;
+        sheet.density = "60";
+        sheet.sgf = "";
+        const CalculationResult result = Solve(sheet);
+        EXPECT_EQ(result.text, "");
+        EXPECT_EQ(result.message, "");
+    }
+}
+
+TEST_F(CalculationTest, AResultDoesNotKeepTheMessageOfTheLastOne) {
+    InputSheet sheet = LiquidSheet(SolveFor::Beta);
+    sheet.flow = "100000";
+    EXPECT_NE(Solve(sheet).message, "");
+    sheet.flow = "140";
+    EXPECT_EQ(Solve(sheet).message, "");
+    EXPECT_EQ(module.MsgText, "");
+}
+
+// The checks of a recalculation -------------------------------------------------------------------
+
+TEST_F(CalculationTest, EachFluidHasItsOwnCheck) {
+    InputSheet sheet = LiquidSheet();
+    sheet.sgf = "";
+    EXPECT_EQ(CheckInputs(sheet, module), kDataBad);
+    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Flowing Specific Gravity).");
+    sheet = SteamSheet();
+    sheet.pf = "";
+    EXPECT_EQ(CheckInputs(sheet, module), kDataBad);
+    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Operating Pressure).");
+    sheet = GasSheet();
+    sheet.pf = "";
+    EXPECT_EQ(CheckInputs(sheet, module), kDataBad);
+    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Op. Pressure).");
+}
+
+TEST_F(CalculationTest, TheOrificeCheckFollowsAGoodFluidCheckOnly) {
+    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
+        InputSheet sheet = sheetOf(SolveFor::FlowRate);
+        sheet.deltaP = "";
+        EXPECT_EQ(CheckInputs(sheet, module), kDataBad);
+        EXPECT_EQ(module.MsgText, "Incomplete or Non-Numeric fluid data (Differential Pressure).");
+    }
+    InputSheet sheet = LiquidSheet();
+    sheet.sgf = "";
+    sheet.deltaP = "";
+    EXPECT_EQ(CheckInputs(sheet, module), kDataBad);
+    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Flowing Specific Gravity).");
+}
+
+// Internal inconsistencies ------------------------------------------------------------------------
+
+TEST_F(CalculationTest, AnUnknownFluidEndsTheProgram) {
+    for (const char* fluid : {"", "X", "l", "s", "g", "LS"}) {
+        InputSheet sheet = LiquidSheet();
+        sheet.fluidType = fluid;
+        EXPECT_EQ(FatalCauseOf([&] { CheckInputs(sheet, module); }),
+                  FatalText("Orifice type not specified"));
+        EXPECT_EQ(FatalCauseOf([&] { CalculateResult(sheet, module); }),
+                  FatalText("Orifice type not specified"));
+    }
+}
+
+TEST_F(CalculationTest, WithoutAModeTheProgramEnds) {
+    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
+        InputSheet sheet = sheetOf(SolveFor::FlowRate);
+        sheet.mode.reset();
+        EXPECT_EQ(CheckInputs(sheet, module), kDataGood);
+        EXPECT_EQ(FatalCauseOf([&] { CalculateResult(sheet, module); }),
+                  FatalText("No variable to calculate has been selected."));
+    }
+}
+
+TEST_F(CalculationTest, AGasFlowOfUnknownKindEndsTheProgram) {
+    for (const char* kind : {"", "v", "m", "X"}) {
+        InputSheet sheet = GasSheet();
+        sheet.flowKind = kind;
+        EXPECT_EQ(FatalCauseOf([&] { CalculateResult(sheet, module); }),
+                  FatalText("Mass or Volumetric flow type not specified."));
+        // It is found before the missing mode is.
+        sheet.mode.reset();
+        EXPECT_EQ(FatalCauseOf([&] { CalculateResult(sheet, module); }),
+                  FatalText("Mass or Volumetric flow type not specified."));
+    }
+}
+
+}  // namespace
+
+}  // namespace tarvix

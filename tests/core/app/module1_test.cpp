@@ -1,0 +1,327 @@
+// The shared procedures: temperature, the three number scales, the key filter, the decimal
+// separator, and the two ways in which the program ends.
+#include "app/module1.h"
+
+#include "locales.h"
+#include "named_row.h"
+#include "recording_platform.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+class Module1Test : public ::testing::Test {
+  protected:
+    // The message box of the fatal error that `action` ends in.
+    template <typename Action>
+    MessageBoxRequest FatalBoxOf(Action action) {
+        try {
+            action();
+            ADD_FAILURE() << "the program did not end";
+        } catch (const ProgramEnded& end) {
+            EXPECT_EQ(end.exitStatus, 1);
+        }
+        EXPECT_EQ(platform.boxes.size(), 1U);
+        return platform.boxes.empty() ? MessageBoxRequest{} : platform.boxes.front();
+    }
+
+    RecordingPlatform platform;
+    Module1 american{platform, kUnitedStates};
+    Module1 german{platform, kGermany};
+};
+
+TEST_F(Module1Test, SharedVariablesStartEmptyOrZero) {
+    EXPECT_EQ(american.FluidType, "");
+    EXPECT_EQ(american.AppPath, "");
+    EXPECT_EQ(american.MsgText, "");
+    EXPECT_EQ(american.MsgTitle, "");
+    EXPECT_EQ(american.MsgStyle, 0);
+    EXPECT_EQ(american.MsgResult, 0);
+    EXPECT_EQ(american.CustLine1, "");
+    EXPECT_EQ(american.CustLine2, "");
+    EXPECT_EQ(american.TagText, "");
+    for (const float value :
+         {american.working.FlowingSG, american.working.BaseSG, american.working.FlowTempF,
+          american.working.BaseTempF, american.working.OperPress, american.working.BasePress,
+          american.working.OperDensity, american.working.UserZf}) {
+        EXPECT_EQ(value, 0.0F);
+    }
+    EXPECT_EQ(&american.platform(), &platform);
+}
+
+// TempToDegF --------------------------------------------------------------------------------------
+
+TEST_F(Module1Test, FahrenheitStaysAsItIs) {
+    for (const float value : {-459.67F, -40.0F, 0.0F, 60.0F, 212.0F, 1e30F}) {
+        EXPECT_EQ(american.TempToDegF(value, "F"), value);
+    }
+}
+
+TEST_F(Module1Test, CelsiusIsConverted) {
+    EXPECT_EQ(american.TempToDegF(100.0F, "C"), 212.0F);
+    EXPECT_EQ(american.TempToDegF(-40.0F, "C"), -40.0F);
+    EXPECT_EQ(american.TempToDegF(0.0F, "C"), 32.0F);
+    EXPECT_EQ(american.TempToDegF(15.5F, "C"), 59.9F);
+    EXPECT_EQ(american.TempToDegF(-273.15F, "C"), -459.66998F);
+    // 1.8 times 3.3 (as a single 3.2999999523) and 32, in double precision: 37.93999991416931
+    EXPECT_EQ(american.TempToDegF(3.3F, "C"), 37.93999991416931F);
+}
+
+TEST_F(Module1Test, AnUnknownTemperatureUnitEndsTheProgram) {
+    american.MsgText = "";
+    const auto box = FatalBoxOf([&] { american.TempToDegF(1.0F, "K"); });
+    EXPECT_EQ(box.text, FatalText("Temperature conversion unit K not recognized."));
+}
+
+TEST_F(Module1Test, TheTemperatureMessageIsAppendedToTheLastOne) {
+    american.MsgText = "left over. ";
+    const auto box = FatalBoxOf([&] { american.TempToDegF(1.0F, "K"); });
+    EXPECT_EQ(box.text, FatalText("left over. Temperature conversion unit K not recognized."));
+}
+
+TEST_F(Module1Test, TemperatureUnitsAreCaseSensitive) {
+    for (const char* unit : {"f", "c", "", "FC", "F "}) {
+        platform.boxes.clear();
+        american.MsgText = "";
+        const auto box = FatalBoxOf([&] { american.TempToDegF(1.0F, unit); });
+        EXPECT_EQ(box.text, FatalText("Temperature conversion unit " + std::string(unit) +
+                                      " not recognized."));
+    }
+}
+
+// The number scales -------------------------------------------------------------------------------
+
+struct ScaleRow : NamedRow {
+    float value;
+    const char* limit;
+    const char* result;
+    const char* entry;
+};
+
+class NumberScale : public ::testing::TestWithParam<ScaleRow> {
+  protected:
+    RecordingPlatform platform;
+    Module1 module{platform, kUnitedStates};
+};
+
+TEST_P(NumberScale, HasFewerDecimalsTheLargerTheValue) {
+    const auto& row = GetParam();
+    EXPECT_EQ(module.FormatLimit(row.value), row.limit);
+    EXPECT_EQ(module.FormatResult(row.value), row.result);
+    EXPECT_EQ(module.FormatEntry(row.value), row.entry);
+}
+
+float Below(float value) {
+    return std::nextafter(value, 0.0F);
+}
+float Above(float value) {
+    return std::nextafter(value, std::numeric_limits<float>::infinity());
+}
+
+// A value one single below a threshold rounds up to it, but with the decimals of its own range.
+// clang-format off
+const ScaleRow kScaleRows[] = {
+    {"Thousand",             1000.0F,          "1,000",     "1,000",     "1000"},
+    {"BelowThousand",        Below(1000.0F),   "1,000.0",   "1,000.0",   "1000.0"},
+    {"AboveThousand",        Above(1000.0F),   "1,000",     "1,000",     "1000"},
+    {"RoundedThousands",     1234.4F,          "1,234",     "1,234",     "1234"},
+    {"RoundedUpThousands",   1234.5F,          "1,235",     "1,235",     "1235"},
+    {"Millions",             12345678.0F,      "12,345,678", "12,345,678", "12345678"},
+    {"Hundred",              100.0F,           "100.0",     "100.0",     "100.0"},
+    {"BelowHundred",         Below(100.0F),    "100.00",    "100.00",    "100.00"},
+    {"AboveHundred",         Above(100.0F),    "100.0",     "100.0",     "100.0"},
+    {"Hundreds",             142.28693F,       "142.3",     "142.3",     "142.3"},
+    {"Ten",                  10.0F,            "10.00",     "10.00",     "10.00"},
+    {"BelowTen",             Below(10.0F),     "10.000",    "10.000",    "10.000"},
+    {"AboveTen",             Above(10.0F),     "10.00",     "10.00",     "10.00"},
+    {"Tens",                 14.7F,            "14.70",     "14.70",     "14.70"},
+    {"One",                  1.0F,             "1.000",     "1.000",     "1.000"},
+    {"BelowOne",             Below(1.0F),      "1.0000",    "1.0000",    "1.0000"},
+    {"AboveOne",             Above(1.0F),      "1.000",     "1.000",     "1.000"},
+    {"Tenth",                0.1F,             "0.1000",    "0.1000",    "0.1000"},
+    {"BelowTenth",           Below(0.1F),      "0.1000",    "0.10000",   "0.10000"},
+    {"AboveTenth",           Above(0.1F),      "0.1000",    "0.1000",    "0.1000"},
+    {"Tenths",               0.61234F,         "0.6123",    "0.6123",    "0.6123"},
+    {"Twentieth",            0.05F,            "0.0500",    "0.05000",   "0.05000"},
+    {"Hundredth",            0.01F,            "0.0100",    "0.01000",   "0.01000"},
+    {"BelowHundredth",       Below(0.01F),     "0.0100",    "0.010000",  "0.010000"},
+    {"AboveHundredth",       Above(0.01F),     "0.0100",    "0.01000",   "0.01000"},
+    {"Thousandths",          0.005F,           "0.0050",    "0.005000",  "0.005000"},
+    {"Millionth",            0.000001F,        "0.0000",    "0.000001",  "0.000001"},
+    {"BelowAMillionth",      0.0000001F,       "0.0000",    "0.000000",  "0.000000"},
+    {"SmallestSingle",       1.4e-45F,         "0.0000",    "0.000000",  "0.000000"},
+    {"Zero",                 0.0F,             "0.0000",    "0.0",       "0.0"},
+    {"MinusZero",            -0.0F,            "0.0000",    "0.0",       "0.0"},
+    {"MinusTwentieth",       -0.05F,           "-0.0500",   "-0.050000", "-0.050000"},
+    {"MinusOne",             -1.0F,            "-1.0000",   "-1.000000", "-1.000000"},
+    {"FullVacuumPsi",        -14.7F,           "-14.7000",  "-14.700000", "-14.700000"},
+    {"MinusThousands",       -1234.5F,         "-1,234.5000", "-1,234.500000", "-1234.500000"},
+    {"MinusTooSmallToShow",  -0.0000001F,      "0.0000",    "0.000000",  "0.000000"},
+    {"Infinity",             std::numeric_limits<float>::infinity(), "", "", ""},
+    {"MinusInfinity",        -std::numeric_limits<float>::infinity(), "", "", ""},
+    {"NotANumber",           std::numeric_limits<float>::quiet_NaN(), "", "", ""},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Module1, NumberScale, ::testing::ValuesIn(kScaleRows), kRowName);
+
+TEST_F(Module1Test, TheScalesFollowTheLocale) {
+    EXPECT_EQ(german.FormatLimit(-101352.953125F), "-101.353,0000");
+    EXPECT_EQ(german.FormatResult(1234567.0F), "1.234.567");
+    EXPECT_EQ(german.FormatEntry(1234567.0F), "1234567");
+    EXPECT_EQ(german.FormatResult(0.05F), "0,05000");
+    EXPECT_EQ(german.FormatEntry(14.7F), "14,70");
+    EXPECT_EQ(Module1(platform, kSpain).FormatResult(1234.0F), "1234");
+    EXPECT_EQ(Module1(platform, kIndia).FormatResult(1234567.0F), "12,34,567");
+}
+
+// NumericKeyFilter --------------------------------------------------------------------------------
+
+TEST_F(Module1Test, TheKeyFilterKeepsOnlyKeysOfNumbers) {
+    const FieldSelection empty;
+    for (int key = -70000; key <= 70000; ++key) {
+        const bool kept = (key >= 48 && key <= 57) || key == 8 || key == 43 || key == 45;
+        ASSERT_EQ(american.NumericKeyFilter(key, empty), kept || key == 46 ? key : 0) << key;
+        ASSERT_EQ(german.NumericKeyFilter(key, empty), kept || key == 44 ? key : 0) << key;
+    }
+}
+
+struct KeyRow : NamedRow {
+    const NumberLocale* locale;
+    char key;
+    FieldSelection field;
+    bool kept;
+};
+
+class KeyFilter : public ::testing::TestWithParam<KeyRow> {};
+
+TEST_P(KeyFilter, JudgesTheKeyByTheField) {
+    const auto& row = GetParam();
+    RecordingPlatform platform;
+    const Module1 module(platform, *row.locale);
+    EXPECT_EQ(module.NumericKeyFilter(row.key, row.field), row.kept ? row.key : 0);
+}
+
+// clang-format off
+const KeyRow kKeyRows[] = {
+    // A sign stands at the beginning; whether there is one already is not asked.
+    {"MinusInEmptyField",       &kUnitedStates, '-', {"", "", ""},     true},
+    {"MinusBeforeText",         &kUnitedStates, '-', {"", "", "12"},   true},
+    {"MinusBeforeMinus",        &kUnitedStates, '-', {"", "", "-12"},  true},
+    {"MinusOverSelection",      &kUnitedStates, '-', {"", "12", ""},   true},
+    {"MinusAfterFirst",         &kUnitedStates, '-', {"1", "", "2"},   false},
+    {"MinusAtTheEnd",           &kUnitedStates, '-', {"12", "", ""},   false},
+    {"MinusOverLaterSelection", &kUnitedStates, '-', {"1", "2", ""},   false},
+    {"PlusBeforeText",          &kUnitedStates, '+', {"", "", "12"},   true},
+    {"PlusAfterFirst",          &kUnitedStates, '+', {"1", "", "2"},   false},
+    // Digits and backspace go anywhere.
+    {"DigitInTheMiddle",        &kUnitedStates, '5', {"1", "", "2"},   true},
+    {"DigitBeforeMinus",        &kUnitedStates, '0', {"", "", "-1"},   true},
+    {"NineOverSelection",       &kUnitedStates, '9', {"1", "2", "3"},  true},
+    {"BackspaceInTheMiddle",    &kUnitedStates, '\b', {"1", "", "2"},  true},
+    // One decimal separator; left of a selection it is not looked for.
+    {"FirstPoint",              &kUnitedStates, '.', {"1", "", "5"},   true},
+    {"SecondPointAtTheEnd",     &kUnitedStates, '.', {"1.5", "", ""},  false},
+    {"SecondPointBefore",       &kUnitedStates, '.', {"", "", "1.5"},  false},
+    {"PointOverWholeSelection", &kUnitedStates, '.', {"", "1.5", ""},  true},
+    {"PointOverPoint",          &kUnitedStates, '.', {"1", ".", "5"},  true},
+    {"PointLeftOfSelection",    &kUnitedStates, '.', {"1.5", "0", ""}, true},
+    {"PointRightOfSelection",   &kUnitedStates, '.', {"", "1", "2.5"}, false},
+    {"PointInBothPieces",       &kUnitedStates, '.', {"1.", "2", "3.4"}, false},
+    {"PointBesideComma",        &kUnitedStates, '.', {"1,5", "", ""},  true},
+    {"CommaInAmerica",          &kUnitedStates, ',', {"1", "", ""},    false},
+    {"CommaInEmptyAmerican",    &kUnitedStates, ',', {"", "", ""},     false},
+    {"CommaOverAllInAmerica",   &kUnitedStates, ',', {"", "12", ""},   false},
+    {"FirstComma",              &kGermany,      ',', {"1", "", "5"},   true},
+    {"SecondComma",             &kGermany,      ',', {"1,5", "", ""},  false},
+    {"SecondCommaBefore",       &kGermany,      ',', {"", "", "1,5"},  false},
+    {"CommaOverWholeSelection", &kGermany,      ',', {"", "1,5", ""},  true},
+    {"CommaLeftOfSelection",    &kGermany,      ',', {"1,5", "0", ""}, true},
+    {"CommaRightOfSelection",   &kGermany,      ',', {"", "1", "2,5"}, false},
+    {"CommaBesidePoint",        &kGermany,      ',', {"1.000", "", ""}, true},
+    {"PointInGermany",          &kGermany,      '.', {"1", "", ""},    false},
+    {"PointInEmptyGerman",      &kGermany,      '.', {"", "", ""},     false},
+    {"PointInSwitzerland",      &kSwitzerland,  '.', {"1", "", ""},    true},
+    {"GroupSeparatorNeverTyped", &kIndia,       ',', {"1", "", ""},    false},
+    {"ExponentNeverTyped",      &kUnitedStates, 'e', {"1", "", ""},    false},
+    {"BlankNeverTyped",         &kUnitedStates, ' ', {"", "", ""},     false},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Module1, KeyFilter, ::testing::ValuesIn(kKeyRows), kRowName);
+
+// LocalDecimal ------------------------------------------------------------------------------------
+
+TEST_F(Module1Test, LocalDecimalTurnsTheFirstPointIntoAComma) {
+    EXPECT_EQ(german.LocalDecimal("0.5"), "0,5");
+    EXPECT_EQ(german.LocalDecimal("1.000.5"), "1,000.5");
+    EXPECT_EQ(german.LocalDecimal(".5"), ",5");
+    EXPECT_EQ(german.LocalDecimal("5."), "5,");
+    EXPECT_EQ(german.LocalDecimal("12"), "12");
+    EXPECT_EQ(german.LocalDecimal("1,5"), "1,5");
+    EXPECT_EQ(german.LocalDecimal(""), "");
+}
+
+TEST_F(Module1Test, LocalDecimalLeavesTheTextWhereThePointIsTheSeparator) {
+    EXPECT_EQ(american.LocalDecimal("0.5"), "0.5");
+    EXPECT_EQ(american.LocalDecimal("1.000.5"), "1.000.5");
+    EXPECT_EQ(Module1(platform, kSwitzerland).LocalDecimal("14.7"), "14.7");
+}
+
+// Ends of the program -----------------------------------------------------------------------------
+
+TEST_F(Module1Test, AFatalErrorShowsItsBoxAndEndsTheProgram) {
+    american.MsgText = "Orifice type not specified";
+    platform.answer = kAnswerCancel;
+    const auto box = FatalBoxOf([&] { american.FatalError(); });
+    EXPECT_EQ(box.text,
+              "Fatal Error Encountered: \n\r\n\rOrifice type not specified\n\r\n\r"
+              "This Program will now terminate.");
+    EXPECT_EQ(box.title, "Fatal Error");
+    EXPECT_EQ(box.style, BoxStyle::Critical);
+    EXPECT_EQ(box.buttons, BoxButtons::Ok);
+    EXPECT_EQ(american.MsgText, box.text);
+    EXPECT_EQ(american.MsgTitle, "Fatal Error");
+    EXPECT_EQ(american.MsgResult, kAnswerCancel);
+}
+
+TEST_F(Module1Test, ExitAsksAndEndsTheProgramOnOk) {
+    platform.answer = kAnswerOk;
+    try {
+        american.ExitProgram();
+        ADD_FAILURE() << "the program did not end";
+    } catch (const ProgramEnded& end) {
+        EXPECT_EQ(end.exitStatus, 0);
+    }
+    ASSERT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(platform.boxes[0].text, "Program Complete. EXIT PROGRAM");
+    EXPECT_EQ(platform.boxes[0].title, "Program Termination");
+    EXPECT_EQ(platform.boxes[0].style, BoxStyle::Critical);
+    EXPECT_EQ(platform.boxes[0].buttons, BoxButtons::OkCancel);
+    EXPECT_EQ(american.MsgText, "Program Complete. EXIT PROGRAM");
+    EXPECT_EQ(american.MsgTitle, "Program Termination");
+    EXPECT_EQ(american.MsgStyle, 17);
+    EXPECT_EQ(american.MsgResult, 1);
+}
+
+TEST_F(Module1Test, CancelInTheExitConfirmationLeavesTheProgramRunning) {
+    platform.answer = kAnswerCancel;
+    american.CustLine1 = "kept";
+    american.working.OperPress = 100.0F;
+    EXPECT_NO_THROW(american.ExitProgram());
+    EXPECT_EQ(platform.boxes.size(), 1U);
+    EXPECT_EQ(american.MsgResult, 2);
+    EXPECT_EQ(american.CustLine1, "kept");
+    EXPECT_EQ(american.working.OperPress, 100.0F);
+}
+
+}  // namespace
+
+}  // namespace tarvix

@@ -1,0 +1,112 @@
+// Complete input sheets of each fluid, to be spoiled or varied by tests.
+#pragma once
+
+#include "app/data_checks.h"
+#include "app/input_sheet.h"
+#include "app/module1.h"
+#include "locales.h"
+#include "named_row.h"
+#include "recording_platform.h"
+#include "units/flow_units.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+
+namespace tarvix::testing {
+
+// The unit of a list by its text; one that is not there is a fault of the test.
+template <typename Units>
+SelectedUnit UnitNamed(const Units& units, std::string_view text) {
+    for (const auto& unit : units) {
+        if (unit.text == text) {
+            return {unit.text, unit.factor};
+        }
+    }
+    ADD_FAILURE() << "no unit " << text;
+    return {"", 0};
+}
+
+inline void SelectFlow(InputSheet& sheet, std::string_view flowUnit, std::string_view timeUnit) {
+    const auto units = FlowUnitsOf(sheet.fluidType).units;
+    sheet.flowUnit = UnitNamed(units, flowUnit);
+    for (const FlowUnit& unit : units) {
+        if (unit.text == flowUnit) {
+            sheet.flowKind = unit.kind;
+        }
+    }
+    sheet.timeUnit = UnitNamed(kTimeUnits, timeUnit);
+}
+
+// What every fluid has: a mode, a pipe, the first unit of each list.
+inline InputSheet SheetOf(std::string_view fluid, SolveFor mode) {
+    InputSheet sheet;
+    sheet.fluidType = fluid;
+    sheet.mode = mode;
+    sheet.flow = "140";
+    sheet.deltaP = "100";
+    sheet.beta = "0.5";
+    sheet.pipeDiameter = "4.026";
+    sheet.deltaPUnit = kDeltaPUnits[0];
+    sheet.pressUnit = kPressUnits[0];
+    sheet.densityUnit = kDensityUnits[0];
+    sheet.zfDensityUnit = kDensityUnits[0];
+    const auto defaults = FlowUnitsOf(fluid);
+    SelectFlow(sheet, defaults.defaultFlowUnit, defaults.defaultTimeUnit);
+    return sheet;
+}
+
+// Water with typed gravities.
+inline InputSheet LiquidSheet(SolveFor mode = SolveFor::FlowRate) {
+    InputSheet sheet = SheetOf("L", mode);
+    sheet.sgf = "1";
+    sheet.sgb = "1";
+    sheet.sgbVisible = true;
+    return sheet;
+}
+
+// Saturated steam at 100 psi gauge with a typed density.
+inline InputSheet SteamSheet(SolveFor mode = SolveFor::FlowRate) {
+    InputSheet sheet = SheetOf("S", mode);
+    sheet.flow = "1000";
+    sheet.pf = "100";
+    sheet.density = "0.25704";
+    return sheet;
+}
+
+// Air at 60 deg F and 100 psi gauge, without compressibility correction.
+inline InputSheet GasSheet(SolveFor mode = SolveFor::FlowRate) {
+    InputSheet sheet = SheetOf("G", mode);
+    sheet.flow = "500000";
+    sheet.tf = "60";
+    sheet.pf = "100";
+    sheet.gasSGb = "1";
+    sheet.gasSGbVisible = true;
+    return sheet;
+}
+
+// A row of a table of spoiled sheets: what is changed, and what the check says ("": good).
+struct SheetRow : NamedRow {
+    void (*change)(InputSheet& sheet);
+    std::string message;
+};
+
+class SheetTest : public ::testing::Test {
+  protected:
+    // Runs a check; its result and message must fit together.
+    template <typename Check>
+    std::string MessageOf(Check check, const InputSheet& sheet) {
+        module.MsgText = "left from before";
+        const int result = check(sheet, module);
+        EXPECT_EQ(result, module.MsgText.empty() ? kDataGood : kDataBad);
+        EXPECT_TRUE(platform.boxes.empty()) << "checks never show a box";
+        return module.MsgText;
+    }
+
+    RecordingPlatform platform;
+    Module1 module{platform, kUnitedStates};
+};
+
+class SheetRowTest : public SheetTest, public ::testing::WithParamInterface<SheetRow> {};
+
+}  // namespace tarvix::testing

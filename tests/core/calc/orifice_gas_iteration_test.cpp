@@ -1,0 +1,226 @@
+// The two iterations of the gas equation, and what gives no finite number.
+#include "calc/gas_runs.h"
+#include "outcomes.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+constexpr float kMax = std::numeric_limits<float>::max();
+
+constexpr const char* kDpTooHigh =
+    "Unable to calculate differential pressure for conditions (Flow rate too high).";
+constexpr const char* kDpUnresolved = "Unable to resolve differential pressure for conditions.";
+constexpr const char* kBetaTooHigh =
+    "Unable to calculate beta for conditions (Flow rate too high).";
+constexpr const char* kBetaUnresolved = "Unable to resolve beta for conditions.";
+constexpr const char* kOver95 =
+    "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.";
+constexpr const char* kNotAboveZero = "Flow rate is out of range (beta <= 0.0).";
+
+// The iteration -----------------------------------------------------------------------------------
+
+TEST(OrificeGasTest, TheIterationsStartAtFiftyInchesOfWaterAndHalfBeta) {
+    const struct {
+        FlowKind kind;
+        float flow;  // at 50 inches of water and a beta of 0.5
+    } rows[] = {{kVolume, 64088.2344F}, {kMass, 64110.2461F}};
+    for (const auto& row : rows) {
+        const Outcome h = DiffPressureOf(Air(row.kind), row.flow, 0.5F);
+        ExpectValue(h, 50.0F);
+        EXPECT_EQ(h.steps, 1);
+        const Outcome beta = BetaOf(Air(row.kind), row.flow, 50.0F);
+        ExpectValue(beta, 0.5F);
+        EXPECT_EQ(beta.steps, 1);
+    }
+}
+
+TEST(OrificeGasTest, WhatTheSolvedFieldHeldDoesNotMatter) {
+    MeteringRun run{SolveFor::DiffPressure, 4.026F, 60000.0F, 0.0F, 0.5F};
+    const auto h = OrificeCalcGas(run, Air()).value;
+    ASSERT_TRUE(h.has_value());
+    run.diffPressInH2O = 1e6F;
+    EXPECT_EQ(OrificeCalcGas(run, Air()).value, h);
+    run = {SolveFor::Beta, 4.026F, 60000.0F, 100.0F, 0.0F};
+    const auto beta = OrificeCalcGas(run, Air()).value;
+    ASSERT_TRUE(beta.has_value());
+    run.beta = 0.9F;
+    EXPECT_EQ(OrificeCalcGas(run, Air()).value, beta);
+}
+
+// Flows at which a step's s is the very bound 0.999999 or 1.000001 of the band, in single
+// precision; both bounds lie outside, so that one step more is made.
+TEST(OrificeGasTest, BothBoundsOfTheBandAreExclusive) {
+    const Outcome hUpper = DiffPressureOf(Air(), 133378.890625F, 0.4F);
+    EXPECT_EQ(hUpper.steps, 56);
+    ExpectValue(hUpper, 619.09814453125F);
+    const Outcome hLower = DiffPressureOf(Air(), 22726.912109375F, 0.6F);
+    EXPECT_EQ(hLower.steps, 49);
+    const Outcome betaUpper = BetaOf(Air(), 32108.703125F, 100.0F);
+    EXPECT_EQ(betaUpper.steps, 5);
+    const Outcome betaLower = BetaOf(Air(), 183516.265625F, 50.0F);
+    EXPECT_EQ(betaLower.steps, 23);
+}
+
+TEST(OrificeGasTest, AResultOfTheHundredthStepIsAccepted) {
+    const Outcome h = DiffPressureOf(Air(), 659775.9375F, 0.7F);
+    ExpectValue(h, 1792.56494140625F);
+    EXPECT_EQ(h.steps, 100);
+    const Outcome beta = BetaOf(Air(), 232353.359375F, 50.0F);
+    ExpectValue(beta, 0.82706F);
+    EXPECT_EQ(beta.steps, 100);
+}
+
+TEST(OrificeGasTest, AfterAHundredStepsTheIterationGivesUp) {
+    const Outcome h = DiffPressureOf(Air(), 661399.25F, 0.7F);
+    ExpectMessage(h, kDpUnresolved);
+    EXPECT_EQ(h.steps, 100);
+    const Outcome beta = BetaOf(Air(), 240926.546875F, 50.0F);
+    ExpectMessage(beta, kBetaUnresolved);
+    EXPECT_EQ(beta.steps, 100);
+}
+
+TEST(OrificeGasTest, ANegativeExpansionFactorAtTheStartIsTooHighAFlow) {
+    GasProperties gas = Air();
+    gas.pressurePsia = 0.5F;  // zero expansion factor at 44 inches of water
+    const Outcome h = DiffPressureOf(gas, 10.0F, 0.5F);
+    ExpectMessage(h, kDpTooHigh);
+    EXPECT_EQ(h.steps, 1);
+    gas.pressurePsia = 14.7F;
+    const Outcome beta = BetaOf(gas, 100000.0F, 1300.0F);
+    ExpectMessage(beta, kBetaTooHigh);
+    EXPECT_EQ(beta.steps, 1);
+    for (const FlowKind kind : {kVolume, kMass}) {
+        gas.flowKind = kind;
+        ExpectMessage(BetaOf(gas, 1.0F, 1300.0F), kBetaTooHigh);
+    }
+}
+
+TEST(OrificeGasTest, AFlowAboveWhatThePipeCarriesIsTooHigh) {
+    const Outcome h = DiffPressureOf(Air(), 446170.59375F, 0.5F);
+    ExpectMessage(h, kDpTooHigh);
+    EXPECT_EQ(h.steps, 18);
+    // The expansion factor may turn negative on the last step too.
+    const Outcome last = DiffPressureOf(Air(), 705420.3125F, 0.7F);
+    ExpectMessage(last, kDpTooHigh);
+    EXPECT_EQ(last.steps, 100);
+}
+
+TEST(OrificeGasTest, ABetaThatReachesOneOnTheWayIsOutOfRange) {
+    const Outcome atOnce = BetaOf(Air(), 366245.375F, 100.0F);
+    ExpectMessage(atOnce, kOver95);
+    EXPECT_EQ(atOnce.steps, 1);
+    const Outcome later = BetaOf(Air(), 360000.0F, 100.0F);
+    ExpectMessage(later, kOver95);
+    EXPECT_EQ(later.steps, 3);
+}
+
+TEST(OrificeGasTest, ABetaThatFallsToZeroIsOutOfRange) {
+    const Outcome rounded = BetaOf(Air(), 1e-7F, 100.0F);
+    ExpectMessage(rounded, kNotAboveZero);
+    ExpectValue(BetaOf(Air(), 1e-5F, 100.0F), 0.00001F);
+    // R underflows to 0 at once.
+    MeteringRun run{SolveFor::Beta, 1e4F, 1e-38F, 1e10F, 0.0F};
+    GasProperties gas = Air();
+    gas.pressurePsia = 1e20F;
+    const Outcome atOnce = OrificeCalcGas(run, gas);
+    ExpectMessage(atOnce, kNotAboveZero);
+    EXPECT_EQ(atOnce.steps, 1);
+}
+
+// No finite number --------------------------------------------------------------------------------
+
+TEST(OrificeGasTest, BelowAbsoluteZeroNothingComesOut) {
+    for (const FlowKind kind : {kVolume, kMass}) {
+        GasProperties gas = Air(kind);
+        gas.flowingTempR = -10.0F;
+        ExpectNothing(FlowOf(gas, 0.5F, 100.0F));
+        const Outcome h = DiffPressureOf(gas, 1000.0F, 0.5F);
+        ExpectMessage(h, kDpUnresolved);
+        EXPECT_EQ(h.steps, 1);
+        const Outcome beta = BetaOf(gas, 1000.0F, 100.0F);
+        ExpectMessage(beta, kBetaUnresolved);
+        EXPECT_EQ(beta.steps, 1);
+    }
+}
+
+TEST(OrificeGasTest, AtAbsoluteZeroNoFlowAndNoDifferentialPressureComeOut) {
+    for (const FlowKind kind : {kVolume, kMass}) {
+        GasProperties gas = Air(kind);
+        gas.flowingTempR = 0.0F;
+        ExpectNothing(FlowOf(gas, 0.5F, 100.0F));
+        ExpectMessage(DiffPressureOf(gas, 1000.0F, 0.5F), kDpUnresolved);
+        EXPECT_EQ(BetaOf(gas, 1000.0F, 100.0F).value, std::nullopt);
+    }
+}
+
+TEST(OrificeGasTest, WithoutPressureNothingComesOut) {
+    for (const FlowKind kind : {kVolume, kMass}) {
+        GasProperties gas = Air(kind);
+        gas.pressurePsia = 0.0F;
+        ExpectNothing(FlowOf(gas, 0.5F, 100.0F));
+        ExpectMessage(DiffPressureOf(gas, 1000.0F, 0.5F), kDpUnresolved);
+        ExpectMessage(BetaOf(gas, 1000.0F, 100.0F), kBetaUnresolved);
+    }
+}
+
+TEST(OrificeGasTest, OverflowOfASingleGivesNothingOrItsMessage) {
+    for (const FlowKind kind : {kVolume, kMass}) {
+        GasProperties gas = Air(kind);
+        gas.correction = kZf;
+        gas.userZf = kMax;  // Tf Zf overflows: no density, no flow
+        ExpectNothing(FlowOf(gas, 0.5F, 100.0F));
+        ExpectMessage(DiffPressureOf(gas, 1000.0F, 0.5F), kDpUnresolved);
+        ExpectMessage(BetaOf(gas, 1000.0F, 100.0F), kBetaUnresolved);
+        gas.userZf = 1e-44F;  // the density or the root overflows
+        EXPECT_EQ(FlowOf(gas, 0.5F, 100.0F).value, std::nullopt);
+    }
+    GasProperties dense = Air(kMass);
+    dense.correction = kDensity;
+    dense.operDensity = kMax;
+    ExpectNothing(FlowOf(dense, 0.5F, 100.0F));
+    GasProperties volume = Air();
+    volume.correction = kDensity;
+    volume.operDensity = 1e-44F;
+    EXPECT_EQ(FlowOf(volume, 0.5F, 100.0F).value, std::nullopt);
+}
+
+// Whatever the inputs: a finite value or a message or neither, after at most 100 steps.
+TEST(OrificeGasTest, NoInputBreaksTheIteration) {
+    const float odd[] = {0.0F, 1e-45F, 1e-38F, 1e-20F, 0.001F, 0.5F,  0.999999F,
+                         1.0F, 50.0F,  1e5F,   1e20F,  3e38F,  -1.0F, -1e30F};
+    int values = 0;
+    int messages = 0;
+    for (const float a : odd) {
+        for (const float b : odd) {
+            for (const float c : odd) {
+                for (const SolveFor solveFor :
+                     {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta}) {
+                    for (const FlowKind kind : {kVolume, kMass}) {
+                        GasProperties gas = Air(kind);
+                        gas.pressurePsia = c;
+                        const MeteringRun run{solveFor, 2.067F, a, b, a < 0 ? 0.5F : a};
+                        const Outcome outcome = OrificeCalcGas(run, gas);
+                        ASSERT_LE(outcome.steps, 100);
+                        ASSERT_FALSE(outcome.value && !outcome.message.empty());
+                        ASSERT_TRUE(!outcome.value || std::isfinite(*outcome.value));
+                        values += outcome.value ? 1 : 0;
+                        messages += outcome.message.empty() ? 0 : 1;
+                    }
+                }
+            }
+        }
+    }
+    EXPECT_GT(values, 1000);
+    EXPECT_GT(messages, 1000);
+}
+
+}  // namespace
+
+}  // namespace tarvix

@@ -1,0 +1,164 @@
+// The steam table against a second copy of its pairs, and the interpolation in it.
+#include "calc/steam_table.h"
+
+#include "data_file.h"
+#include "named_row.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+float DensityAt(float pressurePsig) {
+    const SteamDensity steam = SaturatedSteamDensity(pressurePsig);
+    EXPECT_EQ(steam.range, SteamRange::InTable) << pressurePsig;
+    return steam.density;
+}
+
+TEST(SteamTableTest, AllPairsEntryByEntry) {
+    const auto rows = ReadDataFile("steam_table.tsv");
+    ASSERT_EQ(kSteamTable.size(), rows.size());
+    ASSERT_EQ(rows.size(), 230U);
+    for (size_t i = 0; i < rows.size(); ++i) {
+        SCOPED_TRACE(rows[i][0]);
+        EXPECT_EQ(kSteamTable[i].pressurePsig, std::strtol(rows[i][0].c_str(), nullptr, 10));
+        EXPECT_EQ(kSteamTable[i].density, std::strtof(rows[i][1].c_str(), nullptr));
+    }
+}
+
+// The pressures by rule: steps of 1, 5, then as listed.
+TEST(SteamTableTest, PressuresKeepTheGrid) {
+    size_t row = 0;
+    for (int p = 0; p <= 100; ++p) {
+        EXPECT_EQ(kSteamTable[row++].pressurePsig, p);
+    }
+    for (int p = 105; p <= 500; p += 5) {
+        EXPECT_EQ(kSteamTable[row++].pressurePsig, p);
+    }
+    for (const int p : {510, 520, 525, 530, 540, 550, 560, 570, 575, 580, 590, 600, 610, 620,
+                        625, 630, 640, 650, 660, 670, 675, 680, 690, 700, 725, 750, 775, 800}) {
+        EXPECT_EQ(kSteamTable[row++].pressurePsig, p);
+    }
+    for (int p = 850; p <= 1500; p += 50) {
+        EXPECT_EQ(kSteamTable[row++].pressurePsig, p);
+    }
+    for (const int p : {1600, 1700, 1800, 1900, 2000, 2500, 3000}) {
+        EXPECT_EQ(kSteamTable[row++].pressurePsig, p);
+    }
+    EXPECT_EQ(row, kSteamTable.size());
+}
+
+TEST(SteamTableTest, DensityRisesEverywhereButAtTheOddRow) {
+    for (size_t i = 1; i < kSteamTable.size(); ++i) {
+        if (kSteamTable[i].pressurePsig == 68) {
+            EXPECT_LT(kSteamTable[i].density, kSteamTable[i - 1].density);
+        } else {
+            EXPECT_GT(kSteamTable[i].density, kSteamTable[i - 1].density) << i;
+        }
+    }
+}
+
+TEST(SteamTableTest, TheTwoOddRowsAreKept) {
+    EXPECT_EQ(DensityAt(68.0F), 0.18264F);
+    EXPECT_EQ(DensityAt(385.0F), 0.85052F);
+    EXPECT_NEAR(double{DensityAt(385.0F)} - double{DensityAt(380.0F)}, 0.00077, 1e-6);
+    EXPECT_NEAR(double{DensityAt(390.0F)} - double{DensityAt(385.0F)}, 0.02072, 1e-6);
+}
+
+TEST(SteamTableTest, ARowGivesItsOwnDensity) {
+    for (const SteamTableRow& row : kSteamTable) {
+        EXPECT_EQ(DensityAt(static_cast<float>(row.pressurePsig)), row.density);
+    }
+}
+
+struct PointRow : NamedRow {
+    float pressure;
+    double density;
+};
+
+class SteamBetweenRows : public ::testing::TestWithParam<PointRow> {};
+
+TEST_P(SteamBetweenRows, IsInterpolated) {
+    EXPECT_NEAR(double{DensityAt(GetParam().pressure)}, GetParam().density,
+                GetParam().density * 2e-7);
+}
+
+// By hand: d1 + (p - p1) (d2 - d1) / (p2 - p1).
+// clang-format off
+const PointRow kPointRows[] = {
+    {"FirstHalf",           0.5F,    0.038565},
+    {"BelowTheFirstRowUp",  0.25F,   0.0379725},
+    {"NearestAbove",        0.75F,   0.0391575},
+    {"FallingPart",         67.5F,   0.184565},
+    {"FallingNearLower",    67.25F,  0.1855275},
+    {"FallingNearUpper",    67.75F,  0.1836025},
+    {"RisingAgain",         68.5F,   0.186715},
+    {"Near100FromAbove",    102.0F,  0.261292},
+    {"HalfWay",             102.5F,  0.262355},
+    {"Near105FromBelow",    104.0F,  0.265544},
+    {"Before385",           384.0F,  0.850366},
+    {"After385",            386.0F,  0.854664},
+    {"NarrowRows",          521.0F,  1.156316},
+    {"Near525FromBelow",    524.0F,  1.162904},
+    {"WideRowsLower",       2100.0F, 5.850012},
+    {"WideRowsUpper",       2400.0F, 7.262598},
+    {"HalfWayTo3000",       2750.0F, 9.79764},
+    {"LastRowFromBelow",    2999.0F, 11.853563},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(SteamTable, SteamBetweenRows, ::testing::ValuesIn(kPointRows), kRowName);
+
+TEST(SteamTableTest, TheFallingPartLiesBelowTheRowBefore) {
+    EXPECT_LT(DensityAt(67.5F), DensityAt(67.0F));
+}
+
+// Half-way between two rows the lower one is the nearest; it shows in the last place only.
+TEST(SteamTableTest, OnATieTheLowerRowIsTheNearest) {
+    int told = 0;
+    for (size_t i = 0; i + 1 < kSteamTable.size(); ++i) {
+        const SteamTableRow& low = kSteamTable[i];
+        const SteamTableRow& high = kSteamTable[i + 1];
+        const float step = static_cast<float>(high.pressurePsig - low.pressurePsig);
+        const float p = static_cast<float>(low.pressurePsig) + step / 2;
+        const float fromLow =
+            (p - static_cast<float>(low.pressurePsig)) * (high.density - low.density) / step +
+            low.density;
+        const float fromHigh =
+            (p - static_cast<float>(high.pressurePsig)) * (low.density - high.density) / -step +
+            high.density;
+        EXPECT_EQ(DensityAt(p), fromLow) << p;
+        told += fromLow != fromHigh ? 1 : 0;
+    }
+    EXPECT_GT(told, 0) << "rows where the two ways differ";
+}
+
+TEST(SteamTableTest, BothEndsAreInTheTable) {
+    EXPECT_EQ(DensityAt(0.0F), 0.03738F);
+    EXPECT_EQ(DensityAt(-0.0F), 0.03738F);
+    EXPECT_EQ(DensityAt(3000.0F), 11.86182F);
+    EXPECT_NEAR(double{DensityAt(std::nextafter(3000.0F, 0.0F))}, 11.86182, 1e-5);
+    EXPECT_NEAR(double{DensityAt(std::nextafter(0.0F, 1.0F))}, 0.03738, 1e-7);
+}
+
+TEST(SteamTableTest, OneSingleOutsideIsOutside) {
+    EXPECT_EQ(SaturatedSteamDensity(std::nextafter(0.0F, -1.0F)).range, SteamRange::BelowTable);
+    EXPECT_EQ(SaturatedSteamDensity(std::nextafter(3000.0F, 4000.0F)).range,
+              SteamRange::AboveTable);
+    EXPECT_EQ(SaturatedSteamDensity(-14.7F).range, SteamRange::BelowTable);
+    EXPECT_EQ(SaturatedSteamDensity(3001.0F).range, SteamRange::AboveTable);
+    constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(SaturatedSteamDensity(kInfinity).range, SteamRange::AboveTable);
+    EXPECT_EQ(SaturatedSteamDensity(-kInfinity).range, SteamRange::BelowTable);
+}
+
+}  // namespace
+
+}  // namespace tarvix

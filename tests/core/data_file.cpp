@@ -1,0 +1,53 @@
+#include "data_file.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+
+namespace {
+
+DataRow SplitAtTabs(const std::string& line) {
+    DataRow columns{""};
+    for (const char c : line) {
+        if (c == '\t') {
+            columns.emplace_back();
+        } else {
+            columns.back() += c;
+        }
+    }
+    return columns;
+}
+
+}  // namespace
+
+std::vector<DataRow> ReadDataFile(const std::string& name) {
+    std::ifstream file(std::string(TARVIX_TEST_DATA) + "/" + name);
+    std::string line;
+    if (!std::getline(file, line)) {
+        ADD_FAILURE() << "cannot read " << name;
+        return {};
+    }
+    const size_t columns = SplitAtTabs(line).size();
+    std::vector<DataRow> rows;
+    while (std::getline(file, line)) {
+        rows.push_back(SplitAtTabs(line));
+        if (rows.back().size() != columns) {
+            ADD_FAILURE() << name << ": odd row: " << line;
+            return {};
+        }
+    }
+    return rows;
+}
+
+std::vector<DataRow> RowsOf(const std::vector<DataRow>& rows, const std::string& key) {
+    std::vector<DataRow> found;
+    for (const DataRow& row : rows) {
+        if (row.front() == key) {
+            found.push_back(row);
+        }
+    }
+    return found;
+}
+
+}  // namespace tarvix::testing

@@ -1,0 +1,97 @@
+// Bore and beta follow each other through the pipe's inside diameter.
+#include "units/bore_and_beta.h"
+
+#include "app/number_text.h"
+#include "locales.h"
+#include "units/unit_tables.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+constexpr float kMax = std::numeric_limits<float>::max();
+
+std::string ThreeDecimals(std::optional<float> bore) {
+    return bore ? FormatNumber(*bore, 3, kUnitedStates, Grouping::Off) : "none";
+}
+std::string FiveDecimals(std::optional<float> beta) {
+    return beta ? FormatNumber(*beta, 5, kUnitedStates, Grouping::Off) : "none";
+}
+
+TEST(BoreAndBetaTest, TheLimitIsASingle) {
+    EXPECT_EQ(kBetaLimit, 0.95F);
+}
+
+TEST(BoreAndBetaTest, OneInchInATwoInchPipe) {
+    EXPECT_EQ(FiveDecimals(BetaFromBore(1.0F, 2.067F, 1.0F)), "0.48379");
+}
+
+TEST(BoreAndBetaTest, HalfOfATwoInchPipeInMillimeters) {
+    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 2.067F, kLengthUnits[1].factor)), "26.251");
+    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 2.067F, kLengthUnits[2].factor)), "2.625");
+    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 2.067F, kLengthUnits[0].factor)), "1.034");
+}
+
+TEST(BoreAndBetaTest, FourInchPipeWithHalfBeta) {
+    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 4.026F, 1.0F)), "2.013");
+}
+
+TEST(BoreAndBetaTest, BetaOfABoreInMillimeters) {
+    // 26.251 x 0.03937008 / 2.067 = 0.500002
+    EXPECT_EQ(FiveDecimals(BetaFromBore(26.251F, 2.067F, kLengthUnits[1].factor)), "0.50000");
+    EXPECT_EQ(FiveDecimals(BetaFromBore(40.0F, 2.067F, kLengthUnits[1].factor)), "0.76188");
+}
+
+TEST(BoreAndBetaTest, EachStepIsSingle) {
+    // In double precision the first would end in ...6428, the second in ...3661.
+    EXPECT_EQ(BoreFromBeta(0.101007F, 13.124F, 0.03937008F), 33.67063904F);
+    EXPECT_EQ(BetaFromBore(10.007F, 13.124F, 0.03937008F), 0.03001953475F);
+}
+
+TEST(BoreAndBetaTest, ThereAndBackInEveryUnitAndPipe) {
+    int cases = 0;
+    for (const Unit& unit : kLengthUnits) {
+        for (float pipe = 0.25F; pipe < 42.0F; pipe *= 1.7F) {
+            for (float beta = 0.05F; beta < 0.95F; beta += 0.05F) {
+                const auto bore = BoreFromBeta(beta, pipe, unit.factor);
+                ASSERT_TRUE(bore.has_value());
+                const auto back = BetaFromBore(*bore, pipe, unit.factor);
+                ASSERT_TRUE(back.has_value());
+                EXPECT_NEAR(double{*back}, double{beta}, 2e-7);
+                ++cases;
+            }
+        }
+    }
+    EXPECT_GT(cases, 400);
+}
+
+TEST(BoreAndBetaTest, ANegativeOrHugeBetaStillHasABore) {
+    EXPECT_EQ(BoreFromBeta(-0.5F, 2.0F, 1.0F), -1.0F);
+    EXPECT_EQ(BoreFromBeta(100.0F, 2.0F, 1.0F), 200.0F);
+    EXPECT_EQ(BetaFromBore(-1.0F, 2.0F, 1.0F), -0.5F);
+    EXPECT_EQ(BetaFromBore(0.0F, 2.0F, 1.0F), 0.0F);
+}
+
+TEST(BoreAndBetaTest, APipeWithoutDiameterHasNoBeta) {
+    EXPECT_EQ(BetaFromBore(1.0F, 0.0F, 1.0F), std::nullopt);
+    EXPECT_EQ(BetaFromBore(0.0F, 0.0F, 1.0F), std::nullopt);
+    EXPECT_EQ(BetaFromBore(1.0F, -0.0F, 1.0F), std::nullopt);
+    EXPECT_EQ(BoreFromBeta(0.5F, 0.0F, 1.0F), 0.0F);
+}
+
+TEST(BoreAndBetaTest, OverflowGivesNothing) {
+    EXPECT_EQ(BoreFromBeta(kMax, 2.0F, 1.0F), std::nullopt);
+    EXPECT_EQ(BoreFromBeta(kMax, 1.0F, 0.03937008F), std::nullopt);
+    EXPECT_EQ(BetaFromBore(kMax, 0.5F, 1.0F), std::nullopt);
+    EXPECT_EQ(BetaFromBore(kMax, 2.0F, 3.0F), std::nullopt);
+    EXPECT_EQ(BoreFromBeta(kMax, 0.5F, 1.0F), kMax / 2);
+}
+
+}  // namespace
+
+}  // namespace tarvix

@@ -1,0 +1,131 @@
+// Nominal sizes and pipe schedules against a second copy of their entries.
+#include "units/nominal_sizes.h"
+
+#include "data_file.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+TEST(NominalSizesTest, AreTheListedOnesEntryByEntry) {
+    const auto rows = ReadDataFile("nominal_sizes.tsv");
+    ASSERT_EQ(kNominalSizes.size(), rows.size());
+    for (size_t i = 0; i < rows.size(); ++i) {
+        SCOPED_TRACE(rows[i][1]);
+        EXPECT_EQ(rows[i][0], std::to_string(i));
+        EXPECT_EQ(kNominalSizes[i].text, rows[i][1]);
+        EXPECT_EQ(kNominalSizes[i].value, rows[i][2]);
+    }
+}
+
+TEST(NominalSizesTest, TheDefaultIsTwoInches) {
+    EXPECT_EQ(kDefaultNominalSize, "2");
+    EXPECT_EQ(kNominalSizes[4].value, kDefaultNominalSize);
+}
+
+TEST(PipeSchedulesTest, AreTheListedOnesEntryByEntry) {
+    const auto rows = ReadDataFile("pipe_schedules.tsv");
+    std::set<std::string> sizes;
+    for (const auto& row : rows) {
+        sizes.insert(row[0]);
+    }
+    ASSERT_EQ(sizes.size(), 25U);
+    ASSERT_EQ(rows.size(), 202U);
+
+    size_t entries = 0;
+    for (const std::string& size : sizes) {
+        const auto expected = RowsOf(rows, size);
+        const auto schedules = SchedulesOf(size);
+        ASSERT_EQ(schedules.size(), expected.size()) << size;
+        for (size_t i = 0; i < expected.size(); ++i) {
+            SCOPED_TRACE(size + " " + expected[i][2]);
+            EXPECT_EQ(expected[i][1], std::to_string(i));
+            EXPECT_EQ(schedules[i].text, expected[i][2]);
+            EXPECT_EQ(schedules[i].insideDiameter, expected[i][3]);
+            ++entries;
+        }
+    }
+    EXPECT_EQ(entries, rows.size());
+}
+
+TEST(PipeSchedulesTest, EveryNominalSizeHasSchedules) {
+    for (const NominalSize& size : kNominalSizes) {
+        EXPECT_FALSE(SchedulesOf(size.value).empty()) << size.value;
+    }
+}
+
+TEST(PipeSchedulesTest, NoSizeIsFoundByAnythingButItsValueText) {
+    for (const char* value : {"", "0,5", "1,5", "0.50", " 2", "2 ", "2.0", "1/2", "7", "48"}) {
+        EXPECT_TRUE(SchedulesOf(value).empty()) << value;
+    }
+}
+
+TEST(PipeSchedulesTest, TwentyEightInchesIsKeptThoughNoListOffersIt) {
+    EXPECT_EQ(SchedulesOf("28").size(), 4U);
+    for (const NominalSize& size : kNominalSizes) {
+        EXPECT_NE(size.value, "28");
+    }
+}
+
+TEST(PipeSchedulesTest, TwoInchesStartsWithScheduleForty) {
+    EXPECT_EQ(SchedulesOf("2")[0].text, "Sch 40, STD, Sch 40S");
+    EXPECT_EQ(SchedulesOf("2")[0].insideDiameter, "2.067");
+}
+
+TEST(PipeSchedulesTest, FortyTwoInchesHasTwoSchedulesAndTwentySixThree) {
+    const auto largest = SchedulesOf("42");
+    ASSERT_EQ(largest.size(), 2U);
+    EXPECT_EQ(largest[0].text, "XS");
+    EXPECT_EQ(largest[0].insideDiameter, "41.000");
+    EXPECT_EQ(largest[1].text, "STD");
+    EXPECT_EQ(largest[1].insideDiameter, "41.250");
+    const auto twentySix = SchedulesOf("26");
+    ASSERT_EQ(twentySix.size(), 3U);
+    EXPECT_EQ(twentySix[0].text, "XS, Sch 20");
+    EXPECT_EQ(twentySix[1].text, "STD");
+    EXPECT_EQ(twentySix[2].text, "Sch 10");
+}
+
+TEST(PipeSchedulesTest, TheOddEntryOfSixInchesIsKept) {
+    EXPECT_EQ(SchedulesOf("6")[5].text, "Sch 160 5.187");
+    EXPECT_EQ(SchedulesOf("6")[5].insideDiameter, "5.189");
+}
+
+TEST(PipeSchedulesTest, NoTenInchPipeHasTheDiameterOfEightInchExtraStrong) {
+    EXPECT_EQ(SchedulesOf("8")[1].insideDiameter, "7.625");
+    for (const PipeSchedule& schedule : SchedulesOf("10")) {
+        EXPECT_NE(schedule.insideDiameter, "7.625");
+    }
+}
+
+// Nothing a table could get wrong by a slip of one figure.
+TEST(PipeSchedulesTest, EveryPipeIsNarrowerThanItsOutside) {
+    // Outside diameters in inches of the nominal sizes whose outside is not the nominal size.
+    const auto outside = [](double nominal) {
+        if (nominal >= 14) {
+            return nominal;
+        }
+        return nominal < 0.8 ? nominal + 0.35 : nominal + 0.9;
+    };
+    for (const NominalSize& size : kNominalSizes) {
+        const double nominal = std::strtod(std::string(size.value).c_str(), nullptr);
+        for (const PipeSchedule& schedule : SchedulesOf(size.value)) {
+            const std::string text(schedule.insideDiameter);
+            const double inside = std::strtod(text.c_str(), nullptr);
+            EXPECT_LT(inside, outside(nominal)) << size.value << " " << schedule.text;
+            EXPECT_GT(inside, nominal * 0.5) << size.value << " " << schedule.text;
+            EXPECT_EQ(text.size() - text.find('.'), 4U) << text << " has three decimals";
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace tarvix

@@ -1,0 +1,186 @@
+// The texts of the nominal size and pipe ID lists.
+#include "units/pipe_id_texts.h"
+
+#include "locales.h"
+#include "named_row.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvix {
+
+namespace {
+
+using namespace testing;
+
+const Unit& kInch = kLengthUnits[0];
+const Unit& kMillimeter = kLengthUnits[1];
+const Unit& kCentimeter = kLengthUnits[2];
+const Unit kFoot{"Feet", 12.0F};
+const Unit kLowerCase{"millimeters", 0.03937008F};
+
+// Nominal sizes -----------------------------------------------------------------------------------
+
+struct SizeRow : NamedRow {
+    const char* shown;
+    float inches;
+    const char* millimeters;
+    const char* centimeters;
+};
+
+class NominalSizeShown : public ::testing::TestWithParam<SizeRow> {};
+
+TEST_P(NominalSizeShown, InEveryUnit) {
+    const auto& row = GetParam();
+    EXPECT_EQ(NominalSizeText(row.shown, row.inches, kInch, kUnitedStates), row.shown);
+    EXPECT_EQ(NominalSizeText(row.shown, row.inches, kMillimeter, kUnitedStates), row.millimeters);
+    EXPECT_EQ(NominalSizeText(row.shown, row.inches, kCentimeter, kUnitedStates), row.centimeters);
+}
+
+// Sizes divided by the factors, whose seven digits show: 2.5 inches are 6.349999 cm, not 6.35.
+// clang-format off
+const SizeRow kSizeRows[] = {
+    {"Half",             "1/2",   0.5F,  "12.7",   "1.3"},
+    {"ThreeQuarters",    "3/4",   0.75F, "19.1",   "1.9"},
+    {"One",              "1",     1.0F,  "25.4",   "2.5"},
+    {"OneAndAHalf",      "1-1/2", 1.5F,  "38.1",   "3.8"},
+    {"Two",              "2",     2.0F,  "50.8",   "5.1"},
+    {"TwoAndAHalf",      "2-1/2", 2.5F,  "63.5",   "6.3"},
+    {"Three",            "3",     3.0F,  "76.2",   "7.6"},
+    {"Four",             "4",     4.0F,  "101.6",  "10.2"},
+    {"Five",             "5",     5.0F,  "127.0",  "12.7"},
+    {"Six",              "6",     6.0F,  "152.4",  "15.2"},
+    {"Eight",            "8",     8.0F,  "203.2",  "20.3"},
+    {"Ten",              "10",    10.0F, "254.0",  "25.4"},
+    {"Twelve",           "12",    12.0F, "304.8",  "30.5"},
+    {"Fourteen",         "14",    14.0F, "355.6",  "35.6"},
+    {"Sixteen",          "16",    16.0F, "406.4",  "40.6"},
+    {"Eighteen",         "18",    18.0F, "457.2",  "45.7"},
+    {"Twenty",           "20",    20.0F, "508.0",  "50.8"},
+    {"TwentyTwo",        "22",    22.0F, "558.8",  "55.9"},
+    {"TwentyFour",       "24",    24.0F, "609.6",  "61.0"},
+    {"TwentySix",        "26",    26.0F, "660.4",  "66.0"},
+    {"Thirty",           "30",    30.0F, "762.0",  "76.2"},
+    {"ThirtyFour",       "34",    34.0F, "863.6",  "86.4"},
+    {"ThirtySix",        "36",    36.0F, "914.4",  "91.4"},
+    {"FortyTwo",         "42",    42.0F, "1066.8", "106.7"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(PipeIdTexts, NominalSizeShown, ::testing::ValuesIn(kSizeRows), kRowName);
+
+TEST(PipeIdTextsTest, NominalSizesFollowTheLocaleAndAreNotGrouped) {
+    EXPECT_EQ(NominalSizeText("1/2", 0.5F, kMillimeter, kGermany), "12,7");
+    EXPECT_EQ(NominalSizeText("42", 42.0F, kMillimeter, kGermany), "1066,8");
+}
+
+// Schedules ---------------------------------------------------------------------------------------
+
+TEST(PipeIdTextsTest, AScheduleInInches) {
+    EXPECT_EQ(ScheduleText("2.067", "Sch 40, STD, Sch 40S", kInch, kUnitedStates),
+              "2.067\"  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(ScheduleText("0.710", "XXS", kInch, kUnitedStates), "0.710\"  XXS");
+}
+
+TEST(PipeIdTextsTest, AScheduleInMillimetersAndCentimeters) {
+    EXPECT_EQ(ScheduleText("2.067", "Sch 40, STD, Sch 40S", kMillimeter, kUnitedStates),
+              "2.067\"  (52.50 mm)  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(ScheduleText("2.067", "Sch 40, STD, Sch 40S", kCentimeter, kUnitedStates),
+              "2.067\"  (5.25 cm)  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(ScheduleText("41.250", "STD", kMillimeter, kUnitedStates),
+              "41.250\"  (1047.75 mm)  STD");
+}
+
+TEST(PipeIdTextsTest, AScheduleFollowsTheLocale) {
+    EXPECT_EQ(ScheduleText("2,067", "XXS", kInch, kGermany), "2,067\"  XXS");
+    EXPECT_EQ(ScheduleText("2,067", "XXS", kMillimeter, kGermany), "2,067\"  (52,50 mm)  XXS");
+    EXPECT_EQ(ScheduleText("41,250", "STD", kMillimeter, kGermany), "41,250\"  (1047,75 mm)  STD");
+}
+
+TEST(PipeIdTextsTest, AScheduleInAnyOtherUnitHasNoText) {
+    EXPECT_EQ(ScheduleText("2.067", "XXS", kFoot, kUnitedStates), std::nullopt);
+    EXPECT_EQ(ScheduleText("2.067", "XXS", kLowerCase, kUnitedStates), std::nullopt);
+}
+
+// User-entered pipes ------------------------------------------------------------------------------
+
+TEST(PipeIdTextsTest, TheTextsOfTheUserEnteredEntry) {
+    EXPECT_EQ(kOtherUserEntered, "Other (User Entered)");
+    EXPECT_EQ(kUserEntered, "(User Entered)");
+    EXPECT_EQ(kNoDiameterYet, "0");
+}
+
+struct UserRow : NamedRow {
+    double answer;
+    const Unit* unit;
+    const NumberLocale* locale;
+    const char* diameter;
+    const char* shown;
+};
+
+class UserEntered : public ::testing::TestWithParam<UserRow> {};
+
+TEST_P(UserEntered, HasItsDiameterInInchesAndItsText) {
+    const auto& row = GetParam();
+    const auto pipe = UserEnteredPipeOf(row.answer, *row.unit, *row.locale);
+    ASSERT_TRUE(pipe.has_value());
+    EXPECT_EQ(pipe->diameterText, row.diameter);
+    EXPECT_EQ(pipe->shownText, row.shown);
+}
+
+// Three blanks stand between the closing parenthesis and "(User Entered)".
+// clang-format off
+const UserRow kUserRows[] = {
+    {"Inches",          5.5,        &kInch,       &kUnitedStates, "5.500",    "5.500\" (User Entered)"},
+    {"InchesRoundUp",   2.0675,     &kInch,       &kUnitedStates, "2.068",    "2.068\" (User Entered)"},
+    {"InchesLarge",     12345.6789, &kInch,       &kUnitedStates, "12345.679", "12345.679\" (User Entered)"},
+    {"InchesManyDigits", 123456.7894, &kInch,     &kUnitedStates, "123456.789", "123456.789\" (User Entered)"},
+    {"InchesTooSmall",  0.0004,     &kInch,       &kUnitedStates, "0.000",    "0.000\" (User Entered)"},
+    {"InchesGerman",    5.5,        &kInch,       &kGermany,      "5,500",    "5,500\" (User Entered)"},
+    {"Millimeters",     50.8,       &kMillimeter, &kUnitedStates, "2.000",    "2.000\"  (50.80 mm)   (User Entered)"},
+    {"MillimetersRoundedFirst", 12.345, &kMillimeter, &kUnitedStates, "0.486", "0.486\"  (12.35 mm)   (User Entered)"},
+    {"MillimetersLarge", 1234.5,    &kMillimeter, &kUnitedStates, "48.602",   "48.602\"  (1234.50 mm)   (User Entered)"},
+    {"MillimetersGerman", 1234.5,   &kMillimeter, &kGermany,      "48,602",   "48,602\"  (1234,50 mm)   (User Entered)"},
+    {"MillimetersTooSmall", 0.004,  &kMillimeter, &kUnitedStates, "0.000",    "0.000\"  (0.00 mm)   (User Entered)"},
+    {"Centimeters",     5.25,       &kCentimeter, &kUnitedStates, "2.067",    "2.067\"  (5.25 cm)   (User Entered)"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(PipeIdTexts, UserEntered, ::testing::ValuesIn(kUserRows), kRowName);
+
+TEST(PipeIdTextsTest, AnAnswerInAnyOtherUnitHasNoText) {
+    EXPECT_FALSE(UserEnteredPipeOf(5.0, kFoot, kUnitedStates).has_value());
+    EXPECT_FALSE(UserEnteredPipeOf(5.0, kLowerCase, kUnitedStates).has_value());
+}
+
+// Pipe diameter in a unit -------------------------------------------------------------------------
+
+TEST(PipeIdTextsTest, ThePipeDiameterInInchesIsThatOfTheTable) {
+    EXPECT_EQ(PipeDiameterInUnit(kInches, "2.067", "2.067\"  (52.50 mm)  XXS"), "2.067");
+    EXPECT_EQ(PipeDiameterInUnit(kInches, "5,500", "5,500\" (User Entered)"), "5,500");
+}
+
+TEST(PipeIdTextsTest, ThePipeDiameterInAMetricUnitStandsInTheListsText) {
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", "2.067\"  (52.50 mm)  XXS"), "52.50");
+    EXPECT_EQ(PipeDiameterInUnit(kCentimeters, "2.067", "2.067\"  (5.25 cm)  XXS"), "5.25");
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.000", "2.000\"  (50.80 mm)   (User Entered)"),
+              "50.80");
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2,067", "2,067\"  (1052,50 mm)  XXS"), "1052,50");
+}
+
+TEST(PipeIdTextsTest, ThePipeDiameterOfAnEntryWithoutOneIsEmpty) {
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "0", "Other (User Entered)"), "");
+    EXPECT_EQ(PipeDiameterInUnit(kCentimeters, "0", "Other (User Entered)"), "");
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", "2.067\"  (5.25 cm)  XXS"), "");
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", "no parenthesis 5 mm"), "");
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", " mm before (5"), "");
+    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", ""), "");
+}
+
+TEST(PipeIdTextsTest, ThePipeDiameterInAnyOtherUnitIsNotKnown) {
+    EXPECT_EQ(PipeDiameterInUnit("Feet", "2.067", "2.067\"  XXS"), std::nullopt);
+    EXPECT_EQ(PipeDiameterInUnit("", "2.067", "2.067\"  XXS"), std::nullopt);
+}
+
+}  // namespace
+
+}  // namespace tarvix
