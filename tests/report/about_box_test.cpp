@@ -1,0 +1,107 @@
+#include "ui/about_box.h"
+
+#include "tests/report/modal_driver.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+namespace {
+
+struct LabelText {
+    const char* label;
+    const char* text;
+};
+
+constexpr LabelText kTexts[] = {
+    {"Label17", "Brindle Tarvix        Version 3.0"},
+    {"Label1", "The Tarvix is made available from Brindle Measurement and Control, Inc."},
+    {"Label2",
+     "to assist in the calculation of orifice diameters.  For a given set of input variables, the"},
+    {"Label3", "Tarvix will display the respective beta value (ratio of orifice diameter to"},
+    {"Label4", "pipe diameter), pressure differential or flow rate."},
+    {"Label5",
+     "Values for the beta ratio are approximate, typically within 2% - 5% for gases and steam,"},
+    {"Label6",
+     "and 1% for liquids.  The ASME MFC-3M 1989 equation is used in this program along with"},
+    {"Label7",
+     "several assumed factors, which are noted on the printout.  This program does not take"},
+    {"Label8",
+     "into consideration two calculation variables - the Reynolds Number correction and the"},
+    {"Label9", "expansion factor.  For gas calculations with high operating pressures, greater"},
+    {"Label18", "inaccuracies will occur if no compressibility correction factor is entered"},
+    {"Label10", "The Tarvix is provided for estimation purposes only.  If it is necessary to"},
+    {"Label11",
+     "have a closely specified pressure differential, flow rate, or bore diameter, please consult"},
+    {"Label12", "your Brindle representative for assistance."},
+    {"Label13",
+     "Final selection decisions may be influenced by information not evaluated by the Tarvix"},
+    {"Label14", "and final selection responsibility is that of the individual user."},
+    {"Label15", "For further information on Brindle products and services, visit our web site at"},
+    {"Label16", "www.brindle.example"},
+};
+
+void ExpectTexts(const AboutBox& box) {
+    EXPECT_EQ(box.windowTitle(), "About Brindle Tarvix");
+    for (const LabelText& expected : kTexts) {
+        const auto* label = box.findChild<QLabel*>(expected.label);
+        ASSERT_NE(label, nullptr) << expected.label;
+        EXPECT_EQ(label->text(), QString::fromUtf8(expected.text)) << expected.label;
+        EXPECT_TRUE(label->isVisible()) << expected.label;
+    }
+    EXPECT_EQ(box.findChildren<QLabel*>().size(), 18);
+}
+
+TEST(AboutBoxTest, ShowsItsTextsEachTimeItIsOpened) {
+    for (int time = 1; time <= 2; ++time) {
+        AboutBox box;
+        box.show();
+        ExpectTexts(box);
+    }
+}
+
+TEST(AboutBoxTest, EveryLineIsShownInFullAndBelowTheOneBefore) {
+    AboutBox box;
+    box.show();
+    int bottom = 0;
+    for (const LabelText& expected : kTexts) {
+        const auto* label = box.findChild<QLabel*>(expected.label);
+        const QRect place(label->mapTo(&box, QPoint(0, 0)), label->size());
+        EXPECT_GE(place.top(), bottom) << expected.label;
+        bottom = place.bottom();
+        EXPECT_GE(label->width(), label->sizeHint().width()) << expected.label;
+        EXPECT_TRUE(box.rect().contains(place)) << expected.label;
+    }
+}
+
+TEST(AboutBoxTest, StandsInTwoFrames) {
+    const AboutBox box;
+    EXPECT_NE(box.findChild<QFrame*>("Frame1"), nullptr);
+    EXPECT_NE(box.findChild<QFrame*>("Frame2"), nullptr);
+}
+
+TEST(AboutBoxTest, ButtonClosesIt) {
+    AboutBox box;
+    bool modal = false;
+    const ModalDriver<AboutBox> user([&modal](AboutBox& shown) {
+        modal = shown.isModal();
+        QTest::mouseClick(shown.findChild<QPushButton*>("cmdExit"), Qt::LeftButton);
+    });
+    box.exec();
+    EXPECT_TRUE(user.done());
+    EXPECT_TRUE(modal);
+    EXPECT_FALSE(box.isVisible());
+}
+
+TEST(AboutBoxTest, EnterAndEscapeCloseIt) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        AboutBox box;
+        box.show();
+        QTest::keyClick(&box, key);
+        EXPECT_FALSE(box.isVisible());
+    }
+}
+
+}  // namespace
+}  // namespace tarvix::testing

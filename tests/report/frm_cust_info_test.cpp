@@ -1,0 +1,229 @@
+// The customer window, used as a person would: keys and clicks on the shown window.
+#include "ui/frm_cust_info.h"
+
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace tarvix::testing {
+namespace {
+
+constexpr int kPrint = 1;
+constexpr int kDoNotPrint = 2;
+
+class CustomerWindowTest : public ::testing::Test {
+  protected:
+    // Shows a fresh window, as for every report.
+    frmCustInfo& Open() {
+        window_ = std::make_unique<frmCustInfo>(module_);
+        window_->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        return *window_;
+    }
+
+    static void Type(QWidget* field, const QString& text) {
+        field->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(field, text);
+    }
+
+    void ExpectStored(const std::string& line1, const std::string& line2, const std::string& tag) {
+        EXPECT_EQ(module_.CustLine1, line1);
+        EXPECT_EQ(module_.CustLine2, line2);
+        EXPECT_EQ(module_.TagText, tag);
+    }
+
+    RecordingPlatform platform_;
+    Module1 module_{platform_, kUnitedStates};
+    std::unique_ptr<frmCustInfo> window_;
+};
+
+TEST_F(CustomerWindowTest, CaptionsAndNames) {
+    const frmCustInfo& window = Open();
+    EXPECT_EQ(window.windowTitle(), "Brindle Tarvix");
+    EXPECT_TRUE(window.isModal());
+    EXPECT_EQ(window.findChild<QLabel*>("Label1")->text(), "Customer");
+    EXPECT_EQ(window.findChild<QLabel*>("Label2")->text(), "Tag");
+    EXPECT_EQ(window.findChild<QPushButton*>("cmdPrint")->text(), "Print");
+    EXPECT_EQ(window.findChild<QPushButton*>("cmdClear")->text(), "Clear");
+    EXPECT_EQ(window.findChild<QPushButton*>("cmdCancel")->text(), "Cancel");
+    const auto* frame = window.findChild<QFrame*>("Frame1");
+    ASSERT_NE(frame, nullptr);
+    for (const char* name : {"txtCust1", "txtCust2", "txtTag"}) {
+        const auto* field = window.findChild<QLineEdit*>(name);
+        ASSERT_NE(field, nullptr) << name;
+        EXPECT_EQ(field->parentWidget(), frame) << name;
+        EXPECT_FALSE(field->accessibleName().isEmpty()) << name;
+    }
+}
+
+TEST_F(CustomerWindowTest, OpensEmptyAndWithNothingPrinted) {
+    module_.MsgResult = kPrint;  // of the last message box
+    const frmCustInfo& window = Open();
+    EXPECT_EQ(module_.MsgResult, kDoNotPrint);
+    EXPECT_EQ(window.txtCust1->text(), "");
+    EXPECT_EQ(window.txtCust2->text(), "");
+    EXPECT_EQ(window.txtTag->text(), "");
+    EXPECT_TRUE(window.txtCust1->hasFocus());
+}
+
+TEST_F(CustomerWindowTest, PrintStoresWhatWasTypedAndClosesTheWindow) {
+    frmCustInfo& window = Open();
+    Type(window.txtCust1, "Northfield Refinery");
+    Type(window.txtCust2, "Unit 4");
+    Type(window.txtTag, "FE-4102");
+    ExpectStored("", "", "");
+    QTest::mouseClick(window.cmdPrint, Qt::LeftButton);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(module_.MsgResult, kPrint);
+    ExpectStored("Northfield Refinery", "Unit 4", "FE-4102");
+}
+
+TEST_F(CustomerWindowTest, NextReportStartsWithTheLastTextsSelected) {
+    frmCustInfo& first = Open();
+    Type(first.txtCust1, "Northfield Refinery");
+    first.cmdPrint->click();
+
+    frmCustInfo& second = Open();
+    EXPECT_EQ(second.txtCust1->text(), "Northfield Refinery");
+    EXPECT_EQ(second.txtCust1->selectedText(), "Northfield Refinery");
+    QTest::keyClicks(second.txtCust1, "Sawyer");
+    EXPECT_EQ(second.txtCust1->text(), "Sawyer");
+}
+
+TEST_F(CustomerWindowTest, GettingTheFocusSelectsTheWholeText) {
+    module_.CustLine1 = "one";
+    module_.CustLine2 = "two";
+    module_.TagText = "three";
+    frmCustInfo& window = Open();
+    QTest::keyClick(&window, Qt::Key_Tab);
+    EXPECT_TRUE(window.txtCust2->hasFocus());
+    EXPECT_EQ(window.txtCust2->selectedText(), "two");
+    QTest::keyClick(&window, Qt::Key_Tab);
+    EXPECT_TRUE(window.txtTag->hasFocus());
+    EXPECT_EQ(window.txtTag->selectedText(), "three");
+    QTest::keyClick(&window, Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(window.txtCust2->selectedText(), "two");
+}
+
+TEST_F(CustomerWindowTest, ClickSelectsTheWholeTextAndASecondClickSetsTheCaret) {
+    module_.TagText = "FE-4102";
+    frmCustInfo& window = Open();
+    QTest::mouseClick(window.txtTag, Qt::LeftButton, {}, QPoint(8, window.txtTag->height() / 2));
+    EXPECT_TRUE(window.txtTag->hasFocus());
+    EXPECT_EQ(window.txtTag->selectedText(), "FE-4102");
+    QTest::mouseClick(window.txtTag, Qt::LeftButton, {}, QPoint(8, window.txtTag->height() / 2));
+    EXPECT_EQ(window.txtTag->selectedText(), "");
+}
+
+TEST_F(CustomerWindowTest, CancelKeepsTheStoredTexts) {
+    module_.CustLine1 = "Northfield Refinery";
+    module_.TagText = "FE-4102";
+    frmCustInfo& window = Open();
+    Type(window.txtCust1, "Sawyer");
+    Type(window.txtCust2, "typed for nothing");
+    QTest::mouseClick(window.cmdCancel, Qt::LeftButton);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(module_.MsgResult, kDoNotPrint);
+    ExpectStored("Northfield Refinery", "", "FE-4102");
+}
+
+TEST_F(CustomerWindowTest, ClearEmptiesTheFieldsOnly) {
+    module_.CustLine1 = "Northfield Refinery";
+    module_.CustLine2 = "Unit 4";
+    module_.TagText = "FE-4102";
+    frmCustInfo& window = Open();
+    QTest::mouseClick(window.cmdClear, Qt::LeftButton);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.txtCust1->text(), "");
+    EXPECT_EQ(window.txtCust2->text(), "");
+    EXPECT_EQ(window.txtTag->text(), "");
+    EXPECT_EQ(module_.MsgResult, kDoNotPrint);
+    ExpectStored("Northfield Refinery", "Unit 4", "FE-4102");
+}
+
+TEST_F(CustomerWindowTest, ClearThenCancelKeepsTheStoredTexts) {
+    module_.CustLine1 = "Northfield Refinery";
+    frmCustInfo& window = Open();
+    window.cmdClear->click();
+    window.cmdCancel->click();
+    ExpectStored("Northfield Refinery", "", "");
+    EXPECT_EQ(Open().txtCust1->text(), "Northfield Refinery");
+}
+
+TEST_F(CustomerWindowTest, ClearThenPrintStoresEmptyTexts) {
+    module_.CustLine1 = "Northfield Refinery";
+    module_.CustLine2 = "Unit 4";
+    module_.TagText = "FE-4102";
+    frmCustInfo& window = Open();
+    window.cmdClear->click();
+    window.cmdPrint->click();
+    EXPECT_EQ(module_.MsgResult, kPrint);
+    ExpectStored("", "", "");
+}
+
+TEST_F(CustomerWindowTest, EmptyTextsCanBePrinted) {
+    frmCustInfo& window = Open();
+    window.cmdPrint->click();
+    EXPECT_EQ(module_.MsgResult, kPrint);
+    ExpectStored("", "", "");
+}
+
+TEST_F(CustomerWindowTest, CloseBoxPrintsNothing) {
+    module_.CustLine1 = "Northfield Refinery";
+    frmCustInfo& window = Open();
+    Type(window.txtCust1, "Sawyer");
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(module_.MsgResult, kDoNotPrint);
+    ExpectStored("Northfield Refinery", "", "");
+}
+
+TEST_F(CustomerWindowTest, EnterPrintsFromEveryField) {
+    for (const char* name : {"txtCust1", "txtCust2", "txtTag"}) {
+        frmCustInfo& window = Open();
+        auto* field = window.findChild<QLineEdit*>(name);
+        Type(field, name);
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_FALSE(window.isVisible()) << name;
+        EXPECT_EQ(module_.MsgResult, kPrint) << name;
+    }
+    ExpectStored("txtCust1", "txtCust2", "txtTag");
+}
+
+TEST_F(CustomerWindowTest, EscapeCancels) {
+    frmCustInfo& window = Open();
+    Type(window.txtTag, "FE-4102");
+    QTest::keyClick(window.txtTag, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(module_.MsgResult, kDoNotPrint);
+    ExpectStored("", "", "");
+}
+
+TEST_F(CustomerWindowTest, TabGoesRoundInOrder) {
+    frmCustInfo& window = Open();
+    for (const char* name :
+         {"txtCust2", "txtTag", "cmdPrint", "cmdClear", "cmdCancel", "txtCust1"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
+    }
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(CustomerWindowTest, AnyCharacterAndAnyLengthAreKept) {
+    frmCustInfo& window = Open();
+    const QString line = QString::fromUtf8("Raffinerie Öst \"№ 7\" & Söhne <…>");
+    window.txtCust1->setText(line);
+    window.txtTag->setText(QString(5000, 'x'));
+    window.cmdPrint->click();
+    ExpectStored(line.toStdString(), "", std::string(5000, 'x'));
+    EXPECT_EQ(Open().txtCust1->text(), line);
+}
+
+}  // namespace
+}  // namespace tarvix::testing

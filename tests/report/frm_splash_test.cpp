@@ -1,0 +1,245 @@
+// The splash window under a clock that the test sets.
+#include "ui/frm_splash.h"
+
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+namespace {
+
+// Shows the seconds of a list, one for each look; the last one from then on.
+class ListedClock : public RecordingPlatform {
+  public:
+    int CurrentSecond() override {
+        ++looks;
+        if (onLook) {
+            onLook();
+        }
+        const int second = seconds.front();
+        if (seconds.size() > 1) {
+            seconds.pop_front();
+        }
+        return second;
+    }
+
+    std::deque<int> seconds{0, 3};
+    int looks = 0;
+    std::function<void()> onLook;
+};
+
+// Counts the events of one kind that reach an object.
+class EventCounter : public QObject {
+  public:
+    EventCounter(QObject& watched, QEvent::Type type) : type_(type) {
+        watched.installEventFilter(this);
+    }
+    int count() const { return count_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count_ += event->type() == type_ ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    QEvent::Type type_;
+    int count_ = 0;
+};
+
+class SplashTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        QImage logo(64, 16, QImage::Format_RGB32);
+        logo.fill(Qt::red);
+        ASSERT_TRUE(logo.save(folder_.filePath("BrindleLogo.jpg")));
+        logo.fill(Qt::blue);
+        ASSERT_TRUE(logo.save(folder_.filePath("VeltraneLogo.jpg")));
+        module_.AppPath = AppPathOf(folder_.path());
+    }
+
+    // Shows the splash and lets the program go on until the hand-over.
+    void Run() {
+        splash_.show();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return steps_.contains("show"); }));
+    }
+
+    QTemporaryDir folder_;
+    ListedClock clock_;
+    Module1 module_{clock_, kUnitedStates};
+    QStringList steps_;
+    frmSplash splash_{module_,
+                      {[this] { steps_ << (splash_.isVisible() ? "load" : "load without splash"); },
+                       [this] { steps_ << (splash_.isVisible() ? "show on splash" : "show"); }}};
+};
+
+TEST_F(SplashTest, ShowsNameVersionAndLogos) {
+    EXPECT_EQ(splash_.findChild<QLabel*>("Label1")->text(), "Tarvix");
+    EXPECT_EQ(splash_.findChild<QLabel*>("Label2")->text(), "Version: 3.0");
+    Run();
+    const auto middle = [this](const char* name) {
+        const QPixmap logo = splash_.findChild<QLabel*>(name)->pixmap();
+        return logo.isNull() ? QColor() : logo.toImage().pixelColor(logo.rect().center());
+    };
+    EXPECT_GT(middle("imgBrindleLogo").red(), 200);
+    EXPECT_GT(middle("imgVeltraneLogo").blue(), 200);
+}
+
+TEST_F(SplashTest, HandsOverInOrder) {
+    Run();
+    EXPECT_EQ(steps_, (QStringList{"load", "show"}));
+    EXPECT_FALSE(splash_.isVisible());
+}
+
+TEST_F(SplashTest, HandsOverOnlyOnce) {
+    Run();
+    splash_.show();
+    QCoreApplication::processEvents();
+    splash_.hide();
+    EXPECT_EQ(steps_, (QStringList{"load", "show"}));
+}
+
+TEST_F(SplashTest, WaitsThreeSecondsOfTheClock) {
+    clock_.seconds = {20, 20, 21, 22, 22, 23, 59};
+    Run();
+    EXPECT_EQ(clock_.looks, 6);  // the start and five looks: 23 ends it
+}
+
+TEST_F(SplashTest, MinuteThatRollsOverEndsTheWaitEarly) {
+    clock_.seconds = {58, 58, 59, 0, 1, 2};
+    Run();
+    EXPECT_EQ(clock_.looks, 4);  // 58 to 0 is a difference of 58
+}
+
+TEST_F(SplashTest, StartInTheLastSecondOfAMinute) {
+    clock_.seconds = {59, 59, 0, 1, 2};
+    Run();
+    EXPECT_EQ(clock_.looks, 3);
+}
+
+TEST_F(SplashTest, StartJustBeforeTheLastSeconds) {
+    clock_.seconds = {56, 57, 58, 59, 0};
+    Run();
+    EXPECT_EQ(clock_.looks, 4);  // 59 is the third second
+}
+
+TEST_F(SplashTest, IsPaintedWithItsLogosBeforeTheWait) {
+    const EventCounter brindle(*splash_.imgBrindleLogo, QEvent::Paint);
+    const EventCounter veltrane(*splash_.imgVeltraneLogo, QEvent::Paint);
+    const EventCounter name(*splash_.Label1, QEvent::Paint);
+    QImage picture;
+    clock_.onLook = [&] {
+        if (clock_.looks == 1) {
+            EXPECT_GT(brindle.count(), 0);
+            EXPECT_GT(veltrane.count(), 0);
+            EXPECT_GT(name.count(), 0);
+            picture = splash_.grab().toImage();
+        }
+    };
+    Run();
+    ASSERT_FALSE(picture.isNull());
+    const QPoint onLogo = splash_.imgBrindleLogo->geometry().center();
+    EXPECT_GT(picture.pixelColor(onLogo).red(), 200);
+    EXPECT_LT(picture.pixelColor(onLogo).green(), 60);
+}
+
+TEST_F(SplashTest, HandlesNoEventsDuringTheWait) {
+    QObject probe;
+    const EventCounter delivered(probe, QEvent::User);
+    clock_.seconds = {10, 10, 10, 11, 12, 13};
+    clock_.onLook = [&] {
+        if (clock_.looks == 1) {
+            QCoreApplication::postEvent(&probe, new QEvent(QEvent::User));
+        }
+        EXPECT_EQ(delivered.count(), 0);
+    };
+    Run();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return delivered.count() == 1; }));
+}
+
+TEST_F(SplashTest, SleepsBetweenTwoLooks) {
+    QElapsedTimer waiting;
+    clock_.seconds = {10};
+    clock_.onLook = [&] {
+        if (!waiting.isValid()) {
+            waiting.start();
+        } else if (waiting.elapsed() >= 100) {
+            clock_.seconds = {13};
+        }
+    };
+    Run();
+    EXPECT_LE(clock_.looks, 60);  // a loop without sleep makes many thousands
+    EXPECT_GE(clock_.looks, 3);   // and a long sleep would show the splash for too long
+}
+
+TEST_F(SplashTest, CloseRequestDoesNotStopTheStart) {
+    clock_.onLook = [&] { EXPECT_FALSE(splash_.close()); };
+    Run();
+    EXPECT_EQ(steps_, (QStringList{"load", "show"}));
+}
+
+TEST_F(SplashTest, MissingLogoEndsTheProgram) {
+    ASSERT_TRUE(QFile::remove(folder_.filePath("BrindleLogo.jpg")));
+    try {
+        splash_.Form_Activate();
+        FAIL() << "the program went on";
+    } catch (const ProgramEnded& end) {
+        EXPECT_EQ(end.exitStatus, 1);
+    }
+    ASSERT_EQ(clock_.boxes.size(), 1U);
+    EXPECT_EQ(clock_.boxes[0].style, BoxStyle::Critical);
+    EXPECT_EQ(clock_.boxes[0].title, "Brindle Tarvix");
+    EXPECT_EQ(clock_.boxes[0].text,
+              "Run-time error: File not found: " + module_.AppPath + "BrindleLogo.jpg");
+    EXPECT_EQ(clock_.looks, 0);
+    EXPECT_TRUE(steps_.isEmpty());
+}
+
+TEST_F(SplashTest, LogoThatIsNoPictureEndsTheProgram) {
+    QFile logo(folder_.filePath("VeltraneLogo.jpg"));
+    ASSERT_TRUE(logo.open(QIODevice::WriteOnly));
+    logo.write("no picture");
+    logo.close();
+    EXPECT_THROW(splash_.Form_Activate(), ProgramEnded);
+    ASSERT_EQ(clock_.boxes.size(), 1U);
+    EXPECT_EQ(clock_.boxes[0].text,
+              "Run-time error: File not found: " + module_.AppPath + "VeltraneLogo.jpg");
+}
+
+TEST_F(SplashTest, FormLoadTakesTheProgramsOwnFolder) {
+    splash_.Form_Load();
+    EXPECT_EQ(module_.AppPath, AppPathOf(QCoreApplication::applicationDirPath()));
+    EXPECT_TRUE(QFile::exists(QString::fromStdString(module_.AppPath)));
+}
+
+TEST(AppPathTest, EndsInTheSystemsSeparator) {
+#ifdef Q_OS_WIN
+    EXPECT_EQ(AppPathOf("C:/Program Files/Tarvix"), "C:\\Program Files\\Tarvix\\");
+    EXPECT_EQ(AppPathOf("D:/"), "D:\\");
+#else
+    EXPECT_EQ(AppPathOf("/usr/lib/tarvix"), "/usr/lib/tarvix/");
+    EXPECT_EQ(AppPathOf("/"), "/");
+    EXPECT_EQ(AppPathOf(QString::fromUtf8("/home/jürgen/tarvix 3")), "/home/jürgen/tarvix 3/");
+#endif
+}
+
+TEST(AppPathTest, FixedFolderStandsInForOneThatCannotBeRead) {
+#ifdef Q_OS_WIN
+    EXPECT_EQ(AppPathOf(""), "C:\\Tarvix\\");
+#else
+    EXPECT_EQ(AppPathOf(""), "/opt/Tarvix/");
+#endif
+}
+
+}  // namespace
+}  // namespace tarvix::testing

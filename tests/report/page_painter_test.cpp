@@ -1,0 +1,221 @@
+// The page on paper: painted into PDF files and read back with poppler's tools.
+#include "report/page_painter.h"
+
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
+#include "tests/report/pdf_reader.h"
+#include "tests/report/sample_sheets.h"
+
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+namespace {
+
+constexpr double kCharacter12 = 12 * 1229.0 / 2048.0;  // points
+
+class PagePainterTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        if (!CanReadPdf()) {
+            GTEST_SKIP() << "poppler-utils is not installed";
+        }
+        ASSERT_TRUE(folder_.isValid());
+        FillCustomer(module_);
+    }
+
+    QString File() const { return folder_.filePath("page.pdf"); }
+
+    bool Paint(const ReportSheet& sheet, QPageSize::PageSizeId paper,
+               const QMarginsF& unprintable = {}) {
+        QPdfWriter writer(File());
+        QPageLayout layout(QPageSize(paper), QPageLayout::Portrait, unprintable);
+        if (unprintable.isNull()) {
+            layout.setMode(QPageLayout::FullPageMode);
+        }
+        writer.setPageLayout(layout);
+        return PaintReport(writer, ComposeReport(sheet, module_), logo_);
+    }
+
+    PdfPage PageOf(const ReportSheet& sheet, QPageSize::PageSizeId paper,
+                   const QMarginsF& unprintable = {}) {
+        EXPECT_TRUE(Paint(sheet, paper, unprintable));
+        std::vector<PdfPage> pages = ReadPdf(File());
+        EXPECT_EQ(pages.size(), 1U);
+        return pages.empty() ? PdfPage{} : pages.front();
+    }
+
+    QTemporaryDir folder_;
+    RecordingPlatform platform_;
+    Module1 module_{platform_, kUnitedStates};
+    QImage logo_;
+};
+
+// The papers that the page is made for, with the margins in points: 6% of the width and 4.5% of the
+// height of 12240 x 15840 and 11906 x 16838 twips.
+struct PaperCase {
+    const char* name;
+    QPageSize::PageSizeId paper;
+    double width;
+    double height;
+    double leftMargin;
+    double topMargin;
+};
+
+class PaperTest : public PagePainterTest, public ::testing::WithParamInterface<PaperCase> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Papers, PaperTest,
+    ::testing::Values(PaperCase{"Letter", QPageSize::Letter, 612, 792, 36.72, 35.64},
+                      PaperCase{"A4", QPageSize::A4, 595, 842, 35.718, 37.8855}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST_P(PaperTest, FullestPageStaysInsideTheMargins) {
+    const PdfPage page = PageOf(FullestSheet(), GetParam().paper);
+    EXPECT_NEAR(page.width, GetParam().width, 0.5);
+    EXPECT_NEAR(page.height, GetParam().height, 0.5);
+    ASSERT_GT(page.words.size(), 150U);
+    for (const PdfWord& word : page.words) {
+        EXPECT_GE(word.left, GetParam().leftMargin - 0.1) << word.text.toStdString();
+        EXPECT_GE(word.top, GetParam().topMargin - 0.1) << word.text.toStdString();
+        EXPECT_LE(word.right, GetParam().width - GetParam().leftMargin + 0.1)
+            << word.text.toStdString();
+        EXPECT_LE(word.bottom, GetParam().height - GetParam().topMargin + 0.1)
+            << word.text.toStdString();
+    }
+}
+
+TEST_P(PaperTest, TitleStandsBelowThreeLinesAtTheLeftMargin) {
+    const PdfPage page = PageOf(GasSheet(), GetParam().paper);
+    const PdfWord& title = page.Word("Orifice");
+    EXPECT_NEAR(title.left, GetParam().leftMargin, 0.1);
+    EXPECT_NEAR(title.top, GetParam().topMargin + 3 * 12 * 1.1328125, 0.5);
+    EXPECT_EQ(page.LineOf(title), "Orifice calculation for Bore size - Flange Taps - Gas");
+}
+
+TEST_P(PaperTest, ValuesEndInColumn40) {
+    const PdfPage page = PageOf(GasSheet(), GetParam().paper);
+    const double column40 = GetParam().leftMargin + 40 * kCharacter12;
+    for (const char* value :
+         {"25,000.00", "50.25", "(20.00)", "150.00", "0.60", "1.00000", "2.067", "0.517"}) {
+        EXPECT_NEAR(page.Word(value).right, column40, 0.2) << value;
+    }
+    const PdfWord& unit = page.Word("Standard");
+    EXPECT_NEAR(unit.left, column40 + kCharacter12, 0.2);
+    EXPECT_EQ(page.LineOf(unit), "Flow Rate 25,000.00 Standard Cubic Feet/Day");
+}
+
+TEST_P(PaperTest, NotesStartAtTheSameHeightOnEveryPage) {
+    const double empty = PageOf(LiquidSheet(), GetParam().paper).Word("Note:").top;
+    const double full = PageOf(FullestSheet(), GetParam().paper).Word("Note:").top;
+    EXPECT_EQ(empty, full);
+    EXPECT_NEAR(full, GetParam().topMargin + 400, 0.5);  // 8000 twips
+}
+
+TEST_P(PaperTest, FooterColumnsStandBelowEachOther) {
+    const PdfPage page = PageOf(GasSheet(), GetParam().paper);
+    const double column = 28 * 8 * 1229.0 / 2048.0;
+    EXPECT_NEAR(page.Word("Brindle", 1).left, GetParam().leftMargin, 0.1);
+    EXPECT_NEAR(page.Word("Marlow").left, GetParam().leftMargin, 0.1);
+    int number = 0;
+    for (const char* city : {"Port", "Kestrel", "Fenwick"}) {
+        ++number;
+        EXPECT_NEAR(page.Word(city).left, GetParam().leftMargin + number * column, 0.2);
+        // The headquarters' own telephone number comes after those of the offices.
+        EXPECT_NEAR(page.Word("Tel.", number - 1).left, page.Word(city).left, 0.2);
+        EXPECT_NEAR(page.Word("Fax", number - 1).left, page.Word(city).left, 0.2);
+    }
+}
+
+TEST_P(PaperTest, FontsAreCourierNewOrItsEqualAndEmbedded) {
+    ASSERT_TRUE(Paint(GasSheet(), GetParam().paper));
+    const QStringList fonts = FontsOf(File());
+    EXPECT_EQ(fonts.size(), 3);  // bold, italic, regular
+    for (const QString& font : fonts) {
+        const bool courier = font.startsWith("CourierNew") || font.startsWith("LiberationMono") ||
+                             font.startsWith("Cousine");
+        EXPECT_TRUE(courier) << font.toStdString();
+        EXPECT_FALSE(font.contains("not embedded")) << font.toStdString();
+    }
+    EXPECT_EQ(fonts.filter("Bold").size(), 1);
+    EXPECT_EQ(fonts.filter("Italic").size(), 1);
+}
+
+TEST_P(PaperTest, OverlongCustomerEndsInAnEllipsisAtTheMargin) {
+    module_.CustLine1 = std::string(300, 'W');
+    module_.TagText = std::string(5000, 'x') + " y";
+    const PdfPage page = PageOf(LiquidSheet(), GetParam().paper);
+    const double rightMargin = GetParam().width - GetParam().leftMargin;
+    for (const char* label : {"Customer:", "Tag:"}) {
+        const QString line = page.LineOf(page.Word(label));
+        EXPECT_TRUE(line.endsWith(QChar(0x2026))) << line.toStdString();
+        EXPECT_GT(line.size(), 65) << line.toStdString();
+    }
+    for (const PdfWord& word : page.words) {
+        EXPECT_LE(word.right, rightMargin + 0.1) << word.text.toStdString();
+    }
+}
+
+TEST_P(PaperTest, PrinterThatCannotReachThePapersEdge) {
+    const PdfPage page = PageOf(GasSheet(), GetParam().paper, QMarginsF(18, 12, 18, 12));
+    EXPECT_NEAR(page.Word("Orifice").left, GetParam().leftMargin, 0.1);
+    EXPECT_NEAR(page.Word("Note:").top, GetParam().topMargin + 400, 0.5);
+}
+
+TEST_F(PagePainterTest, LogoStandsAtTheCornerAtItsOwnSize) {
+    // 300 x 75 dots at 150 dots per inch: 2 x 0.5 inches, 144 x 36 points.
+    logo_ = QImage(300, 75, QImage::Format_RGB32);
+    logo_.fill(Qt::red);
+    logo_.setDotsPerMeterX(5906);
+    logo_.setDotsPerMeterY(5906);
+    ASSERT_TRUE(Paint(GasSheet(), QPageSize::Letter));
+    EXPECT_EQ(PicturesOf(File()), QStringList{"300x75 at 150"});
+    const QRect place = BoundsOf(PictureOfPage(File(), 144), Qt::red);
+    EXPECT_NEAR(place.left(), 36.72 * 2, 1.5);
+    EXPECT_NEAR(place.top(), 35.64 * 2, 1.5);
+    EXPECT_NEAR(place.width(), 144 * 2, 2);
+    EXPECT_NEAR(place.height(), 36 * 2, 2);
+}
+
+TEST_F(PagePainterTest, BlanksOfGroupedDigitsAreAsWideAsACharacter) {
+    Module1 french(platform_, kFrance);
+    ReportSheet sheet = LiquidSheet();
+    sheet.inputs.flow = "12345";
+    QPdfWriter writer(File());
+    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, {}));
+    ASSERT_TRUE(PaintReport(writer, ComposeReport(sheet, french), logo_));
+    const PdfPage page = ReadPdf(File()).at(0);
+    EXPECT_NEAR(page.Word("345,00").right, 36.72 + 40 * kCharacter12, 0.2);
+    EXPECT_NEAR(page.Word("12").left, 36.72 + 31 * kCharacter12, 0.2);
+    EXPECT_EQ(FontsOf(File()).size(), 3);  // no other font had to help out
+}
+
+TEST_F(PagePainterTest, SmallPaperGetsTheWholePageSmaller) {
+    const PdfPage page = PageOf(FullestSheet(), QPageSize::A5);
+    EXPECT_EQ(page.LineOf(page.Word("2024")).left(11), "05 Mar 2024");
+    for (const PdfWord& word : page.words) {
+        EXPECT_LE(word.right, page.width * 0.94 + 0.2) << word.text.toStdString();
+        EXPECT_LE(word.bottom, page.height * 0.955 + 0.2) << word.text.toStdString();
+    }
+    const double scale = page.Word("Customer:").right - page.Word("Customer:").left;
+    EXPECT_LT(scale, 0.8 * 9 * kCharacter12);
+    EXPECT_GT(scale, 0.6 * 9 * kCharacter12);
+}
+
+TEST_F(PagePainterTest, LargePaperKeepsTheSize) {
+    const PdfPage page = PageOf(FullestSheet(), QPageSize::A3);
+    const PdfWord& label = page.Word("Customer:");
+    EXPECT_NEAR(label.right - label.left, 9 * kCharacter12, 0.1);
+}
+
+TEST_F(PagePainterTest, DeviceThatCannotBePaintedOn) {
+    QPdfWriter writer(folder_.filePath("no such folder/page.pdf"));
+    EXPECT_FALSE(PaintReport(writer, ComposeReport(GasSheet(), module_), logo_));
+}
+
+}  // namespace
+}  // namespace tarvix::testing

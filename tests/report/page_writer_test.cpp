@@ -1,0 +1,85 @@
+#include "report/page_writer.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace tarvix::testing {
+namespace {
+
+TEST(ValueLineTest, ValueEndsInColumn40) {
+    const std::string line = ValueLine("Flow Rate", "1,234.50");
+    EXPECT_EQ(line, "Flow Rate" + std::string(23, ' ') + "1,234.50");
+    EXPECT_EQ(line.size(), 40U);
+}
+
+TEST(ValueLineTest, LabelAndValueThatJustFillTheColumns) {
+    EXPECT_EQ(ValueLine(std::string(20, 'L'), std::string(19, '1')),
+              std::string(20, 'L') + " " + std::string(19, '1'));
+    EXPECT_EQ(ValueLine(std::string(20, 'L'), std::string(20, '1')),
+              std::string(20, 'L') + std::string(20, '1'));
+}
+
+TEST(ValueLineTest, TooLongIsJoinedByOneBlank) {
+    EXPECT_EQ(ValueLine(std::string(20, 'L'), std::string(21, '1')),
+              std::string(20, 'L') + " " + std::string(21, '1'));
+    EXPECT_EQ(ValueLine("L", std::string(60, '1')), "L " + std::string(60, '1'));
+}
+
+TEST(ValueLineTest, EmptyValueKeepsTheColumn) {
+    EXPECT_EQ(ValueLine("Beta", ""), "Beta" + std::string(36, ' '));
+}
+
+TEST(ValueLineTest, CountsCharactersNotBytes) {
+    // A narrow no-break space is three bytes, a right quotation mark too.
+    EXPECT_EQ(ValueLine("Flow", "1\u202F234,50"), "Flow" + std::string(28, ' ') + "1\u202F234,50");
+    EXPECT_EQ(CharacterCount("1\u2019234"), 5);
+    EXPECT_EQ(CharacterCount(""), 0);
+    EXPECT_EQ(CharacterCount("\u00C4\U0001F600z"), 3);
+}
+
+TEST(PadRightTest, FillsUpOrLeavesAlone) {
+    EXPECT_EQ(PadRight("ab", 4), "ab  ");
+    EXPECT_EQ(PadRight("\u00E4b", 4), "\u00E4b  ");
+    EXPECT_EQ(PadRight("abcd", 4), "abcd");
+    EXPECT_EQ(PadRight("abcde", 4), "abcde");
+}
+
+TEST(OnOneLineTest, BreaksAndControlCharactersBecomeBlanks) {
+    EXPECT_EQ(OnOneLine("a\r\nb"), "a b");
+    EXPECT_EQ(OnOneLine("a\nb\rc\td"), "a b c d");
+    EXPECT_EQ(OnOneLine("a\n\rb"), "a  b");
+    EXPECT_EQ(OnOneLine("a\u0085b\u2028c\u2029d"), "a b c d");
+    EXPECT_EQ(OnOneLine(std::string_view("a\0b\x1F\x7F", 5)), "a b  ");
+    EXPECT_EQ(OnOneLine("  \u00C4 \u202F "), "  \u00C4 \u202F ");
+    EXPECT_EQ(OnOneLine(""), "");
+}
+
+TEST(PageWriterTest, GoesOnBelowAndBeside) {
+    PageWriter writer;
+    writer.SetFont({12, true, false});
+    writer.EmptyLines(2);
+    writer.PrintPiece("ab");
+    writer.SetFont({8, false, false});
+    writer.Print("c");
+    writer.Print("");
+    writer.Print("d");
+    writer.MoveTo(8000);
+    writer.PrintPiece("e");
+
+    const auto& lines = writer.Page().lines;
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_EQ(lines[0].text, "ab");
+    EXPECT_EQ(lines[0].xTwips, 0);
+    EXPECT_NEAR(lines[0].yTwips, 2 * 271.875, 1e-6);
+    EXPECT_EQ(lines[1].text, "c");
+    EXPECT_NEAR(lines[1].xTwips, 2 * 240 * 0.60009765625, 1e-6);
+    EXPECT_EQ(lines[1].yTwips, lines[0].yTwips);
+    EXPECT_EQ(lines[1].font.sizePt, 8);
+    EXPECT_EQ(lines[2].text, "d");
+    EXPECT_EQ(lines[2].xTwips, 0);
+    EXPECT_NEAR(lines[2].yTwips, lines[0].yTwips + 2 * 181.25, 1e-6);
+    EXPECT_EQ(lines[3].yTwips, 8000);
+}
+
+}  // namespace
+}  // namespace tarvix::testing

@@ -1,0 +1,132 @@
+// The lower half of the page: notes and footer.
+#include "report/report_page.h"
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
+#include "tests/report/page_rows.h"
+#include "tests/report/sample_sheets.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace tarvix::testing {
+namespace {
+
+// Line heights in twips: points times 20 times Courier New's 1.1328125.
+constexpr double kHeight10 = 226.5625;
+constexpr double kHeight8 = 181.25;
+constexpr double kNotesTop = 8000;
+constexpr double kFooterTop = kNotesTop + 19 * kHeight10;
+
+ReportPage PageOf(const ReportSheet& sheet) {
+    RecordingPlatform platform;
+    Module1 module(platform, kUnitedStates);
+    FillCustomer(module);
+    return ComposeReport(sheet, module);
+}
+
+TEST(ReportNotesTest, TextsAndPlaces) {
+    struct Note {
+        int row;
+        std::string text;
+    };
+    const std::vector<Note> expected{
+        {0, "Note: Values for the beta ratio are approximate, typically within"},
+        {1, "            2% - 5% for gases and steam"},
+        {2, "            1% for liquids"},
+        {3, "      The ASME MFC-3M 1989 equation is used in this program.  However,"},
+        {4, "      several equation factors are assumed and can directly affect the"},
+        {5, "      calculation results"},
+        {6, "            Coefficient of Thermal Expansion:    1.0"},
+        {7, "            Discharge Coefficient:               0.6"},
+        {8, "            Base Temperature:                    60 Deg F  (15.56 Deg C)"},
+        {9, "            Base Pressure:                       14.7 PSIA (101.3 kPa-A)"},
+        {10, "            Pressure Tap Location:               Flange Tap"},
+        {12, "      Also, this program does not take into consideration two calculation"},
+        {13, "      variables - the Reynolds Number correction and the expansion factor."},
+        {15, "      If it is necessary to have a closely specified beta ratio, differential"},
+        {16, "      pressure, or flow rate, please consult your Brindle representative for"},
+        {17, "      assistance"},
+    };
+    const std::vector<ReportLine> lines = LinesFrom(PageOf(LiquidSheet()), kNotesTop);
+    ASSERT_GE(lines.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(lines[i].text, expected[i].text);
+        EXPECT_NEAR(lines[i].yTwips, kNotesTop + expected[i].row * kHeight10, 0.01);
+        EXPECT_EQ(lines[i].xTwips, 0);
+        EXPECT_EQ(lines[i].font.sizePt, 10);
+        EXPECT_FALSE(lines[i].font.bold);
+        EXPECT_TRUE(lines[i].font.italic);
+    }
+}
+
+TEST(ReportNotesTest, SameHeightWhateverStandsAbove) {
+    for (const ReportSheet& sheet : {LiquidSheet(), GasSheet(), SteamSheet(), FullestSheet()}) {
+        const std::vector<ReportLine> lines = LinesFrom(PageOf(sheet), kNotesTop - 1);
+        EXPECT_EQ(lines.front().text,
+                  "Note: Values for the beta ratio are approximate, typically within");
+        EXPECT_EQ(lines.front().yTwips, 8000);
+    }
+}
+
+struct Piece {
+    double row;  // below the start of the footer, in lines of 8 points
+    std::string text;
+    bool bold;
+    int column;
+};
+
+TEST(ReportFooterTest, FourColumnsOnFourLines) {
+    const std::vector<Piece> expected{
+        {1,
+         "Brindle Headquarters        Port Alder, TX              Kestrel Bay, CA             "
+         "Fenwick Mills, NJ",
+         true, 0},
+        {2, "Marlow Falls, OH            ", true, 0},
+        {2, "Tel. (555) 555-0110         Tel. (555) 555-0120         Tel. (555) 555-0130", false,
+         28},
+        {3,
+         "Tel. (555) 555-0100         Fax  (555) 555-0111         Fax  (555) 555-0121         "
+         "Fax  (555) 555-0131",
+         false, 0},
+        {4, "Fax  (555) 555-0101", false, 0},
+    };
+    const std::vector<ReportLine> lines = LinesFrom(PageOf(GasSheet()), kFooterTop);
+    ASSERT_EQ(lines.size(), expected.size() + 1);
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(lines[i].text, expected[i].text);
+        EXPECT_NEAR(lines[i].yTwips, kFooterTop + expected[i].row * kHeight8, 0.01);
+        // 8 points, 20 twips each, 1229/2048 of that a character
+        EXPECT_NEAR(lines[i].xTwips, expected[i].column * 96.015625, 0.01);
+        EXPECT_EQ(lines[i].font.sizePt, 8);
+        EXPECT_EQ(lines[i].font.bold, expected[i].bold);
+        EXPECT_FALSE(lines[i].font.italic);
+    }
+}
+
+TEST(ReportFooterTest, DateAndWebSite) {
+    const ReportLine last = PageOf(GasSheet()).lines.back();
+    EXPECT_TRUE(last.text.starts_with("05 Mar 2024 ")) << last.text;
+    const std::string webSite = last.text.substr(std::string("05 Mar 2024").size());
+    const std::string reference = "Web site: www.brindle.example";
+    const std::size_t left = webSite.find(reference);
+    ASSERT_NE(left, std::string::npos) << last.text;
+    const std::size_t right = webSite.size() - left - reference.size();
+    EXPECT_GE(left, 15U);
+    EXPECT_TRUE(left == right || left + 1 == right) << left << " and " << right;
+    EXPECT_EQ(webSite.find_first_not_of(' '), left);
+    EXPECT_EQ(last.font.sizePt, 10);
+    EXPECT_TRUE(last.font.bold);
+    EXPECT_FALSE(last.font.italic);
+    // One empty line, four lines, two empty lines of 8 points above it.
+    EXPECT_NEAR(last.yTwips, kFooterTop + 7 * kHeight8, 0.01);
+}
+
+TEST(ReportFooterTest, EndsAboveTheBottomMarginOfLetter) {
+    const ReportLine last = PageOf(FullestSheet()).lines.back();
+    // 11 inches, less 4.5% at the top and at the bottom.
+    EXPECT_LE(last.yTwips + kHeight10, 15840 * 0.91);
+}
+
+}  // namespace
+}  // namespace tarvix::testing

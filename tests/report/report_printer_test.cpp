@@ -1,0 +1,174 @@
+// Printing without a printer: PDF files, the print dialog, what the user is told.
+#include "report/report_printer.h"
+
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
+#include "tests/report/modal_driver.h"
+#include "tests/report/pdf_reader.h"
+#include "tests/report/sample_sheets.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+namespace tarvix::testing {
+namespace {
+
+class ReportPrinterTest : public ::testing::Test {
+  protected:
+    void SetUp() override { ASSERT_TRUE(folder_.isValid()); }
+
+    QString File() const { return folder_.filePath("page.pdf"); }
+    ReportPage Page() { return ComposeReport(GasSheet(), module_); }
+
+    PrintOutcome PrintTo(const QString& file) {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(file);
+        printer.setPageSize(QPageSize(QPageSize::Letter));
+        return PrintReportOn(printer, Page(), QImage());
+    }
+
+    QTemporaryDir folder_;
+    RecordingPlatform platform_;
+    Module1 module_{platform_, kUnitedStates};
+};
+
+TEST_F(ReportPrinterTest, WritesAPdfFile) {
+    EXPECT_EQ(PrintTo(File()).status, PrintOutcome::Status::Printed);
+    if (!CanReadPdf()) {
+        GTEST_SKIP() << "poppler-utils is not installed";
+    }
+    const std::vector<PdfPage> pages = ReadPdf(File());
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_EQ(pages[0].width, 612);
+    EXPECT_NEAR(pages[0].Word("Customer:").left, 36.72, 0.1);
+}
+
+TEST_F(ReportPrinterTest, ReplacesAFileThatIsThere) {
+    QFile old(File());
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write(QByteArray(1000000, 'x'));
+    old.close();
+    EXPECT_EQ(PrintTo(File()).status, PrintOutcome::Status::Printed);
+    EXPECT_LT(QFile(File()).size(), 500000);
+}
+
+TEST_F(ReportPrinterTest, FileThatCannotBeWrittenIsAFailure) {
+    const PrintOutcome outcome = PrintTo(folder_.filePath("no such folder/page.pdf"));
+    EXPECT_EQ(outcome.status, PrintOutcome::Status::Failed);
+    EXPECT_FALSE(outcome.reason.isEmpty());
+    EXPECT_EQ(PrintTo(folder_.path()).status, PrintOutcome::Status::Failed);
+}
+
+#ifdef Q_OS_UNIX
+// A disk that is full in the middle of the page, played by a limit on the size of a file.
+class FullDisk {
+  public:
+    FullDisk() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit limit = before_;
+        limit.rlim_cur = 4096;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+TEST_F(ReportPrinterTest, FullDiskIsAFailureAndLeavesTheOldFile) {
+    QFile old(File());
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("last week's report");
+    old.close();
+    PrintOutcome outcome;
+    {
+        const FullDisk fullDisk;
+        outcome = PrintTo(File());
+    }
+    EXPECT_EQ(outcome.status, PrintOutcome::Status::Failed);
+    EXPECT_FALSE(outcome.reason.isEmpty());
+    ASSERT_TRUE(old.open(QIODevice::ReadOnly));
+    EXPECT_EQ(old.readAll(), "last week's report");
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{"page.pdf"});
+}
+#endif
+
+TEST_F(ReportPrinterTest, FailureBoxNamesThePlaceAndTheReason) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName("/reports/page.pdf");
+    const MessageBoxRequest box =
+        PrintOutcomeBox(printer, {PrintOutcome::Status::Failed, "Permission denied"});
+    EXPECT_EQ(box.title, "Brindle Tarvix");
+    EXPECT_EQ(box.style, BoxStyle::Exclamation);
+    EXPECT_EQ(box.buttons, BoxButtons::Ok);
+    EXPECT_NE(box.text.find("could not be printed"), std::string::npos) << box.text;
+    EXPECT_NE(box.text.find("page.pdf"), std::string::npos) << box.text;
+    EXPECT_NE(box.text.find("Reason: Permission denied"), std::string::npos) << box.text;
+    const MessageBoxRequest unknown = PrintOutcomeBox(printer, {PrintOutcome::Status::Failed, {}});
+    EXPECT_EQ(unknown.text.find("Reason"), std::string::npos) << unknown.text;
+}
+
+// The test's environment names a print server that isn't there, so the system has no printer.
+class NoPrinterTest : public ReportPrinterTest {
+  protected:
+    void SetUp() override {
+        ReportPrinterTest::SetUp();
+        ASSERT_TRUE(QPrinterInfo::defaultPrinter().isNull())
+            << "a printer is there: " << QPrinterInfo::defaultPrinterName().toStdString();
+    }
+
+    QWidget owner_;
+};
+
+TEST_F(NoPrinterTest, CancelledDialogPrintsNothing) {
+    const ModalDriver<QPrintDialog> user([this](QPrintDialog& dialog) {
+        dialog.findChild<QLineEdit*>("filename")->setText(File());
+        dialog.reject();
+    });
+    PrintReport(owner_, platform_, Page(), QImage());
+    EXPECT_TRUE(user.done());
+    EXPECT_TRUE(platform_.boxes.empty());
+    EXPECT_FALSE(QFile::exists(File()));
+}
+
+TEST_F(NoPrinterTest, DialogPrintsIntoAPdfFile) {
+    const ModalDriver<QPrintDialog> user([this](QPrintDialog& dialog) {
+        dialog.findChild<QLineEdit*>("filename")->setText(File());
+        for (auto* button : dialog.findChildren<QPushButton*>()) {
+            if (button->isDefault()) {
+                button->click();
+            }
+        }
+    });
+    PrintReport(owner_, platform_, Page(), QImage());
+    EXPECT_TRUE(user.done());
+    EXPECT_TRUE(platform_.boxes.empty());
+    ASSERT_TRUE(QFile::exists(File()));
+    if (CanReadPdf()) {
+        const std::vector<PdfPage> pages = ReadPdf(File());
+        ASSERT_EQ(pages.size(), 1U);
+        EXPECT_EQ(pages[0].LineOf(pages[0].Word("Customer:")), "Customer:");
+        // The locale of the tests names no country: American paper.
+        EXPECT_EQ(pages[0].width, 612);
+    }
+}
+
+}  // namespace
+}  // namespace tarvix::testing
