@@ -18,9 +18,9 @@ DecimalForm::DecimalForm(float finite) : negative_(std::signbit(finite)) {
     const float magnitude = std::fabs(finite);
     if (magnitude >= kWholeSingle) {
         std::array<char, 48> text{};
-        const auto end = std::to_chars(text.data(), text.data() + text.size(), double{magnitude},
-                                       std::chars_format::fixed, 0)
-                             .ptr;
+        const char* const end = std::to_chars(text.data(), text.data() + text.size(),
+                                              double{magnitude}, std::chars_format::fixed, 0)
+                                    .ptr;
         point_ = static_cast<int>(end - text.data());
         Take(text.data(), end);
     } else {
@@ -39,10 +39,10 @@ void DecimalForm::TakeScientific(double finite, int significantDigits) {
     }
     // d.ddd...e[+-]dd
     std::array<char, 48> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), finite,
-                                   std::chars_format::scientific, significantDigits - 1)
-                         .ptr;
-    auto* const e = std::find(text.data(), end, 'e');
+    const char* const end = std::to_chars(text.data(), text.data() + text.size(), finite,
+                                          std::chars_format::scientific, significantDigits - 1)
+                                .ptr;
+    const auto* const e = std::find(text.cbegin(), text.cend(), 'e');
     int exponent = 0;
     std::from_chars(e[1] == '+' ? e + 2 : e + 1, end, exponent);
     point_ = exponent + 1;

@@ -28,12 +28,12 @@ Outcome FlowWithinLimits(float flow) {
     return flow > kMaxFlow || flow < kMinFlow ? Outcome::Nothing() : Outcome::Value(flow);
 }
 
-Outcome SolvedBeta(float beta, int steps) {
-    return BetaWithinLimits(static_cast<float>(Round(beta, kBetaDecimals)), steps);
+Outcome SolvedBeta(float iterated, int steps) {
+    return BetaWithinLimits(static_cast<float>(Round(iterated, kBetaDecimals)), steps);
 }
 
-Outcome SolvedBeta(double beta) {
-    return BetaWithinLimits(static_cast<float>(Round(beta, kBetaDecimals)), 0);
+Outcome SolvedBeta(double closedForm) {
+    return BetaWithinLimits(static_cast<float>(Round(closedForm, kBetaDecimals)), 0);
 }
 
 }  // namespace tarvix

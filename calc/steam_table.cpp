@@ -87,7 +87,7 @@ SteamDensity SaturatedSteamDensity(float pressurePsig) {
     const SteamTableRow& neighbour =
         kSteamTable[rowPressure < pressurePsig ? nearest + 1 : nearest - 1];
     const float rise = neighbour.density - row.density;
-    const float run = static_cast<float>(neighbour.pressurePsig - row.pressurePsig);
+    const auto run = static_cast<float>(neighbour.pressurePsig - row.pressurePsig);
     return {SteamRange::InTable, (pressurePsig - rowPressure) * rise / run + row.density};
 }
 
