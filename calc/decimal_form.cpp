@@ -42,7 +42,7 @@ void DecimalForm::TakeScientific(double finite, int significantDigits) {
     const char* const end = std::to_chars(text.data(), text.data() + text.size(), finite,
                                           std::chars_format::scientific, significantDigits - 1)
                                 .ptr;
-    const auto* const e = std::find(text.cbegin(), text.cend(), 'e');
+    const char* const e = std::find(text.data(), text.data() + text.size(), 'e');
     int exponent = 0;
     std::from_chars(e[1] == '+' ? e + 2 : e + 1, end, exponent);
     point_ = exponent + 1;
