@@ -31,6 +31,17 @@ EDGE_NUMBERS = (
     "3.4028235e38", "1e38", "-1e38", "1e-45", "1e-60", "+5", "5.", ".5", "-.5", "00012", "0.000001",
 )
 
+# Where a rule of that very field turns.
+FIELD_EDGES = {
+    "txtPf": ("-14.7", "-14.69", "-14.71", "-15", "0", "14.7", "14.6", "200", "200.01", "400",
+              "400.01", "414.7", "414.8", "214.7", "3000", "3001", "3014.7", "3015", "67.5", "68",
+              "102", "385", "382.5", "2750", "1.01325", "101.325"),
+    "txtBeta": ("0", "0.15", "0.14999", "0.67", "0.67001", "0.95", "0.9499", "0.949999", "1", "-1"),
+    "txtDeltaP": ("0", "150", "149.9", "149.99", "0.0373", "1000000", "-1"),
+    "txtTf": ("0", "-20", "-459.67", "-460", "-273.15", "60"),
+    "txtOriBoreDia": ("0", "1.000", "-1", "2.067", "50", "0.001"),
+}
+
 ODD_TEXTS = (
     "", " ", "  ", "abc", "1a", "--5", "+-5", "5-", "- 5", "1e", "e5", "1e+", "1e5e5", "1e400",
     "1e-400", "3.5e38", "-3.5e38", "&H10", "0x10", "inf", "NaN", "(5)", "$5", "5%", "1/2", "1 000",
@@ -99,8 +110,11 @@ class Generator:
         return self.localized(random.choice(("%.0f", "%.1f", "%.3g", "%.4f", "%.2e")) % value)
 
     def number(self, field):
-        if self.random.random() < self.noise:
+        chance = self.random.random()
+        if chance < self.noise:
             return self.localized(self.random.choice(EDGE_NUMBERS))
+        if chance < self.noise + 0.15:
+            return self.localized(self.random.choice(FIELD_EDGES.get(field, ("0", "1", "-1"))))
         return self.plausible(field)
 
     # --- actions ---------------------------------------------------------------------------------

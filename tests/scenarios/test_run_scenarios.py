@@ -1,0 +1,220 @@
+#!/usr/bin/env python3
+"""Tests of the scenario runner against a small fake player: what it must pass, and that it goes red.
+
+The fake player prints what the test prepared, whatever the script says, and ends as the test says.
+"""
+
+import contextlib
+import io
+import json
+import os
+import stat
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import run_scenarios  # noqa: E402
+
+STATE = {
+    "controls": {
+        "txtFlow": {"visible": True, "enabled": True, "text": "142.3", "selstart": 1},
+        "lblMsg": {"visible": True, "enabled": True, "caption": "", "backcolor": "0xE0E0E0"},
+        "cboTimeUnit": {"text": "Minute", "index": 0, "items": ["Minute", "Hour"]},
+    },
+    "boxes": [{"title": "Pipe ID", "text": "Enter a Pipe ID in Inches.", "style": "input",
+               "default": "0"}],
+    "calculations": 3,
+    "pages": 0,
+    "focus": "txtFlow",
+}
+
+
+class RunnerTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+
+    def run_script(self, script, outputs=(STATE,), status=0, extra=()):
+        """Exit status and printed text of a run of `script` on a player that writes `outputs`."""
+        root = Path(self.folder.name)
+        (root / "area").mkdir(exist_ok=True)
+        lines = [text if isinstance(text, str) else json.dumps(text) for text in outputs]
+        player = root / "player"
+        player.write_text(f"#!{sys.executable}\n"
+                          "import os, sys\n"
+                          "script = sys.stdin.buffer.read()\n"
+                          f"open({str(root / 'read')!r}, 'wb').write(script)\n"
+                          f"open({str(root / 'env')!r}, 'w').write("
+                          "os.environ.get('QT_QPA_PLATFORM', 'none'))\n"
+                          "open('left behind', 'w').close()\n"
+                          f"sys.stdout.write({''.join(line + chr(10) for line in lines)!r})\n"
+                          f"sys.exit({status})\n", encoding="utf-8")
+        player.chmod(player.stat().st_mode | stat.S_IXUSR)
+        path = root / "area" / "topic.script"
+        path.write_bytes(script if isinstance(script, bytes) else script.encode("utf-8"))
+        printed = io.StringIO()
+        with contextlib.redirect_stdout(printed), contextlib.redirect_stderr(printed):
+            result = run_scenarios.main([*extra, str(player), str(root / "area")])
+        return result, printed.getvalue()
+
+    def assert_green(self, script, outputs=(STATE,), **more):
+        result, printed = self.run_script(script, outputs, **more)
+        self.assertEqual(result, 0, printed)
+
+    def assert_red(self, script, message, outputs=(STATE,), **more):
+        result, printed = self.run_script(script, outputs, **more)
+        self.assertEqual(result, 1, printed)
+        self.assertIn(message, printed)
+
+    # What must pass.
+
+    def test_every_kind_of_expectation_that_holds(self):
+        self.assert_green("# A comment.\n\nclick optLiquid\nstate\n"
+                          '#= txtFlow.text "142.3"\n'
+                          "#= txtFlow.visible true\n"
+                          "#= txtFlow.selstart 1\n"
+                          '#= cboTimeUnit.items ["Minute", "Hour"]\n'
+                          '#= boxes [{"title": "Pipe ID", "style": "input"}]\n'
+                          "#= calculations 3\n"
+                          "#= pages 0\n"
+                          '#= focus "txtFlow"\n')
+
+    def test_refusal_and_end(self):
+        self.assert_green("type txtBeta 0.5\n#! refused\nclick cmdExit\n#! ended exit\n",
+                          [{"refused": "type txtBeta 0.5", "why": "locked"}, {"ended": "exit"}])
+
+    def test_player_gets_the_script_unchanged_on_offscreen_in_a_folder_of_its_own(self):
+        script = "paste txtFlow  5 \nstate\n#= calculations 3\n"
+        self.assert_green(script)
+        root = Path(self.folder.name)
+        self.assertEqual((root / "read").read_text(encoding="utf-8"), script)
+        self.assertEqual((root / "env").read_text(encoding="utf-8"), "offscreen")
+        self.assertFalse(Path("left behind").exists())
+
+    def test_platform_can_be_chosen(self):
+        self.assert_green("state\n#= calculations 3\n", extra=("--platform", "xcb"))
+        self.assertEqual((Path(self.folder.name) / "env").read_text(encoding="utf-8"), "xcb")
+
+    # What must fail, with its line.
+
+    def test_wrong_value_names_file_line_expected_and_found(self):
+        self.assert_red('state\n#= txtFlow.text "142.4"\n',
+                        'topic.script:2: txtFlow.text: expected "142.4", found "142.3"')
+
+    def test_every_wrong_value_is_reported(self):
+        script = 'state\n#= txtFlow.text "1"\n#= calculations 4\n#= focus "txtBeta"\n'
+        _, printed = self.run_script(script)
+        for line in (2, 3, 4):
+            self.assertIn(f"topic.script:{line}: ", printed)
+
+    def test_true_is_not_one(self):
+        self.assert_red("state\n#= txtFlow.selstart true\n", "expected true, found 1")
+        self.assert_red("state\n#= txtFlow.visible 1\n", "expected 1, found true")
+
+    def test_number_is_not_text(self):
+        self.assert_red("state\n#= txtFlow.text 142.3\n", "expected 142.3")
+
+    def test_list_must_be_whole(self):
+        self.assert_red('state\n#= cboTimeUnit.items ["Minute"]\n', "cboTimeUnit.items")
+
+    def test_unknown_control_and_property(self):
+        self.assert_red('state\n#= txtFlaw.text "142.3"\n', "there is no control txtFlaw")
+        self.assert_red('state\n#= txtFlow.texd "142.3"\n', "txtFlow has no texd")
+
+    def test_boxes(self):
+        self.assert_red("state\n#= boxes []\n", "expected 0, found 1")
+        self.assert_red('state\n#= boxes [{"title": "Pipe ID"}, {}]\n', "expected 2, found 1")
+        self.assert_red('state\n#= boxes [{"title": "Pipe"}]\n', "title of box 1")
+        self.assert_red('state\n#= boxes [{"text": "Enter a Pipe ID"}]\n', "text of box 1")
+        self.assert_red('state\n#= boxes [{"titel": "Pipe ID"}]\n', "a box has no titel")
+
+    def test_refusal_that_was_not_expected(self):
+        self.assert_red("click optGas\nstate\n#= calculations 3\n", "expected a state, found",
+                        [{"refused": "click optGas", "why": "hidden"}, STATE])
+
+    def test_refusal_that_did_not_come(self):
+        self.assert_red("click optGas\n#! refused\nstate\n#= calculations 3\n",
+                        "topic.script:2: expected a refusal of: click optGas, found a state")
+
+    def test_refusal_of_another_command(self):
+        self.assert_red("click optGas\n#! refused\n", "expected a refusal of: click optGas",
+                        [{"refused": "click optSteam", "why": "hidden"}])
+
+    def test_end_that_was_not_expected(self):
+        self.assert_red("state\n#= calculations 3\nclick cmdExit\n", "expected nothing more",
+                        [STATE, {"ended": "exit"}])
+
+    def test_other_end(self):
+        self.assert_red("click cmdExit\n#! ended exit\n", "expected the program's end (exit)",
+                        [{"ended": "fatal"}])
+
+    def test_output_that_stops_short(self):
+        self.assert_red("state\n#= calculations 3\nstate\n#= calculations 0\n",
+                        "found the end of the output")
+
+    def test_output_that_is_no_json(self):
+        self.assert_red("state\n#= calculations 3\n", "no JSON", ["QWidget: warning"])
+
+    def test_exit_status(self):
+        self.assert_red("state\n#= calculations 3\n", "exit status 2", status=2)
+
+    def test_player_that_is_not_there(self):
+        with contextlib.redirect_stdout(io.StringIO()) as printed:
+            (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
+            result = run_scenarios.main([self.folder.name + "/none", self.folder.name])
+        self.assertEqual(result, 1)
+        self.assertIn("can't be started", printed.getvalue())
+
+    def test_player_that_hangs(self):
+        player = Path(self.folder.name) / "player"
+        player.write_text(f"#!{sys.executable}\nimport threading\nthreading.Event().wait()\n")
+        player.chmod(0o755)
+        (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
+        with contextlib.redirect_stdout(io.StringIO()) as printed:
+            result = run_scenarios.main(["--timeout", "0.5", str(player), self.folder.name])
+        self.assertEqual(result, 1)
+        self.assertIn("did not end within 0.5 seconds", printed.getvalue())
+
+    def test_script_without_any_expectation(self):
+        self.assert_red("click optGas\nstate\n", "without any expectation")
+        self.assert_red("", "without any expectation", [])
+
+    def test_unknown_notation(self):
+        for line in ("#=txtFlow.text 1", "#? txtFlow.text 1", "#! Refused", "#! ended",
+                     "#! ended happily", "#comment"):
+            self.assert_red(f"state\n#= calculations 3\n{line}\n", "unknown notation")
+        self.assert_red("state\n#= txtFlow 1\n", "neither NAME.PROPERTY nor")
+        self.assert_red("state\n#= txtFlow.text\n", "a path and a JSON value")
+        self.assert_red("state\n#= txtFlow.text 142.3 gpm\n", "not a JSON value")
+        self.assert_red('state\n#= calculations "3"\n', "needs a whole number")
+        self.assert_red("state\n#= pages true\n", "needs a whole number")
+        self.assert_red("state\n#= focus 1\n", "needs a text")
+        self.assert_red('state\n#= boxes {"title": "x"}\n', "needs a list of objects")
+
+    def test_expectation_without_its_command(self):
+        self.assert_red("#= calculations 3\nstate\n", "must follow a state command")
+        self.assert_red("state\nclick optGas\n#= calculations 3\n", "must follow a state command")
+        self.assert_red("#! refused\nstate\n", "must follow the command")
+        self.assert_red("state\n#! refused\n", "must follow the command")
+
+    def test_command_after_the_end(self):
+        self.assert_red("click cmdExit\n#! ended exit\nstate\n", "after the program's end")
+
+    def test_script_that_is_not_utf8(self):
+        self.assert_red(b"# \xff\nstate\n#= pages 0\n", "not UTF-8")
+
+    def test_file_that_is_not_there(self):
+        with contextlib.redirect_stdout(io.StringIO()) as printed:
+            result = run_scenarios.main(["/bin/true", self.folder.name + "/none.script"])
+        self.assertEqual(result, 1)
+        self.assertIn("can't be read", printed.getvalue())
+
+    def test_folder_without_scenarios(self):
+        with contextlib.redirect_stderr(io.StringIO()):
+            self.assertEqual(run_scenarios.main(["/bin/true", self.folder.name]), 2)
+
+
+if __name__ == "__main__":
+    unittest.main()
