@@ -3,12 +3,14 @@
 #include "app/window_place.h"
 #include "ui/input_reader.h"
 #include "ui/logo_picture.h"
+#include "ui/readable_palette.h"
 
 #include <QApplication>
 #include <QDate>
 #include <QEvent>
 #include <QLocale>
 #include <QScreen>
+#include <QStyle>
 
 namespace tarvix {
 
@@ -44,12 +46,20 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       flowUnitBoxes_(context_, calculations_),
       pipeBoxes_(context_, warnings_, boreAndBeta_),
       fluidOptions_(context_, calculations_, densities_, warnings_, numericFields_, flowUnitBoxes_),
-      modes_(context_, calculations_) {
+      modes_(context_, calculations_),
+      accessibleNames_(form_) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
-    // On a screen smaller than the form, the form scrolls.
+    // On a screen smaller than the form, the form scrolls, and follows the focus.
     scrollArea_->setFrameShape(QFrame::NoFrame);
+    scrollArea_->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && canvas_.isAncestorOf(now)) {
+            scrollArea_->ensureWidgetVisible(now);
+        }
+    });
     scrollArea_->setWidget(&canvas_);
     setCentralWidget(scrollArea_);
+    ApplyReadableColors();
     ConnectMenusAndButtons();
 
     // As designed, before any handler has run.
@@ -58,12 +68,14 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
     form_.optSgUser->setChecked(true);
     form_.optSaturated->setChecked(true);
     form_.optSteamUser->setChecked(true);
+    accessibleNames_.Update();
     form_.txtMaskNomSize->hide();
     form_.fraZfCompWarning->hide();
     form_.fraPlateThicknessWarning->hide();
 }
 
 frmTarvix::~frmTarvix() {
+    QObject::disconnect(qApp, nullptr, this, nullptr);
     // The canvas is a member, not a child on the heap.
     scrollArea_->takeWidget();
 }
@@ -81,6 +93,9 @@ void frmTarvix::ConnectMenusAndButtons() {
 
 void frmTarvix::Form_Load() {
     FitToScreen();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const ScreenPoint place = StartPlace(screen.width(), screen.height(), width(), height());
+    move(screen.topLeft() + QPoint(place.x, place.y));
     state_.SuspendCalc = true;
     module_.FluidType = "G";
     pipeBoxes_.LoadcboPipeIDUnit();
@@ -109,26 +124,45 @@ void frmTarvix::showEvent(QShowEvent* event) {
 
 void frmTarvix::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        form_.PlaceControls();
-        ShowLogo();
-        FitToScreen();
+    switch (event->type()) {
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+            form_.PlaceControls();
+            ShowLogo();
+            FitToScreen();
+            break;
+        case QEvent::PaletteChange:
+            ApplyReadableColors();
+            break;
+        default:
+            break;
     }
+}
+
+void frmTarvix::ApplyReadableColors() {
+    const QPalette colors = ReadablePalette(QGuiApplication::palette());
+    setPalette(colors);
+    form_.mnuFile->setPalette(colors);
 }
 
 void frmTarvix::FitToScreen() {
     const QSize whole = canvas_.size() + QSize(0, menuBar()->sizeHint().height());
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    setMaximumSize(whole);
-    resize(whole.boundedTo(screen.size()));
-    const ScreenPoint place = StartPlace(screen.width(), screen.height(), width(), height());
-    move(screen.topLeft() + QPoint(place.x, place.y));
+    // The window manager's frame is not there before the window is shown.
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, titleBar);
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    // The scroll bar for one direction must not take room away in the other.
+    const QSize scrolling(whole.height() > room.height() ? scrollBar : 0,
+                          whole.width() > room.width() ? scrollBar : 0);
+    setMaximumSize(whole + scrolling);
+    resize((whole + scrolling).boundedTo(room));
 }
 
 void frmTarvix::ShowLogo() {
+    constexpr int kMargin = 6;
     if (!logo_.isNull()) {
-        form_.imgBrindleLogo->setPixmap(
-            LogoPixmap(logo_, form_.imgBrindleLogo->size(), devicePixelRatioF()));
+        const QSize card = form_.imgBrindleLogo->size() - QSize(2 * kMargin, 2 * kMargin);
+        form_.imgBrindleLogo->setPixmap(LogoPixmap(logo_, card, devicePixelRatioF()));
     }
 }
 

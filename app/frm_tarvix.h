@@ -7,6 +7,7 @@
 #pragma once
 
 #include "app/calculation_modes.h"
+#include "ui/accessible_names.h"
 #include "ui/fluid_options.h"
 #include "ui/pipe_boxes.h"
 #include "ui/unit_boxes.h"
@@ -23,6 +24,8 @@ class frmTarvix : public QMainWindow {
     // Builds the window. Form_Load is the caller's next step, then showing it.
     frmTarvix(Module1& module, WindowHost& host);
 
+    frmTarvix(const frmTarvix&) = delete;
+    frmTarvix& operator=(const frmTarvix&) = delete;
     ~frmTarvix() override;
 
     // Places the window, fills the lists, loads the logo and selects the first mode.
@@ -41,6 +44,7 @@ class frmTarvix : public QMainWindow {
     void Form_Activate();
     void ConnectMenusAndButtons();
     void ShowLogo();
+    void ApplyReadableColors();
     void FitToScreen();
     void PrintOrificeReport();
 
@@ -61,6 +65,7 @@ class frmTarvix : public QMainWindow {
     PipeBoxes pipeBoxes_;
     FluidOptions fluidOptions_;
     CalculationModes modes_;
+    AccessibleNames accessibleNames_;
     QImage logo_;
 };
 

@@ -47,9 +47,7 @@ void OrificeCalculations::StandardBetaRangeCheck() {
 }
 
 void OrificeCalculations::ShowMessage(const std::string& message, BackColor color) {
-    QLabel& label = *context_.form.lblMsg;
-    label.setText(QString::fromStdString(message));
-    SetBackColor(label, message.empty() ? BackColor::PaleGrey : color);
+    context_.form.lblMsg->Show(message, color);
 }
 
 void OrificeCalculations::EnablePrinting(bool enabled) {

@@ -3,6 +3,7 @@
 #include "report/maker.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -85,7 +86,7 @@ void AboutBox::LayOut() {
     const int line = fontMetrics().lineSpacing();
 
     QFont titleFont = font();
-    titleFont.setPointSizeF(1.4 * titleFont.pointSizeF());
+    titleFont.setPointSizeF(1.4 * QFontInfo(titleFont).pointSizeF());
     titleFont.setBold(true);
     Label(kTitleLabel).setFont(titleFont);
     // The address can be copied; the program itself opens no web site.

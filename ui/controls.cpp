@@ -1,10 +1,15 @@
 #include "ui/controls.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace tarvix {
@@ -12,6 +17,9 @@ namespace tarvix {
 namespace {
 
 constexpr const char* kBackColorProperty = "backColor";
+
+// Pixels between an entry of a list and the inner edges of its box.
+constexpr int kEntryMargin = 4;
 
 const QColor kDarkText(0x00, 0x00, 0x00);
 const QColor kDarkDisabledText(0x45, 0x45, 0x45);
@@ -23,20 +31,33 @@ QColor ColorOf(BackColor color) {
 }
 
 QPalette PaletteOf(const QWidget& widget, BackColor color) {
-    QPalette palette = widget.palette();
-    // An option keeps its white dot and fills the rest of its box.
-    if (qobject_cast<const QLineEdit*>(&widget) != nullptr) {
-        palette.setColor(QPalette::Base, ColorOf(color));
-    } else {
-        palette.setColor(QPalette::Window, ColorOf(color));
-        palette.setColor(QPalette::Button, ColorOf(color));
-    }
+    QPalette palette;
+    palette.setColor(QPalette::Window, ColorOf(color));
+    palette.setColor(QPalette::Button, ColorOf(color));
+    // A text box shows the color; the circle of an option stays white, whatever its dot is on.
+    const bool isTextBox = qobject_cast<const QLineEdit*>(&widget) != nullptr;
+    palette.setColor(QPalette::Base, isTextBox ? ColorOf(color) : QColor(Qt::white));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Active, role, kDarkText);
         palette.setColor(QPalette::Inactive, role, kDarkText);
         palette.setColor(QPalette::Disabled, role, kDarkDisabledText);
     }
     return palette;
+}
+
+// True for a key that may put characters into a field: not for the keys of commands, but for the
+// invisible marks of some keyboards, which the toolkit takes as text.
+bool IsTyping(const QKeyEvent& event) {
+    if (event.text().isEmpty()) {
+        return false;
+    }
+    const QChar::Category category = event.text().at(0).category();
+    if (category == QChar::Other_Format) {
+        return true;
+    }
+    const bool command = event.modifiers() == Qt::ControlModifier ||
+                         event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    return category != QChar::Other_Control && !command;
 }
 
 }  // namespace
@@ -61,12 +82,21 @@ BackColor BackColorOf(const QWidget& widget) {
 
 NumericField::NumericField(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight);
+    // What a keyboard on the screen offers.
+    setInputMethodHints(Qt::ImhFormattedNumbersOnly);
     // The toolkit also reports an edit that puts the same text in place of the selected one.
     connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (std::exchange(reportedText_, text) != text && onChange) {
             onChange();
         }
     });
+}
+
+void NumericField::SetLocked(bool locked) {
+    setReadOnly(locked);
+    QFont weight = font();
+    weight.setBold(locked);
+    setFont(weight);
 }
 
 FieldSelection NumericField::Selection() const {
@@ -92,30 +122,50 @@ void NumericField::focusInEvent(QFocusEvent* event) {
 void NumericField::mousePressEvent(QMouseEvent* event) {
     // The press that brings the focus leaves the whole text selected; the next one sets the caret.
     if (std::exchange(focusCameByThisPress_, false)) {
+        enteringPress_ = event->pos();
         return;
     }
     QLineEdit::mousePressEvent(event);
 }
 
+void NumericField::mouseMoveEvent(QMouseEvent* event) {
+    if (enteringPress_) {
+        // A hand that trembles does not select.
+        if ((event->pos() - *enteringPress_).manhattanLength() <
+            QApplication::startDragDistance()) {
+            return;
+        }
+        setCursorPosition(cursorPositionAt(*enteringPress_));
+        enteringPress_.reset();
+    }
+    QLineEdit::mouseMoveEvent(event);
+}
+
+void NumericField::mouseReleaseEvent(QMouseEvent* event) {
+    enteringPress_.reset();
+    QLineEdit::mouseReleaseEvent(event);
+}
+
 void NumericField::keyPressEvent(QKeyEvent* event) {
     focusCameByThisPress_ = false;
-    QString typed = event->text();
-    if (typed.isEmpty() || !typed.at(0).isPrint()) {
+    if (!IsTyping(*event)) {
         QLineEdit::keyPressEvent(event);
         return;
     }
+    QString typed = event->text();
     if (event->modifiers().testFlag(Qt::KeypadModifier) &&
         (event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma)) {
         typed = QString(QLatin1Char(decimalSeparator_));
     }
-    if (!IsKept(typed.at(0))) {
-        event->accept();
-        return;
+    event->accept();
+    for (const QChar character : typed) {
+        if (IsKept(character)) {
+            QKeyEvent kept(event->type(), event->key(), event->modifiers(), QString(character),
+                           event->isAutoRepeat());
+            QLineEdit::keyPressEvent(&kept);
+            event->setAccepted(kept.isAccepted());
+        }
     }
-    QKeyEvent kept(event->type(), event->key(), event->modifiers(), typed, event->isAutoRepeat(),
-                   static_cast<quint16>(event->count()));
-    QLineEdit::keyPressEvent(&kept);
-    event->setAccepted(kept.isAccepted());
 }
 
 void NumericField::inputMethodEvent(QInputMethodEvent* event) {
@@ -133,15 +183,94 @@ bool NumericField::IsKept(QChar character) const {
     return !onKeyPress || onKeyPress(character.unicode()) != 0;
 }
 
+OptionButton::OptionButton(const QString& caption, QWidget* parent)
+    : QRadioButton(caption, parent) {
+    connect(this, &QAbstractButton::toggled, this, [this](bool selected) {
+        if (selected) {
+            TakeTabStop();
+        }
+    });
+}
+
+void OptionButton::TakeTabStop() {
+    for (OptionButton* option : Options()) {
+        option->setFocusPolicy(option == this ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
 void OptionButton::Select() {
     setChecked(true);
     emit clicked(true);
+}
+
+QSize OptionButton::sizeHint() const {
+    return QRadioButton::sizeHint() + QSize(isBar_ ? 2 * BarPadding() : 0, 0);
+}
+
+int OptionButton::BarPadding() const {
+    return style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this);
+}
+
+void OptionButton::paintEvent(QPaintEvent* event) {
+    if (!isBar_) {
+        QRadioButton::paintEvent(event);
+        return;
+    }
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.rect.adjust(BarPadding(), 0, -BarPadding(), 0);
+    QStylePainter(this).drawControl(QStyle::CE_RadioButton, option);
+}
+
+bool OptionButton::hitButton(const QPoint& position) const {
+    return isBar_ ? rect().contains(position) : QRadioButton::hitButton(position);
+}
+
+void OptionButton::keyPressEvent(QKeyEvent* event) {
+    const bool following = event->key() == Qt::Key_Down || event->key() == Qt::Key_Right;
+    const bool preceding = event->key() == Qt::Key_Up || event->key() == Qt::Key_Left;
+    if (!following && !preceding) {
+        QRadioButton::keyPressEvent(event);
+        return;
+    }
+    // The focus first: the option's handler may send it on to the field that it opens.
+    OptionButton* neighbor = Neighbor(following);
+    neighbor->setFocus(following ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    neighbor->click();
+}
+
+std::vector<OptionButton*> OptionButton::Options() const {
+    std::vector<OptionButton*> options;
+    for (QObject* child : parent()->children()) {
+        if (auto* option = dynamic_cast<OptionButton*>(child)) {
+            options.push_back(option);
+        }
+    }
+    return options;
+}
+
+OptionButton* OptionButton::Neighbor(bool following) const {
+    std::vector<OptionButton*> usable = Options();
+    std::erase_if(usable, [](const OptionButton* option) {
+        return !option->isVisible() || !option->isEnabled();
+    });
+    const auto count = usable.size();
+    const auto self = static_cast<size_t>(std::ranges::find(usable, this) - usable.begin());
+    return usable[(self + (following ? 1 : count - 1)) % count];
 }
 
 DropDownList::DropDownList(QWidget* parent) : QComboBox(parent) {
     // A hover or a scroll of the page must not change a unit.
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(20);
+}
+
+QSize DropDownList::sizeHint() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize entry(fontMetrics().horizontalAdvance(widestEntry_) + kEntryMargin,
+                      fontMetrics().height());
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, entry, this);
 }
 
 void DropDownList::SetListIndex(int index) {

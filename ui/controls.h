@@ -9,7 +9,9 @@
 #include <QRadioButton>
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace tarvix {
 
@@ -45,8 +47,8 @@ class NumericField : public QLineEdit {
     // What the decimal key of the number pad types.
     void SetDecimalSeparator(char separator) { decimalSeparator_ = separator; }
 
-    // A locked field shows its text but can't be typed into.
-    void SetLocked(bool locked) { setReadOnly(locked); }
+    // A locked field shows a result: in bold, and it can't be typed into.
+    void SetLocked(bool locked);
     bool Locked() const { return isReadOnly(); }
     void SetTabStop(bool stop) { setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
     bool TabStop() const { return (focusPolicy() & Qt::TabFocus) != 0; }
@@ -57,6 +59,8 @@ class NumericField : public QLineEdit {
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
@@ -66,16 +70,41 @@ class NumericField : public QLineEdit {
     QString reportedText_;
     char decimalSeparator_ = '.';
     bool focusCameByThisPress_ = false;
+    // Where that press went down, until it turns into a drag or ends.
+    std::optional<QPoint> enteringPress_;
 };
 
 // An option button. Selecting it from code runs its click handler, as a click does, also when it is
-// selected already.
+// selected already. Of the options of a frame, the Tab key visits the selected one; the arrow keys
+// click the next one.
 class OptionButton : public QRadioButton {
   public:
-    using QRadioButton::QRadioButton;
+    OptionButton(const QString& caption, QWidget* parent);
 
     void Select();
     bool Value() const { return isChecked(); }
+
+    // Shows the option as a bar in its back color, with room at both ends, that can be clicked
+    // anywhere.
+    void ShowAsBar() { isBar_ = true; }
+
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool hitButton(const QPoint& position) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void TakeTabStop();
+    int BarPadding() const;
+    // All options of the frame around it.
+    std::vector<OptionButton*> Options() const;
+    // The usable option of the same frame that follows this one, or stands before it; the last is
+    // followed by the first.
+    OptionButton* Neighbor(bool following) const;
+
+    bool isBar_ = false;
 };
 
 // A drop-down list. Selecting an entry from code runs its click handler, as a pick does, also for
@@ -84,14 +113,22 @@ class DropDownList : public QComboBox {
   public:
     explicit DropDownList(QWidget* parent);
 
+    // The entry for which the list asks for room, whatever it holds at the moment.
+    void SetWidestEntry(const char* entry) { widestEntry_ = QLatin1String(entry); }
+
     std::string Text() const { return currentText().toStdString(); }
     int ListIndex() const { return currentIndex(); }
     void SetListIndex(int index);
     void AddItem(std::string_view text);
     void Clear() { clear(); }
 
+    QSize sizeHint() const override;
+
   protected:
     void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    QString widestEntry_;
 };
 
 }  // namespace tarvix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFontMetrics>
 #include <QGroupBox>
 
 namespace tarvix {
@@ -9,6 +10,9 @@ namespace tarvix {
 class FrameBox : public QGroupBox {
   public:
     using QGroupBox::QGroupBox;
+
+    // Pixels from the upper edge to the border.
+    static int CaptionHeight(const QFont& font) { return QFontMetrics(font).height(); }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QPalette>
 #include <QScreen>
@@ -44,7 +45,7 @@ QFont SplashFont(const QString& family, double scale, bool bold, const QFont& ba
     if (QFontDatabase::hasFamily(family)) {
         font.setFamily(family);
     }
-    font.setPointSizeF(scale * base.pointSizeF());
+    font.setPointSizeF(scale * QFontInfo(base).pointSizeF());
     font.setBold(bold);
     return font;
 }

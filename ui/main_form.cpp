@@ -3,9 +3,11 @@
 #include "ui/frame_box.h"
 
 #include <QFontMetricsF>
+#include <QTabBar>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarvix {
 
@@ -13,13 +15,21 @@ namespace {
 
 // The size of the form.
 constexpr int kFormWidth = 9600;
-constexpr int kFormHeight = 8540;
+constexpr int kFormHeight = 7605;
 
-// The narrowest label, "Operating Density" on two lines, sets the horizontal scale; the height of a
-// text box the vertical one.
-constexpr int kOperatingWidth = 735;
-constexpr int kTextBoxHeight = 315;
-constexpr int kTextBoxFrame = 8;  // pixels around the text
+// What the places leave to texts and to the style: the label of the compressibility field breaks
+// into two lines at both of its widths, a row holds a text box, a frame's rows begin below its
+// caption, and the frames on the tab control below its tab.
+constexpr std::pair<const char*, int> kCompCorrLines[] = {
+    {"Operating", 735},
+    {"Flowing Conditions (Zf)", 1700},
+};
+constexpr int kRowHeight = 270;
+constexpr int kCaptionHeight = 240;
+constexpr int kTabHeight = 330;
+
+// Pixels that a text box needs above and below its text.
+constexpr int kTextBoxFrame = 8;
 
 }  // namespace
 
@@ -29,6 +39,7 @@ MainForm::MainForm(QWidget& canvas, QMenuBar& menuBar) : canvas_(canvas) {
     BuildFluidProperties();
     BuildPipeAndFlow();
     BuildBore();
+    BuildMessageAndButtons();
     BuildMenus(menuBar);
     PlaceControls();
 }
@@ -64,10 +75,8 @@ void MainForm::SetWidth(QWidget& widget, int width) {
 }
 
 void MainForm::PlaceControls() {
-    const QFontMetricsF metrics(canvas_.font());
-    pixelsPerTwipX_ =
-        (metrics.horizontalAdvance(QStringLiteral("Operating")) + 2) / kOperatingWidth;
-    pixelsPerTwipY_ = (metrics.lineSpacing() + kTextBoxFrame) / kTextBoxHeight;
+    pixelsPerTwipX_ = PixelsPerTwipX();
+    pixelsPerTwipY_ = PixelsPerTwipY();
     canvas_.setFixedSize(static_cast<int>(std::ceil(kFormWidth * pixelsPerTwipX_)),
                          static_cast<int>(std::ceil(kFormHeight * pixelsPerTwipY_)));
     for (const NamedControl& control : controls_) {
@@ -77,19 +86,56 @@ void MainForm::PlaceControls() {
     }
 }
 
+// The scale at which the tightest of all texts fits its control.
+double MainForm::PixelsPerTwipX() const {
+    const QFontMetricsF metrics(canvas_.font());
+    double scale = 0;
+    for (const auto& [line, width] : kCompCorrLines) {
+        scale = std::max(scale, (metrics.horizontalAdvance(QLatin1String(line)) + 2) / width);
+    }
+    for (const NamedControl& control : controls_) {
+        const bool showsText =
+            control.kind == ControlKind::Label || control.kind == ControlKind::Option ||
+            control.kind == ControlKind::Button || control.kind == ControlKind::ComboBox;
+        if (showsText && control.widget != lblCompCorr) {
+            const double needed = control.widget->sizeHint().width() + 1;
+            scale = std::max(scale, needed / control.place.width);
+        }
+    }
+    return scale;
+}
+
+double MainForm::PixelsPerTwipY() const {
+    const QFontMetricsF metrics(canvas_.font());
+    const double row = metrics.lineSpacing() + kTextBoxFrame;
+    const double caption = FrameBox::CaptionHeight(canvas_.font()) + 1;  // and the border's line
+    const double tab = tabOrifice->tabBar()->sizeHint().height();
+    return std::max({row / kRowHeight, caption / kCaptionHeight, tab / kTabHeight});
+}
+
 void MainForm::Place(const NamedControl& control) const {
-    // Both edges are rounded, not the size, so that controls that touch in twips touch in pixels.
     const auto x = [this](int twips) {
         return static_cast<int>(std::lround(twips * pixelsPerTwipX_));
     };
     const auto y = [this](int twips) {
         return static_cast<int>(std::lround(twips * pixelsPerTwipY_));
     };
-    const TwipsRect& place = control.place;
+    // Both edges are rounded, not the size, so that controls that touch in twips touch in pixels.
+    // What lies in a box is rounded with the box, so that its rows are those beside it.
+    TwipsRect place = control.place;
+    QPoint origin;
+    const QWidget* around = control.widget->parentWidget();
+    if (around != &canvas_ && around != tabOrifice &&
+        dynamic_cast<const FrameBox*>(around) == nullptr) {
+        const TwipsRect& box = Of(*around).place;
+        place.left += box.left;
+        place.top += box.top;
+        origin = QPoint(x(box.left), y(box.top));
+    }
     const QPoint topLeft(x(place.left), y(place.top));
     const QPoint bottomRight(x(place.left + place.width), y(place.top + place.height));
-    control.widget->setGeometry(
-        QRect(topLeft, QSize(bottomRight.x() - topLeft.x(), bottomRight.y() - topLeft.y())));
+    control.widget->setGeometry(QRect(
+        topLeft - origin, QSize(bottomRight.x() - topLeft.x(), bottomRight.y() - topLeft.y())));
 }
 
 bool MainForm::IsVisible(const QWidget& widget) const {
@@ -152,8 +198,10 @@ QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, TwipsRect pl
     return backdrop;
 }
 
-DropDownList* MainForm::AddList(QWidget* parent, const char* name, TwipsRect place) {
+DropDownList* MainForm::AddList(QWidget* parent, const char* name, TwipsRect place,
+                                const char* widestEntry) {
     auto* list = new DropDownList(parent);
+    list->SetWidestEntry(widestEntry);
     Register(list, name, ControlKind::ComboBox, place);
     return list;
 }

@@ -1,11 +1,12 @@
 // The main window's form: its controls, each under the product's name, and their places.
 //
 // Places are kept in twips, the unit in which the calculator moves and sizes two of its frames, and
-// scaled to pixels by the font, so that the form fits its texts at every font size. The controls
-// are created frame by frame in the order in which the Tab key visits them.
+// scaled to pixels as the font and the style ask for, so that every text fits its control. The
+// controls are created frame by frame in the order in which the Tab key visits them.
 #pragma once
 
 #include "ui/controls.h"
+#include "ui/message_line.h"
 
 #include <QAction>
 #include <QLabel>
@@ -130,7 +131,7 @@ class MainForm {
     QWidget* fraBeta = nullptr;
     NumericField* txtBeta = nullptr;
     QLabel* lblBeta = nullptr;
-    QLabel* lblMsg = nullptr;
+    MessageLine* lblMsg = nullptr;
 
     QMenu* mnuFile = nullptr;
     QAction* mnuPrint = nullptr;
@@ -173,6 +174,7 @@ class MainForm {
     void BuildCompressibility(QWidget* tab);
     void BuildPipeAndFlow();
     void BuildBore();
+    void BuildMessageAndButtons();
     void BuildMenus(QMenuBar& menuBar);
 
     // Each adds a control of its kind below `parent` with its caption and place.
@@ -183,18 +185,21 @@ class MainForm {
     QLabel* AddLabel(QWidget* parent, const char* name, const char* caption, TwipsRect place);
     NumericField* AddField(QWidget* parent, const char* name, TwipsRect place);
     QLineEdit* AddBackdrop(QWidget* parent, const char* name, TwipsRect place);
-    DropDownList* AddList(QWidget* parent, const char* name, TwipsRect place);
+    DropDownList* AddList(QWidget* parent, const char* name, TwipsRect place,
+                          const char* widestEntry);
     QPushButton* AddButton(QWidget* parent, const char* name, const char* caption, TwipsRect place);
     QAction* AddMenuItem(QWidget* menu, const char* name, const char* caption);
     void Register(QWidget* widget, const char* name, ControlKind kind, TwipsRect place);
 
+    double PixelsPerTwipX() const;
+    double PixelsPerTwipY() const;
     NamedControl& Entry(const QWidget& widget);
     void Place(const NamedControl& control) const;
 
     QWidget& canvas_;
     std::vector<NamedControl> controls_;
-    double pixelsPerTwipX_ = 1.0 / 15;
-    double pixelsPerTwipY_ = 1.0 / 15;
+    double pixelsPerTwipX_ = 0;
+    double pixelsPerTwipY_ = 0;
 };
 
 }  // namespace tarvix

@@ -1,47 +1,96 @@
 // The controls of the main window: captions and places. Twips, relative to the frame around them.
 #include "ui/main_form.h"
+#include "ui/tab_control.h"
 
 namespace tarvix {
 
 namespace {
 
-// A row of text boxes is 315 high, one of options or labels 270; frames start their rows below the
-// caption and keep 120 to their edges.
-constexpr int kLeft = 120;
-constexpr int kRow1 = 270;
-constexpr int kRow2 = 630;
-constexpr int kText = 315;
-constexpr int kOption = 300;
+// Frames keep a caption's height and a little more above their first row. A second row follows 315
+// below the first; the frames on the tab follow each other by 960.
+constexpr int kRow = 270;
+constexpr int kRow1 = 255;
+constexpr int kRow2 = 570;
+constexpr int kOneRowFrame = 600;
+constexpr int kTwoRowFrame = 915;
+
+// Options that stand close together, one below the other.
+constexpr int kOption1 = 255;
+constexpr int kOption2 = 540;
+constexpr int kOption3 = 825;
+
+// The columns of all frames: fields and options begin at A, units and what belongs to an option at
+// B, choices beside a unit at C, the fields of the liquid's and steam's properties at D, and what
+// stands beside them at E.
+constexpr int kColumnA = 120;
+constexpr int kColumnB = 1710;
+constexpr int kColumnC = 3540;
+constexpr int kColumnD = 5130;
+constexpr int kColumnE = 6720;
+constexpr int kField = 1500;
+
+// The frames on the tab.
+constexpr int kTabLeft = 165;
+constexpr int kTabWidth = 9015;
+constexpr int kSlot1 = 360;
+constexpr int kSlot2 = 1320;
+constexpr int kSlot3 = 2280;
+
+// The widest entry that each list ever shows.
+constexpr const char* kWidestDensityUnit = "kg/cubic meter";
+constexpr const char* kWidestPressureUnit = "mm of Mercury";
+constexpr const char* kWidestDiffPressureUnit = "Inches of Mercury";
+constexpr const char* kWidestFlowUnit = "Standard Cubic Meters";
+constexpr const char* kWidestTimeUnit = "Second";
+constexpr const char* kWidestLengthUnit = "Centimeters";
+constexpr const char* kWidestNominalSize = "1066.8";
+constexpr const char* kWidestPipe = "10.020\"  (254.51 mm)  Sch 40, STD, Sch 40S";
 
 }  // namespace
 
 void MainForm::BuildModeAndFluid() {
-    fraCalcOptions = AddFrame(&canvas_, "fraCalcOptions", "Options", {kLeft, 60, 3900, 1395});
-    txtOptionsFrame = AddBackdrop(fraCalcOptions, "txtOptionsFrame", {90, 255, 3720, 1065});
+    constexpr int kTop = 45;
+    constexpr int kFrameHeight = 1260;
+    constexpr int kBackdropTop = 255;
+    constexpr int kBackdropHeight = 930;
+    constexpr int kOptionLeft = 135;
+
+    fraCalcOptions =
+        AddFrame(&canvas_, "fraCalcOptions", "Options", {120, kTop, 3600, kFrameHeight});
+    txtOptionsFrame =
+        AddBackdrop(fraCalcOptions, "txtOptionsFrame", {90, kBackdropTop, 3420, kBackdropHeight});
     optCalcBeta = AddOption(fraCalcOptions, "optCalcBeta", "Calculate  Beta Ratio",
-                            {150, 315, 3600, kOption});
+                            {kOptionLeft, 300, 3330, kRow});
     optCalcDP = AddOption(fraCalcOptions, "optCalcDP", "Calculate Differential Pressure",
-                          {150, 635, 3600, kOption});
-    optCalcFR =
-        AddOption(fraCalcOptions, "optCalcFR", "Calculate  Flow Rate", {150, 955, 3600, kOption});
+                          {kOptionLeft, 585, 3330, kRow});
+    optCalcFR = AddOption(fraCalcOptions, "optCalcFR", "Calculate  Flow Rate",
+                          {kOptionLeft, 870, 3330, kRow});
 
-    fraFlowType = AddFrame(&canvas_, "fraFlowType", "Flow Type", {4140, 60, 2100, 1395});
-    txtFlowTypeFrame = AddBackdrop(fraFlowType, "txtFlowTypeFrame", {90, 255, 1920, 1065});
-    optLiquid = AddOption(fraFlowType, "optLiquid", "Liquid", {150, 315, 1800, kOption});
-    optGas = AddOption(fraFlowType, "optGas", "Air - Gas", {150, 635, 1800, kOption});
-    optSteam = AddOption(fraFlowType, "optSteam", "Steam", {150, 955, 1800, kOption});
+    fraFlowType = AddFrame(&canvas_, "fraFlowType", "Flow Type", {3840, kTop, 2400, kFrameHeight});
+    txtFlowTypeFrame =
+        AddBackdrop(fraFlowType, "txtFlowTypeFrame", {90, kBackdropTop, 2220, kBackdropHeight});
+    optLiquid = AddOption(fraFlowType, "optLiquid", "Liquid", {kOptionLeft, 300, 2130, kRow});
+    optGas = AddOption(fraFlowType, "optGas", "Air - Gas", {kOptionLeft, 585, 2130, kRow});
+    optSteam = AddOption(fraFlowType, "optSteam", "Steam", {kOptionLeft, 870, 2130, kRow});
+    for (OptionButton* option : {optCalcBeta, optCalcDP, optCalcFR, optLiquid, optGas, optSteam}) {
+        option->ShowAsBar();
+    }
 
+    // The logo stands on white, so it gets a white card in dark desktop themes, too.
     imgBrindleLogo = new QLabel(&canvas_);
     imgBrindleLogo->setAlignment(Qt::AlignCenter);
-    Register(imgBrindleLogo, "imgBrindleLogo", ControlKind::Picture, {6420, 120, 3060, 840});
-    cmdPrint = AddButton(&canvas_, "cmdPrint", "Print", {6420, 1065, 1470, 390});
-    cmdExit = AddButton(&canvas_, "cmdExit", "Exit", {8010, 1065, 1470, 390});
+    imgBrindleLogo->setFrameShape(QFrame::StyledPanel);
+    QPalette card;
+    card.setColor(QPalette::Window, Qt::white);
+    imgBrindleLogo->setPalette(card);
+    imgBrindleLogo->setAutoFillBackground(true);
+    Register(imgBrindleLogo, "imgBrindleLogo", ControlKind::Picture, {6360, 105, 3120, 765});
 }
 
 void MainForm::BuildFluidProperties() {
-    tabOrifice = new QTabWidget(&canvas_);
+    tabOrifice = new TabControl(&canvas_);
     tabOrifice->addTab(new QWidget, QStringLiteral("&Measurement Orifice"));
-    Register(tabOrifice, "tabOrifice", ControlKind::Tab, {kLeft, 1530, 9360, 4020});
+    Register(tabOrifice, "tabOrifice", ControlKind::Tab, {120, 1350, 9360, 3540});
     // The frames lie on the tab control itself, below its tab: their places count from its corner.
     BuildSpecificGravity(tabOrifice);
     BuildDensity(tabOrifice);
@@ -50,113 +99,142 @@ void MainForm::BuildFluidProperties() {
 }
 
 void MainForm::BuildSpecificGravity(QWidget* tab) {
-    fraSG = AddFrame(tab, "fraSG", "Specific Gravity", {165, 360, 9015, 945});
+    constexpr int kLabelLeft = 4290;
+    constexpr int kLabelWidth = 780;
+    fraSG = AddFrame(tab, "fraSG", "Specific Gravity", {kTabLeft, kSlot1, kTabWidth, kTwoRowFrame});
     optSgCalc =
-        AddOption(fraSG, "optSgCalc", "Calculated (from density)", {kLeft, 255, 3000, kOption});
-    optSgUser = AddOption(fraSG, "optSgUser", "User Entered", {kLeft, 585, 3000, kOption});
-    lblSGb1 = AddLabel(fraSG, "lblSGb1", "Base", {3720, 255, 900, kText});
-    txtSGb = AddField(fraSG, "txtSGb", {4650, 255, 1500, kText});
-    lblSGb2 = AddLabel(fraSG, "lblSGb2", "(water = 1)", {6240, 255, 1500, kText});
-    lblSGf1 = AddLabel(fraSG, "lblSGf1", "Flowing", {3720, 585, 900, kText});
-    txtSGf = AddField(fraSG, "txtSGf", {4650, 585, 1500, kText});
-    lblSGf2 = AddLabel(fraSG, "lblSGf2", "(water = 1)", {6240, 585, 1500, kText});
+        AddOption(fraSG, "optSgCalc", "Calculated (from density)", {kColumnA, kRow1, 3300, kRow});
+    optSgUser = AddOption(fraSG, "optSgUser", "User Entered", {kColumnA, kRow2, 3300, kRow});
+    lblSGb1 = AddLabel(fraSG, "lblSGb1", "Base", {kLabelLeft, kRow1, kLabelWidth, kRow});
+    txtSGb = AddField(fraSG, "txtSGb", {kColumnD, kRow1, kField, kRow});
+    lblSGb2 = AddLabel(fraSG, "lblSGb2", "(water = 1)", {kColumnE, kRow1, 1500, kRow});
+    lblSGf1 = AddLabel(fraSG, "lblSGf1", "Flowing", {kLabelLeft, kRow2, kLabelWidth, kRow});
+    txtSGf = AddField(fraSG, "txtSGf", {kColumnD, kRow2, kField, kRow});
+    lblSGf2 = AddLabel(fraSG, "lblSGf2", "(water = 1)", {kColumnE, kRow2, 1500, kRow});
 }
 
 void MainForm::BuildDensity(QWidget* tab) {
-    fraDensity = AddFrame(tab, "fraDensity", "Density", {165, 1320, 9015, 1080});
-    fraSteam1 = AddBox(fraDensity, "fraSteam1", {kLeft, 255, 1800, 735});
-    optSuperheated = AddOption(fraSteam1, "optSuperheated", "Superheated", {30, 30, 1740, kOption});
-    optSaturated = AddOption(fraSteam1, "optSaturated", "Saturated", {30, 390, 1740, kOption});
-    fraSteam2 = AddBox(fraDensity, "fraSteam2", {1950, 255, 3930, 735});
-    optSteamTbl = AddOption(fraSteam2, "optSteamTbl", "From ASME Table", {30, 30, 2130, kOption});
-    lblSteamTbl =
-        AddLabel(fraSteam2, "lblSteamTbl", "(Op.Press. based)", {2190, 30, 1710, kOption});
-    optSteamUser = AddOption(fraSteam2, "optSteamUser", "User Entered", {30, 390, 2130, kOption});
-    lblDensity = AddLabel(fraDensity, "lblDensity", "Operating Density", {5940, 255, 2400, kText});
-    txtDensity = AddField(fraDensity, "txtDensity", {5940, kRow2, 1260, kText});
-    cboDensityUnit = AddList(fraDensity, "cboDensityUnit", {7260, kRow2, 1635, kText});
+    // The two boxes around the options have no border; their rows are those of the frame.
+    constexpr int kBoxHeight = kRow2 - kRow1 + kRow;
+    constexpr int kBoxRow2 = kRow2 - kRow1;
+    fraDensity =
+        AddFrame(tab, "fraDensity", "Density", {kTabLeft, kSlot2, kTabWidth, kTwoRowFrame});
+    fraSteam1 = AddBox(fraDensity, "fraSteam1", {kColumnA, kRow1, 1560, kBoxHeight});
+    optSuperheated = AddOption(fraSteam1, "optSuperheated", "Superheated", {0, 0, 1560, kRow});
+    optSaturated = AddOption(fraSteam1, "optSaturated", "Saturated", {0, kBoxRow2, 1560, kRow});
+    fraSteam2 = AddBox(fraDensity, "fraSteam2", {kColumnB, kRow1, 3330, kBoxHeight});
+    optSteamTbl = AddOption(fraSteam2, "optSteamTbl", "From ASME Table", {0, 0, 1800, kRow});
+    lblSteamTbl = AddLabel(fraSteam2, "lblSteamTbl", "(Op.Press. based)", {1860, 0, 1470, kRow});
+    optSteamUser = AddOption(fraSteam2, "optSteamUser", "User Entered", {0, kBoxRow2, 1800, kRow});
+    lblDensity =
+        AddLabel(fraDensity, "lblDensity", "Operating Density", {kColumnD, kRow1, 2400, kRow});
+    txtDensity = AddField(fraDensity, "txtDensity", {kColumnD, kRow2, kField, kRow});
+    cboDensityUnit =
+        AddList(fraDensity, "cboDensityUnit", {kColumnE, kRow2, 1740, kRow}, kWidestDensityUnit);
 }
 
 void MainForm::BuildTemperatureAndPressure(QWidget* tab) {
-    fraTemp = AddFrame(tab, "fraTemp", "Temperature", {165, 360, 9015, 1080});
-    lblTf = AddLabel(fraTemp, "lblTf", "Operating Temperature", {kLeft, kRow1, 2400, kText});
-    txtTf = AddField(fraTemp, "txtTf", {kLeft, kRow2, 1500, kText});
-    optDegF = AddOption(fraTemp, "optDegF", "Deg F", {1740, kRow2, 960, kOption});
-    optDegC = AddOption(fraTemp, "optDegC", "Deg C", {2760, kRow2, 960, kOption});
+    fraTemp = AddFrame(tab, "fraTemp", "Temperature", {kTabLeft, kSlot1, kTabWidth, kTwoRowFrame});
+    lblTf = AddLabel(fraTemp, "lblTf", "Operating Temperature", {kColumnA, kRow1, 2400, kRow});
+    txtTf = AddField(fraTemp, "txtTf", {kColumnA, kRow2, kField, kRow});
+    optDegF = AddOption(fraTemp, "optDegF", "Deg F", {kColumnB, kRow2, 840, kRow});
+    optDegC = AddOption(fraTemp, "optDegC", "Deg C", {2610, kRow2, 840, kRow});
 
-    fraPress = AddFrame(tab, "fraPress", "Pressure", {165, 1500, 9015, 1080});
-    lblPf = AddLabel(fraPress, "lblPf", "Operating Pressure", {kLeft, kRow1, 2400, kText});
-    txtPf = AddField(fraPress, "txtPf", {kLeft, kRow2, 1500, kText});
-    cboPressUnit = AddList(fraPress, "cboPressUnit", {1680, kRow2, 1770, kText});
-    optPgauge = AddOption(fraPress, "optPgauge", "Gauge", {3660, kRow2, 1050, kOption});
-    optPabsolute = AddOption(fraPress, "optPabsolute", "Absolute", {4770, kRow2, 1200, kOption});
+    fraPress = AddFrame(tab, "fraPress", "Pressure", {kTabLeft, kSlot2, kTabWidth, kTwoRowFrame});
+    lblPf = AddLabel(fraPress, "lblPf", "Operating Pressure", {kColumnA, kRow1, 2400, kRow});
+    txtPf = AddField(fraPress, "txtPf", {kColumnA, kRow2, kField, kRow});
+    cboPressUnit =
+        AddList(fraPress, "cboPressUnit", {kColumnB, kRow2, 1740, kRow}, kWidestPressureUnit);
+    optPgauge = AddOption(fraPress, "optPgauge", "Gauge", {kColumnC + 90, kRow2, 900, kRow});
+    optPabsolute = AddOption(fraPress, "optPabsolute", "Absolute", {4650, kRow2, 1080, kRow});
 
-    fraGasSG = AddFrame(tab, "fraGasSG", "Specific Gravity", {6840, 1500, 2340, 1080});
-    lblGasSGb = AddLabel(fraGasSG, "lblGasSGb", "Base", {kLeft, kRow1, 1500, kText});
-    txtGasSGb = AddField(fraGasSG, "txtGasSGb", {kLeft, kRow2, 1500, kText});
+    fraGasSG = AddFrame(tab, "fraGasSG", "Specific Gravity", {6840, kSlot2, 2340, kTwoRowFrame});
+    lblGasSGb = AddLabel(fraGasSG, "lblGasSGb", "Base", {kColumnA, kRow1, kField, kRow});
+    txtGasSGb = AddField(fraGasSG, "txtGasSGb", {kColumnA, kRow2, kField, kRow});
 }
 
 void MainForm::BuildCompressibility(QWidget* tab) {
-    fraCompCorrection =
-        AddFrame(tab, "fraCompCorrection", "Compressibility Correction", {165, 2640, 9015, 1290});
+    fraCompCorrection = AddFrame(tab, "fraCompCorrection", "Compressibility Correction",
+                                 {kTabLeft, kSlot3, kTabWidth, 1170});
     optCompCorrNone =
-        AddOption(fraCompCorrection, "optCompCorrNone", "None", {kLeft, 255, 1200, kOption});
+        AddOption(fraCompCorrection, "optCompCorrNone", "None", {kColumnA, kOption1, 1260, kRow});
     optCompDensity =
-        AddOption(fraCompCorrection, "optCompDensity", "Density", {kLeft, 585, 1200, kOption});
-    optCompZf = AddOption(fraCompCorrection, "optCompZf", "Zf", {kLeft, 915, 1200, kOption});
-    lblCompCorr =
-        AddLabel(fraCompCorrection, "lblCompCorr", "Operating Density", {1680, 270, 735, 900});
+        AddOption(fraCompCorrection, "optCompDensity", "Density", {kColumnA, kOption2, 1260, kRow});
+    optCompZf = AddOption(fraCompCorrection, "optCompZf", "Zf", {kColumnA, kOption3, 1260, kRow});
+    // On as many lines as its width asks for, the last one close above the field.
+    lblCompCorr = AddLabel(fraCompCorrection, "lblCompCorr", "Operating Density",
+                           {kColumnB, 225, 735, kOption3 - 255});
     lblCompCorr->setWordWrap(true);
-    txtZf = AddField(fraCompCorrection, "txtZf", {3480, 570, 1500, kText});
-    cboZfDensityUnit = AddList(fraCompCorrection, "cboZfDensityUnit", {5040, 570, 1635, kText});
-    fraZfCompWarning = AddBox(fraCompCorrection, "fraZfCompWarning", {1680, 330, 5100, 780});
+    lblCompCorr->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    txtZf = AddField(fraCompCorrection, "txtZf", {kColumnB, kOption3, kField, kRow});
+    cboZfDensityUnit = AddList(fraCompCorrection, "cboZfDensityUnit", {3300, kOption3, 1740, kRow},
+                               kWidestDensityUnit);
+    fraZfCompWarning =
+        AddBox(fraCompCorrection, "fraZfCompWarning", {kColumnB, kOption1, 5160, 840});
     lbl1ZfCompWarning =
         AddLabel(fraZfCompWarning, "lbl1ZfCompWarning",
-                 "At this pressure, no compressibility correction", {kLeft, 60, 4860, kText});
-    lbl2ZfCompWarning =
-        AddLabel(fraZfCompWarning, "lbl2ZfCompWarning", "may result in erroneous computations.",
-                 {kLeft, 390, 4860, kText});
+                 "At this pressure, no compressibility correction", {180, 135, 4800, kRow});
+    lbl2ZfCompWarning = AddLabel(fraZfCompWarning, "lbl2ZfCompWarning",
+                                 "may result in erroneous computations.", {180, 435, 4800, kRow});
 }
 
 void MainForm::BuildPipeAndFlow() {
-    fraPipe = AddFrame(&canvas_, "fraPipe", "Pipe", {kLeft, 5610, 9360, 690});
-    lblNomSize = AddLabel(fraPipe, "lblNomSize", "Nominal Size", {kLeft, kRow1, 1170, kText});
-    cboNomSize = AddList(fraPipe, "cboNomSize", {1320, kRow1, 1080, kText});
+    constexpr TwipsRect kNominalSizePlace{1230, kRow1, 1110, kRow};
+    fraPipe = AddFrame(&canvas_, "fraPipe", "Pipe", {120, 4935, 9360, kOneRowFrame});
+    lblNomSize = AddLabel(fraPipe, "lblNomSize", "Nominal Size", {kColumnA, kRow1, 1050, kRow});
+    cboNomSize = AddList(fraPipe, "cboNomSize", kNominalSizePlace, kWidestNominalSize);
     // Lies over the nominal size while the pipe is the user's own.
-    txtMaskNomSize = AddBackdrop(fraPipe, "txtMaskNomSize", {1320, kRow1, 1080, kText});
-    lblPipeID = AddLabel(fraPipe, "lblPipeID", "Pipe ID", {2610, kRow1, 720, kText});
-    cboPipeID = AddList(fraPipe, "cboPipeID", {3360, kRow1, 4380, kText});
-    cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7830, kRow1, 1410, kText});
+    txtMaskNomSize = AddBackdrop(fraPipe, "txtMaskNomSize", kNominalSizePlace);
+    lblPipeID = AddLabel(fraPipe, "lblPipeID", "Pipe ID", {2580, kRow1, 600, kRow});
+    cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4380, kRow}, kWidestPipe);
+    cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7710, kRow1, 1530, kRow}, kWidestLengthUnit);
 
-    fraFlowrate = AddFrame(&canvas_, "fraFlowrate", "Flow Rate", {kLeft, 6360, 4650, 1050});
-    txtFlow = AddField(fraFlowrate, "txtFlow", {kLeft, kRow1, 1860, kText});
-    cboFlowUnit = AddList(fraFlowrate, "cboFlowUnit", {2070, kRow1, 2460, kText});
-    lblPer = AddLabel(fraFlowrate, "lblPer", "Per", {2070, kRow2, 600, kText});
-    cboTimeUnit = AddList(fraFlowrate, "cboTimeUnit", {2700, kRow2, 1830, kText});
+    constexpr int kTop = 5580;
+    fraFlowrate = AddFrame(&canvas_, "fraFlowrate", "Flow Rate", {120, kTop, 4230, kTwoRowFrame});
+    txtFlow = AddField(fraFlowrate, "txtFlow", {kColumnA, kRow1, kField, kRow});
+    cboFlowUnit =
+        AddList(fraFlowrate, "cboFlowUnit", {kColumnB, kRow1, 2400, kRow}, kWidestFlowUnit);
+    lblPer = AddLabel(fraFlowrate, "lblPer", "Per", {kColumnB, kRow2, 420, kRow});
+    cboTimeUnit = AddList(fraFlowrate, "cboTimeUnit", {2190, kRow2, 1920, kRow}, kWidestTimeUnit);
 
-    fraDeltaP = AddFrame(&canvas_, "fraDeltaP", "Differential Pressure", {4830, 6360, 4650, 1050});
-    txtDeltaP = AddField(fraDeltaP, "txtDeltaP", {kLeft, kRow1, 1860, kText});
-    cboDeltaPunit = AddList(fraDeltaP, "cboDeltaPunit", {2070, kRow1, 2460, kText});
+    fraDeltaP =
+        AddFrame(&canvas_, "fraDeltaP", "Differential Pressure", {4470, kTop, 5010, kTwoRowFrame});
+    txtDeltaP = AddField(fraDeltaP, "txtDeltaP", {kColumnA, kRow1, kField, kRow});
+    cboDeltaPunit =
+        AddList(fraDeltaP, "cboDeltaPunit", {kColumnB, kRow1, 2400, kRow}, kWidestDiffPressureUnit);
     fraPlateThicknessWarning =
-        AddBox(fraDeltaP, "fraPlateThicknessWarning", {kLeft, kRow2, 4410, 345});
+        AddBox(fraDeltaP, "fraPlateThicknessWarning", {kColumnA, kRow2, 4770, kRow});
     lbl1PlateThicknessWarning = AddLabel(fraPlateThicknessWarning, "lbl1PlateThicknessWarning",
-                                         "Orifice plate deflection", {90, 15, 2340, kText});
+                                         "Orifice plate deflection", {60, 0, 1830, kRow});
+    // The two labels read as one sentence.
+    lbl1PlateThicknessWarning->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lbl2PlateThicknessWarning = AddLabel(fraPlateThicknessWarning, "lbl2PlateThicknessWarning",
-                                         "should be checked.", {2460, 15, 1890, kText});
+                                         "should be checked.", {1950, 0, 2640, kRow});
 }
 
 void MainForm::BuildBore() {
-    fraOriBoreDiameter =
-        AddFrame(&canvas_, "fraOriBoreDiameter", "Orifice Bore Diameter", {kLeft, 7470, 4650, 690});
-    txtOriBoreDia = AddField(fraOriBoreDiameter, "txtOriBoreDia", {kLeft, kRow1, 1860, kText});
-    cboOriBoreUnit = AddList(fraOriBoreDiameter, "cboOriBoreUnit", {2070, kRow1, 1410, kText});
+    constexpr int kTop = 6540;
+    fraOriBoreDiameter = AddFrame(&canvas_, "fraOriBoreDiameter", "Orifice Bore Diameter",
+                                  {120, kTop, 4230, kOneRowFrame});
+    txtOriBoreDia = AddField(fraOriBoreDiameter, "txtOriBoreDia", {kColumnA, kRow1, kField, kRow});
+    cboOriBoreUnit = AddList(fraOriBoreDiameter, "cboOriBoreUnit", {kColumnB, kRow1, 2400, kRow},
+                             kWidestLengthUnit);
 
-    fraBeta = AddFrame(&canvas_, "fraBeta", "Beta Ratio", {4830, 7470, 4650, 690});
-    txtBeta = AddField(fraBeta, "txtBeta", {kLeft, kRow1, 930, kText});
+    fraBeta = AddFrame(&canvas_, "fraBeta", "Beta Ratio", {4470, kTop, 5010, kOneRowFrame});
+    txtBeta = AddField(fraBeta, "txtBeta", {kColumnA, kRow1, kField, kRow});
     lblBeta = AddLabel(fraBeta, "lblBeta", "Beta = (Orifice Diameter) / (Pipe Diamter)",
-                       {1110, kRow1, 3480, kText});
+                       {kColumnB, kRow1, 3240, kRow});
+}
 
-    lblMsg = AddLabel(&canvas_, "lblMsg", "", {kLeft, 8205, 9360, 285});
+void MainForm::BuildMessageAndButtons() {
+    lblMsg = new MessageLine(&canvas_);
+    Register(lblMsg, "lblMsg", ControlKind::Label, {120, 7230, 9360, 300});
+    // Beside the modes, but last on the keyboard's way through the window.
+    cmdPrint = AddButton(&canvas_, "cmdPrint", "Print", {6360, 960, 1500, 345});
+    cmdExit = AddButton(&canvas_, "cmdExit", "Exit", {7980, 960, 1500, 345});
+    // Enter presses the button that has the focus, as in a dialog.
+    cmdPrint->setAutoDefault(true);
+    cmdExit->setAutoDefault(true);
 }
 
 void MainForm::BuildMenus(QMenuBar& menuBar) {

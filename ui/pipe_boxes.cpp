@@ -122,6 +122,8 @@ void PipeBoxes::cboPipeID_Click() {
     const MainForm& form = context_.form;
     const bool userEntered = form.cboPipeID->Text().find(kUserEntered) != std::string::npos;
     form.txtMaskNomSize->setVisible(userEntered);
+    // The focus would not be seen on a list that is covered.
+    form.cboNomSize->setFocusPolicy(userEntered ? Qt::ClickFocus : Qt::StrongFocus);
     if (userEntered) {
         AskUserEnteredPipe();
     }

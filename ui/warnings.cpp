@@ -1,6 +1,7 @@
 #include "ui/warnings.h"
 
 #include "app/calculation.h"
+#include "ui/accessible_names.h"
 #include "ui/input_reader.h"
 
 namespace tarvix {
@@ -24,8 +25,12 @@ void Warnings::CheckZfCompWarning() {
     }
     const bool will = warning == CompressibilityWarning::Will;
     SetBackColor(*form.fraZfCompWarning, will ? BackColor::Red : BackColor::Yellow);
-    form.lbl2ZfCompWarning->setText(will ? QStringLiteral("will result in erroneous computations.")
-                                         : QStringLiteral("may result in erroneous computations."));
+    const QString words = will ? QStringLiteral("will result in erroneous computations.")
+                               : QStringLiteral("may result in erroneous computations.");
+    if (form.lbl2ZfCompWarning->text() != words) {
+        form.lbl2ZfCompWarning->setText(words);
+        AnnounceAlert(*form.fraZfCompWarning);
+    }
 }
 
 }  // namespace tarvix

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace tarvix::testing {
 namespace {
@@ -65,6 +66,10 @@ struct PaperCase {
     double leftMargin;
     double topMargin;
 };
+
+std::ostream& operator<<(std::ostream& out, const PaperCase& test) {
+    return out << test.name;
+}
 
 class PaperTest : public PagePainterTest, public ::testing::WithParamInterface<PaperCase> {};
 

@@ -72,12 +72,10 @@ QString PdfPage::LineOf(const PdfWord& word) const {
 }
 
 bool CanReadPdf() {
-    for (const char* tool : {"pdftotext", "pdffonts", "pdfimages", "pdftoppm"}) {
-        if (QStandardPaths::findExecutable(tool).isEmpty()) {
-            return false;
-        }
-    }
-    return true;
+    const QStringList tools{"pdftotext", "pdffonts", "pdfimages", "pdftoppm"};
+    return std::all_of(tools.begin(), tools.end(), [](const QString& tool) {
+        return !QStandardPaths::findExecutable(tool).isEmpty();
+    });
 }
 
 std::vector<PdfPage> ReadPdf(const QString& file) {

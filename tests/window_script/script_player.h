@@ -20,6 +20,11 @@ class ScriptPlayer {
     // Plays one line. Returns an empty text, or why the line is no command.
     QString Play(const QString& line);
 
+    // The window that is played on, loaded and shown at first use, and the desk that it stands on;
+    // for tests that look at them directly.
+    frmTarvix& Window();
+    ScriptDesk& Desk() { return desk_; }
+
   private:
     struct Words {
         QString command;
@@ -44,7 +49,6 @@ class ScriptPlayer {
     NumericField* EditableField(const QString& name, QString& why);
     void GiveFocus(QWidget& widget);
     void PressKey(int key, Qt::KeyboardModifiers modifiers, const QString& text);
-    frmTarvix& Window();
     MainForm& Form() { return Window().form(); }
 
     std::function<void(const QJsonObject&)> write_;

@@ -52,7 +52,7 @@ struct ResultRow : NamedRow {
 
 class CalculationRow : public CalculationTest, public ::testing::WithParamInterface<ResultRow> {
   protected:
-    CalculationResult SolveFor_(SolveFor mode) {
+    CalculationResult ResultIn(SolveFor mode) {
         InputSheet sheet = GetParam().sheet(mode);
         GetParam().change(sheet);
         return Solve(sheet);
@@ -63,7 +63,7 @@ TEST_P(CalculationRow, GivesTheTextOfEachResult) {
     for (const auto& [mode, text] : {std::pair{SolveFor::FlowRate, GetParam().flow},
                                      std::pair{SolveFor::DiffPressure, GetParam().deltaP},
                                      std::pair{SolveFor::Beta, GetParam().beta}}) {
-        const CalculationResult result = SolveFor_(mode);
+        const CalculationResult result = ResultIn(mode);
         EXPECT_EQ(result.text, text);
         EXPECT_EQ(result.message, "");
     }

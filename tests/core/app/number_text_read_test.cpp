@@ -163,6 +163,7 @@ const NoNumberRow kNoNumberRows[] = {
     {"LastGroupEmpty",        &kUnitedStates, "123,"},
     {"TwoSeparators",         &kUnitedStates, "1,,234"},
     {"MiddleGroupTooShort",   &kUnitedStates, "1,23,456"},
+    {"OnlyTheFirstMiddleGroupTooShort", &kUnitedStates, "1,23,456,789"},
     {"MiddleGroupTooLong",    &kUnitedStates, "1,2345,678"},
     {"LastGroupTooShort",     &kUnitedStates, "1,234,56"},
     {"SeparatorInFraction",   &kUnitedStates, "1.234,5"},

@@ -1,0 +1,121 @@
+// The drop-down lists under real key, mouse and wheel events.
+#include "tests/window/window_states.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+namespace {
+
+class DropDownListTest : public ::testing::Test {
+  protected:
+    DropDownListTest() { player_.window(); }
+
+    MainForm& form() { return player_.form(); }
+    int Calculations() { return player_.window().calculationRuns(); }
+
+    static void TurnWheel(QWidget& widget, int steps) {
+        const QPointF middle = QRectF(widget.rect()).center();
+        QWheelEvent event(middle, widget.mapToGlobal(middle), QPoint(), QPoint(0, 120 * steps),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &event);
+    }
+
+    // Opens the list with the mouse and picks the entry at `index`.
+    static void Pick(DropDownList& list, int index) {
+        QTest::mouseClick(&list, Qt::LeftButton);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(list.view()->window()));
+        const QRect entry = list.view()->visualRect(list.model()->index(index, 0));
+        // A list takes a pick for the click that opened it until some time has passed.
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            QTest::mouseMove(list.view()->viewport(), entry.center());
+            QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, entry.center());
+            return !list.view()->isVisible();
+        }));
+    }
+
+    StatePlayer player_;
+};
+
+TEST_F(DropDownListTest, TheWheelOverAListWithoutTheFocusChangesNothing) {
+    form().txtPf->setFocus();
+    const int before = Calculations();
+    for (const NamedControl& control : form().Controls()) {
+        if (auto* list = dynamic_cast<DropDownList*>(control.widget)) {
+            const int index = list->ListIndex();
+            TurnWheel(*list, -1);
+            TurnWheel(*list, -3);
+            EXPECT_EQ(list->ListIndex(), index) << control.name.toStdString();
+        }
+    }
+    EXPECT_EQ(Calculations(), before);
+}
+
+TEST_F(DropDownListTest, TheWheelOverAListWithTheFocusPicksAndCalculates) {
+    form().cboTimeUnit->setFocus();
+    const int before = Calculations();
+    ASSERT_EQ(form().cboTimeUnit->Text(), "Day");
+    TurnWheel(*form().cboTimeUnit, -1);
+    EXPECT_EQ(form().cboTimeUnit->Text(), "Second");
+    EXPECT_EQ(Calculations(), before + 1);
+}
+
+TEST_F(DropDownListTest, PickingAnEntryRunsTheHandler) {
+    const int before = Calculations();
+    Pick(*form().cboTimeUnit, 1);
+    EXPECT_EQ(form().cboTimeUnit->Text(), "Hour");
+    EXPECT_EQ(Calculations(), before + 1);
+}
+
+TEST_F(DropDownListTest, PickingTheSelectedEntryAgainRunsTheHandler) {
+    const int selected = form().cboTimeUnit->ListIndex();
+    const int before = Calculations();
+    Pick(*form().cboTimeUnit, selected);
+    EXPECT_EQ(form().cboTimeUnit->ListIndex(), selected);
+    EXPECT_EQ(Calculations(), before + 1);
+}
+
+TEST_F(DropDownListTest, PickingTheUserEnteredPipeAgainAsksAgain) {
+    player_.desk().QueueAnswer({true, "4"});
+    player_.desk().QueueAnswer({true, "5"});
+    const int last = form().cboPipeID->count() - 1;
+    Pick(*form().cboPipeID, last);
+    EXPECT_EQ(form().cboPipeID->Text(), "4.000\" (User Entered)");
+    Pick(*form().cboPipeID, last);
+    EXPECT_EQ(form().cboPipeID->Text(), "5.000\" (User Entered)");
+    EXPECT_EQ(player_.desk().TakeBoxes().size(), 2U);
+}
+
+TEST_F(DropDownListTest, KeysPickAndRunTheHandler) {
+    DropDownList& list = *form().cboTimeUnit;
+    list.setFocus();
+    const int before = Calculations();
+    QTest::keyClick(&list, Qt::Key_Home);
+    EXPECT_EQ(list.Text(), "Minute");
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(list.Text(), "Hour");
+    QTest::keyClick(&list, Qt::Key_Up);
+    QTest::keyClick(&list, Qt::Key_End);
+    EXPECT_EQ(list.Text(), "Second");
+    QTest::keyClicks(&list, "d");
+    EXPECT_EQ(list.Text(), "Day");
+    EXPECT_EQ(Calculations(), before + 5);
+}
+
+TEST_F(DropDownListTest, TheOpenListShowsEveryEntryWhole) {
+    for (DropDownList* list : {form().cboPipeID, form().cboFlowUnit, form().cboPressUnit,
+                               form().cboDeltaPunit, form().cboNomSize}) {
+        list->showPopup();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(list->view()->window()));
+        EXPECT_GE(list->view()->viewport()->width(), list->view()->sizeHintForColumn(0))
+            << list->objectName().toStdString();
+        list->hidePopup();
+    }
+}
+
+}  // namespace
+}  // namespace tarvix::testing

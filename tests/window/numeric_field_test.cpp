@@ -1,0 +1,285 @@
+// The fields for numbers under real key, mouse and input method events.
+#include "tests/window/window_states.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace tarvix::testing {
+namespace {
+
+class NumericFieldTest : public ::testing::Test {
+  protected:
+    // The flow rate, with the focus and its whole text selected, as after a Tab.
+    NumericField& Enter(const QString& text = {}) {
+        NumericField& field = *player_->form().txtFlow;
+        player_->form().optCalcBeta->setFocus();
+        field.setText(text);
+        field.setFocus(Qt::TabFocusReason);
+        return field;
+    }
+
+    void UseLocale(const char* name) {
+        player_ = std::make_unique<StatePlayer>();
+        ASSERT_TRUE(player_->Act(QString("locale ") + name).isEmpty());
+        player_->window();
+    }
+
+    static void CommitText(QWidget& field, const QString& text) {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(&field, &event);
+    }
+
+    std::unique_ptr<StatePlayer> player_ = std::make_unique<StatePlayer>();
+};
+
+// ---- Keys ----
+
+TEST_F(NumericFieldTest, LettersBlanksAndPunctuationAreSwallowed) {
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "1a2 E;$%(3)\u00E9,4");
+    EXPECT_EQ(field.text(), "1234");
+}
+
+TEST_F(NumericFieldTest, ASecondSeparatorIsSwallowed) {
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "1.2.3..4");
+    EXPECT_EQ(field.text(), "1.234");
+}
+
+TEST_F(NumericFieldTest, ASeparatorMayBeTypedAgainWhenTheFirstIsDeleted) {
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "1.");
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    QTest::keyClicks(&field, "2.5");
+    EXPECT_EQ(field.text(), "12.5");
+}
+
+TEST_F(NumericFieldTest, ASeparatorLeftOfASelectionIsNotSeen) {
+    NumericField& field = Enter("1.25");
+    field.setSelection(2, 2);
+    QTest::keyClicks(&field, ".");
+    EXPECT_EQ(field.text(), "1..") << "only the text right of a selection is searched";
+}
+
+TEST_F(NumericFieldTest, ASeparatorRightOfASelectionIsSeen) {
+    NumericField& field = Enter("12.5");
+    field.setSelection(0, 2);
+    QTest::keyClicks(&field, ".");
+    EXPECT_EQ(field.text(), "12.5");
+}
+
+TEST_F(NumericFieldTest, ASignIsTypedAtTheStartOnly) {
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "-1-2+");
+    EXPECT_EQ(field.text(), "-12");
+    QTest::keyClick(&field, Qt::Key_Home);
+    QTest::keyClicks(&field, "+");
+    EXPECT_EQ(field.text(), "+-12") << "whether there is a sign already is not looked at";
+}
+
+TEST_F(NumericFieldTest, ASignMayReplaceTheWholeText) {
+    NumericField& field = Enter("125");
+    QTest::keyClicks(&field, "-3");
+    EXPECT_EQ(field.text(), "-3");
+}
+
+TEST_F(NumericFieldTest, CursorAndDeleteKeysWork) {
+    NumericField& field = Enter("12345");
+    QTest::keyClick(&field, Qt::Key_Home);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClick(&field, Qt::Key_Right);
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    QTest::keyClick(&field, Qt::Key_End);
+    QTest::keyClick(&field, Qt::Key_Left, Qt::ShiftModifier);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    EXPECT_EQ(field.text(), "34");
+}
+
+TEST_F(NumericFieldTest, EveryKeyThatChangesTheTextCalculates) {
+    NumericField& field = Enter();
+    const int before = player_->window().calculationRuns();
+    QTest::keyClicks(&field, "12x3");
+    EXPECT_EQ(player_->window().calculationRuns() - before, 3);
+    field.selectAll();
+    QTest::keyClicks(&field, "1");
+    QTest::keyClick(&field, Qt::Key_Home);
+    EXPECT_EQ(player_->window().calculationRuns() - before, 4);
+    field.selectAll();
+    QTest::keyClicks(&field, "1");
+    EXPECT_EQ(player_->window().calculationRuns() - before, 4) << "the text is the same";
+}
+
+TEST_F(NumericFieldTest, ALockedFieldTakesNoKeys) {
+    ASSERT_TRUE(player_->Play({"", {"click optCalcFR"}}).isEmpty());
+    NumericField& field = Enter("142.3");
+    ASSERT_TRUE(field.Locked());
+    QTest::keyClicks(&field, "9");
+    CommitText(field, "9");
+    QTest::keyClick(&field, Qt::Key_Delete);
+    EXPECT_EQ(field.text(), "142.3");
+}
+
+// ---- The decimal key of the number pad ----
+
+TEST_F(NumericFieldTest, TheNumberPadTypesThePointWhereThePointSeparates) {
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "1");
+    QTest::keyClick(&field, Qt::Key_Comma, Qt::KeypadModifier);
+    QTest::keyClicks(&field, "5");
+    QTest::keyClick(&field, Qt::Key_Period, Qt::KeypadModifier);
+    EXPECT_EQ(field.text(), "1.5") << "the second one is swallowed";
+}
+
+TEST_F(NumericFieldTest, TheNumberPadTypesTheCommaWhereTheCommaSeparates) {
+    UseLocale("de_DE");
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "1");
+    QTest::keyClick(&field, Qt::Key_Period, Qt::KeypadModifier);
+    QTest::keyClicks(&field, "5.");
+    QTest::keyClick(&field, Qt::Key_Comma);
+    EXPECT_EQ(field.text(), "1,5") << "the point is no separator, and a second comma is swallowed";
+}
+
+TEST_F(NumericFieldTest, TheNumberPadsDigitsAndSignsAreKeys) {
+    NumericField& field = Enter();
+    QTest::keyClick(&field, Qt::Key_Minus, Qt::KeypadModifier);
+    QTest::keyClick(&field, Qt::Key_7, Qt::KeypadModifier);
+    QTest::keyClick(&field, Qt::Key_Asterisk, Qt::KeypadModifier);
+    EXPECT_EQ(field.text(), "-7");
+}
+
+// ---- Input methods ----
+
+TEST_F(NumericFieldTest, WhatAnInputMethodCommitsIsFilteredOneByOne) {
+    NumericField& field = Enter("99");
+    CommitText(field, "1a.2.b3");
+    EXPECT_EQ(field.text(), "1.23") << "the selected text is replaced";
+    CommitText(field, "x");
+    EXPECT_EQ(field.text(), "1.23");
+}
+
+TEST_F(NumericFieldTest, AnInputMethodThatCommitsNothingToKeepLeavesTheSelection) {
+    NumericField& field = Enter("99");
+    CommitText(field, "abc");
+    EXPECT_EQ(field.text(), "99");
+    EXPECT_EQ(field.selectedText(), "99");
+}
+
+TEST_F(NumericFieldTest, AskForAKeyboardForNumbers) {
+    EXPECT_TRUE(player_->form().txtBeta->inputMethodHints().testFlag(Qt::ImhFormattedNumbersOnly));
+}
+
+// ---- Editing ----
+
+TEST_F(NumericFieldTest, CopyCutPasteUndoAndSelectAll) {
+    NumericField& field = Enter("12.5");
+    QClipboard& clipboard = *QApplication::clipboard();
+    QTest::keyClick(&field, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard.text(), "12.5");
+    QTest::keyClick(&field, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "");
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "12.5");
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(field.text(), "");
+    clipboard.setText("ab 1.2.3");
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "ab 1.2.3") << "the checks judge what is pasted, no filter";
+    field.deselect();
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(field.selectedText(), "ab 1.2.3");
+    QTest::keyClick(&field, Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(field.text(), "ab 1.2.3");
+}
+
+TEST_F(NumericFieldTest, UndoTakesTypingBack) {
+    NumericField& field = Enter("7");
+    QTest::keyClicks(&field, "12");
+    EXPECT_EQ(field.text(), "12");
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "7");
+}
+
+// ---- Focus and mouse ----
+
+class FieldMouseTest : public NumericFieldTest {
+  protected:
+    // In the middle of the second of the digits at the right edge.
+    static QPoint SecondDigitFromTheRight(const NumericField& field) {
+        const int digit = field.fontMetrics().horizontalAdvance('0');
+        return {field.width() - 6 - 2 * digit + digit / 4, field.height() / 2};
+    }
+};
+
+TEST_F(FieldMouseTest, TheFocusSelectsTheWholeText) {
+    for (NumericField* field : player_->form().NumericFields()) {
+        if (!player_->form().IsVisible(*field)) {
+            continue;
+        }
+        player_->form().cboTimeUnit->setFocus();
+        field->setText("12.5");
+        field->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(field->selectedText(), "12.5") << field->objectName().toStdString();
+    }
+}
+
+TEST_F(FieldMouseTest, TheFirstClickSelectsAndTheSecondSetsTheCaret) {
+    NumericField& field = Enter("12345");
+    player_->form().cboTimeUnit->setFocus();
+    QTest::mouseClick(&field, Qt::LeftButton, {}, SecondDigitFromTheRight(field));
+    EXPECT_EQ(QApplication::focusWidget(), &field);
+    EXPECT_EQ(field.selectedText(), "12345");
+    QTest::mouseClick(&field, Qt::LeftButton, {}, SecondDigitFromTheRight(field));
+    EXPECT_EQ(field.selectedText(), "");
+    EXPECT_EQ(field.cursorPosition(), 3);
+}
+
+TEST_F(FieldMouseTest, AHandThatTremblesKeepsTheSelection) {
+    NumericField& field = Enter("12345");
+    player_->form().cboTimeUnit->setFocus();
+    const QPoint at = SecondDigitFromTheRight(field);
+    QTest::mousePress(&field, Qt::LeftButton, {}, at);
+    QTest::mouseMove(&field, at + QPoint(1, 1));
+    QTest::mouseMove(&field, at + QPoint(-1, 0));
+    QTest::mouseRelease(&field, Qt::LeftButton, {}, at + QPoint(-1, 0));
+    EXPECT_EQ(field.selectedText(), "12345");
+}
+
+TEST_F(FieldMouseTest, ADragOfTheFirstClickSelectsWhatItPasses) {
+    NumericField& field = Enter("12345");
+    player_->form().cboTimeUnit->setFocus();
+    const QPoint at = SecondDigitFromTheRight(field);
+    const QPoint end(2, at.y());
+    QTest::mousePress(&field, Qt::LeftButton, {}, at);
+    // The buttons of a synthetic move have to be given.
+    QMouseEvent move(QEvent::MouseMove, end, field.mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&field, &move);
+    QTest::mouseRelease(&field, Qt::LeftButton, {}, end);
+    EXPECT_EQ(field.selectedText(), "123");
+}
+
+TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {
+    NumericField& field = Enter("12345");
+    field.deselect();
+    field.setCursorPosition(2);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    player_->window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&player_->window()));
+    EXPECT_EQ(field.selectedText(), "");
+    EXPECT_EQ(field.cursorPosition(), 2);
+}
+
+}  // namespace
+}  // namespace tarvix::testing

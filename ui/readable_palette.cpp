@@ -1,0 +1,63 @@
+#include "ui/readable_palette.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tarvix {
+
+namespace {
+
+// A little above 4.5, the least contrast of text that counts as readable (WCAG 2.1, 1.4.3).
+constexpr double kContrastWanted = 5.0;
+constexpr int kSteps = 20;
+
+// Styles paint tabs and the upper ends of buttons lighter than the color of buttons; percent.
+constexpr int kLightestShade = 140;
+
+double Luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(double{color.redF()}) + 0.7152 * linear(double{color.greenF()}) +
+           0.0722 * linear(double{color.blueF()});
+}
+
+// `step` of kSteps on the way from one color to the other.
+QColor Between(const QColor& from, const QColor& to, int step) {
+    const auto part = [step](int start, int end) { return start + (end - start) * step / kSteps; };
+    return QColor(part(from.red(), to.red()), part(from.green(), to.green()),
+                  part(from.blue(), to.blue()));
+}
+
+}  // namespace
+
+double ContrastOf(const QColor& one, const QColor& other) {
+    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QPalette ReadablePalette(const QPalette& desktop) {
+    constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> kTextsAndBackgrounds[] = {
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},
+    };
+    const QColor lightest = desktop.color(QPalette::Button).lighter(kLightestShade);
+    QPalette palette;
+    for (const auto& [text, background] : kTextsAndBackgrounds) {
+        const QColor disabled = desktop.color(QPalette::Disabled, text);
+        const QColor enabled = desktop.color(QPalette::Active, text);
+        const QColor behind = desktop.color(QPalette::Disabled, background);
+        int step = 0;
+        QColor readable = disabled;
+        while (step < kSteps && std::min(ContrastOf(readable, behind),
+                                         ContrastOf(readable, lightest)) < kContrastWanted) {
+            readable = Between(disabled, enabled, ++step);
+        }
+        palette.setColor(QPalette::Disabled, text, readable);
+    }
+    return palette;
+}
+
+}  // namespace tarvix

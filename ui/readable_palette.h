@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPalette>
+
+namespace tarvix {
+
+// The desktop's colors with disabled texts that can still be read: where the desktop's own stand
+// less than 4.5 to 1 against their backgrounds, they are moved towards those of enabled texts as
+// far as needed.
+QPalette ReadablePalette(const QPalette& desktop);
+
+// The contrast of two colors by their relative luminance, 1 to 21.
+double ContrastOf(const QColor& one, const QColor& other);
+
+}  // namespace tarvix
