@@ -60,7 +60,7 @@ const std::array<SteamTableRow, kSteamTableRows> kSteamTable{{
 SteamDensity SaturatedSteamDensity(float pressurePsig) {
     const float lowest = kSteamTable.front().pressurePsig;
     const float highest = kSteamTable.back().pressurePsig;
-    if (pressurePsig < lowest) {
+    if (!(pressurePsig >= lowest)) {  // NaN, too
         return {SteamRange::BelowTable, 0};
     }
     if (pressurePsig > highest) {

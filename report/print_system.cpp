@@ -25,9 +25,12 @@ std::optional<QString> PrintSystemRefusal() {
     using LastError = int (*)();
     using LastErrorString = const char* (*)();
     QLibrary cups("cups", 2);
+    // A function found by its name has no other type than the one it is given here.
+    // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
     const auto lastError = reinterpret_cast<LastError>(cups.resolve("cupsLastError"));
     const auto lastErrorString =
         reinterpret_cast<LastErrorString>(cups.resolve("cupsLastErrorString"));
+    // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
     if (lastError == nullptr || lastErrorString == nullptr) {
         return std::nullopt;
     }

@@ -23,7 +23,7 @@ const char* const kProgramName = "Brindle Tarvix";
 
 // A page takes a few hundred kilobytes on its way to the printer. The toolkit doesn't notice when
 // there is no room for it, and sends what came of it.
-constexpr qint64 kRoomForPage = 2 * 1024 * 1024;
+constexpr qint64 kRoomForPage = 2'000'000;
 
 PrintOutcome Failed(const QString& reason) {
     return {PrintOutcome::Status::Failed, reason};
@@ -77,13 +77,15 @@ PrintOutcome PrintToPrinter(QPrinter& printer, const ReportPage& page, const QIm
 // The printer's own paper; without a printer, what is usual where the user lives. A system that
 // names no locale counts as American.
 QPageSize PaperOf(const QPrinterInfo& printer) {
-    if (!printer.isNull() && printer.defaultPageSize().isValid()) {
-        return printer.defaultPageSize();
+    QPageSize paper = printer.isNull() ? QPageSize() : printer.defaultPageSize();
+    if (paper.isValid()) {
+        return paper;
     }
     const QLocale locale = QLocale::system();
     const bool american =
         locale.language() == QLocale::C || locale.measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageSize(american ? QPageSize::Letter : QPageSize::A4);
+    paper = QPageSize(american ? QPageSize::Letter : QPageSize::A4);
+    return paper;
 }
 
 QString NameOf(const QPrinter& printer) {

@@ -1,56 +1,12 @@
 #include "ui/accessible_names.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
-#include <QVariant>
+#include "ui/accessible_roles.h"
 
 #include <utility>
 
 namespace tarvix {
 
 namespace {
-
-// On a widget whose role isn't that of its class.
-constexpr const char* kRoleProperty = "accessibleRole";
-
-// The texts of the labels in the widget, or of the label that it is, as one sentence.
-QString TextsOf(const QWidget& widget) {
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-        return label->text();
-    }
-    QStringList texts;
-    for (const QLabel* label : widget.findChildren<QLabel*>()) {
-        texts += label->text();
-    }
-    return texts.join(QLatin1Char(' '));
-}
-
-class AlertInterface : public QAccessibleWidget {
-  public:
-    explicit AlertInterface(QWidget* alert) : QAccessibleWidget(alert, QAccessible::AlertMessage) {}
-
-    QString text(QAccessible::Text kind) const override {
-        const QString says = kind == QAccessible::Name ? TextsOf(*widget()) : QString();
-        return says.isEmpty() ? QAccessibleWidget::text(kind) : says;
-    }
-};
-
-QAccessibleInterface* CreateInterface(const QString& /*className*/, QObject* object) {
-    const QVariant role = object != nullptr ? object->property(kRoleProperty) : QVariant();
-    auto* widget = qobject_cast<QWidget*>(object);
-    if (!role.isValid() || widget == nullptr) {
-        return nullptr;
-    }
-    if (role.toInt() == QAccessible::AlertMessage) {
-        return new AlertInterface(widget);
-    }
-    return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()));
-}
-
-void SetRole(QWidget& widget, QAccessible::Role role) {
-    QAccessible::installFactory(CreateInterface);
-    widget.setProperty(kRoleProperty, static_cast<int>(role));
-}
 
 // A name that has not changed is not announced again.
 void SetName(QWidget& widget, const QString& name) {
@@ -74,20 +30,6 @@ void NameField(NumericField& field, const QString& quantity) {
 
 }  // namespace
 
-void SetAlertName(QWidget& alert, const QString& silentName) {
-    SetRole(alert, QAccessible::AlertMessage);
-    alert.setAccessibleName(silentName);
-}
-
-void AnnounceAlert(QWidget& alert) {
-    if (QAccessible::isActive()) {
-        for (const auto kind : {QAccessible::NameChanged, QAccessible::Alert}) {
-            QAccessibleEvent event(&alert, kind);
-            QAccessible::updateAccessibility(&event);
-        }
-    }
-}
-
 AccessibleNames::AccessibleNames(MainForm& form) : form_(form) {
     NameFixedControls();
     NameOptions();
@@ -99,7 +41,10 @@ AccessibleNames::AccessibleNames(MainForm& form) : form_(form) {
             QObject::connect(option, &QAbstractButton::clicked, option, [this] { Update(); });
         } else if (control.kind == ControlKind::ComboBox) {
             auto* list = qobject_cast<QComboBox*>(control.widget);
-            QObject::connect(list, &QComboBox::activated, list, [this] { Update(); });
+            QObject::connect(list, &QComboBox::activated, list, [this, list] {
+                Update();
+                AnnounceEntry(*list);
+            });
         }
     }
 }
@@ -118,19 +63,11 @@ void AccessibleNames::NameFixedControls() const {
     SetName(form_.cboOriBoreUnit, "Orifice Bore Diameter unit");
     SetName(form_.fraSteam1, "Steam");
     SetName(form_.fraSteam2, "Source of the density");
-    SetName(form_.txtMaskNomSize, "The pipe is user entered and has no nominal size");
+    SetName(form_.txtMaskNomSize, "No Nominal Size, the pipe is user entered");
     SetName(form_.txtOptionsFrame, "Background of the options");
     SetName(form_.txtFlowTypeFrame, "Background of the flow types");
     form_.cmdPrint->setAccessibleDescription(QStringLiteral("Prints the calculation report"));
     form_.cmdExit->setAccessibleDescription(QStringLiteral("Ends the program"));
-
-    SetRole(*form_.fraSteam1, QAccessible::Grouping);
-    SetRole(*form_.fraSteam2, QAccessible::Grouping);
-    SetRole(*form_.txtMaskNomSize, QAccessible::StaticText);
-    SetRole(*form_.txtOptionsFrame, QAccessible::Border);
-    SetRole(*form_.txtFlowTypeFrame, QAccessible::Border);
-    SetAlertName(*form_.fraPlateThicknessWarning, QString());
-    SetAlertName(*form_.fraZfCompWarning, QString());
 
     for (const auto& [label, field] :
          std::initializer_list<std::pair<QLabel*, QWidget*>>{{form_.lblSGb1, form_.txtSGb},

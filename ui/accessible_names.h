@@ -1,6 +1,5 @@
 // What the main window tells screen readers and other helpers: a name for every control that makes
-// sense without the picture, with quantity and unit for a field, and alerts for messages and
-// warnings.
+// sense without the picture, with quantity and unit for a field.
 #pragma once
 
 #include "ui/main_form.h"
@@ -22,12 +21,5 @@ class AccessibleNames {
 
     MainForm& form_;
 };
-
-// Makes the widget an alert that is named by what it says: its own text, or those of the labels in
-// it; `silentName` while there are none.
-void SetAlertName(QWidget& alert, const QString& silentName);
-
-// Tells screen readers that an alert says something else now.
-void AnnounceAlert(QWidget& alert);
 
 }  // namespace tarvix

@@ -1,5 +1,6 @@
 #include "ui/controls.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
@@ -122,7 +123,9 @@ void NumericField::focusInEvent(QFocusEvent* event) {
 void NumericField::mousePressEvent(QMouseEvent* event) {
     // The press that brings the focus leaves the whole text selected; the next one sets the caret.
     if (std::exchange(focusCameByThisPress_, false)) {
-        enteringPress_ = event->pos();
+        if (event->button() == Qt::LeftButton) {
+            enteringPress_ = event->pos();
+        }
         return;
     }
     QLineEdit::mousePressEvent(event);
@@ -135,8 +138,12 @@ void NumericField::mouseMoveEvent(QMouseEvent* event) {
             QApplication::startDragDistance()) {
             return;
         }
-        setCursorPosition(cursorPositionAt(*enteringPress_));
+        // Now the press counts, but not as one on the selected text, which would drag that.
+        deselect();
+        QMouseEvent press(QEvent::MouseButtonPress, *enteringPress_, mapToGlobal(*enteringPress_),
+                          Qt::LeftButton, event->buttons(), event->modifiers());
         enteringPress_.reset();
+        QLineEdit::mousePressEvent(&press);
     }
     QLineEdit::mouseMoveEvent(event);
 }
@@ -271,6 +278,12 @@ QSize DropDownList::sizeHint() const {
     const QSize entry(fontMetrics().horizontalAdvance(widestEntry_) + kEntryMargin,
                       fontMetrics().height());
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, entry, this);
+}
+
+void DropDownList::showPopup() {
+    // Beside its entries the open list shows a mark at the selected one.
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * kEntryMargin);
+    QComboBox::showPopup();
 }
 
 void DropDownList::SetListIndex(int index) {

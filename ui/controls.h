@@ -123,6 +123,7 @@ class DropDownList : public QComboBox {
     void Clear() { clear(); }
 
     QSize sizeHint() const override;
+    void showPopup() override;
 
   protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -162,8 +162,10 @@ QWidget* MainForm::AddFrame(QWidget* parent, const char* name, const char* capti
     return frame;
 }
 
-QWidget* MainForm::AddBox(QWidget* parent, const char* name, TwipsRect place) {
+QWidget* MainForm::AddBox(QWidget* parent, const char* name, QAccessible::Role role,
+                          TwipsRect place) {
     auto* box = new QFrame(parent);
+    SetAccessibleRole(*box, role);
     Register(box, name, ControlKind::Frame, place);
     return box;
 }
@@ -189,8 +191,10 @@ NumericField* MainForm::AddField(QWidget* parent, const char* name, TwipsRect pl
     return field;
 }
 
-QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, TwipsRect place) {
+QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, QAccessible::Role role,
+                                 TwipsRect place) {
     auto* backdrop = new QLineEdit(parent);
+    SetAccessibleRole(*backdrop, role);
     backdrop->setReadOnly(true);
     backdrop->setFocusPolicy(Qt::NoFocus);
     backdrop->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -201,6 +205,7 @@ QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, TwipsRect pl
 DropDownList* MainForm::AddList(QWidget* parent, const char* name, TwipsRect place,
                                 const char* widestEntry) {
     auto* list = new DropDownList(parent);
+    SetAccessibleRole(*list, QAccessible::ComboBox);
     list->SetWidestEntry(widestEntry);
     Register(list, name, ControlKind::ComboBox, place);
     return list;

@@ -5,6 +5,7 @@
 // controls are created frame by frame in the order in which the Tab key visits them.
 #pragma once
 
+#include "ui/accessible_roles.h"
 #include "ui/controls.h"
 #include "ui/message_line.h"
 
@@ -179,12 +180,13 @@ class MainForm {
 
     // Each adds a control of its kind below `parent` with its caption and place.
     QWidget* AddFrame(QWidget* parent, const char* name, const char* caption, TwipsRect place);
-    QWidget* AddBox(QWidget* parent, const char* name, TwipsRect place);
+    QWidget* AddBox(QWidget* parent, const char* name, QAccessible::Role role, TwipsRect place);
     OptionButton* AddOption(QWidget* parent, const char* name, const char* caption,
                             TwipsRect place);
     QLabel* AddLabel(QWidget* parent, const char* name, const char* caption, TwipsRect place);
     NumericField* AddField(QWidget* parent, const char* name, TwipsRect place);
-    QLineEdit* AddBackdrop(QWidget* parent, const char* name, TwipsRect place);
+    QLineEdit* AddBackdrop(QWidget* parent, const char* name, QAccessible::Role role,
+                           TwipsRect place);
     DropDownList* AddList(QWidget* parent, const char* name, TwipsRect place,
                           const char* widestEntry);
     QPushButton* AddButton(QWidget* parent, const char* name, const char* caption, TwipsRect place);

@@ -57,8 +57,8 @@ void MainForm::BuildModeAndFluid() {
 
     fraCalcOptions =
         AddFrame(&canvas_, "fraCalcOptions", "Options", {120, kTop, 3600, kFrameHeight});
-    txtOptionsFrame =
-        AddBackdrop(fraCalcOptions, "txtOptionsFrame", {90, kBackdropTop, 3420, kBackdropHeight});
+    txtOptionsFrame = AddBackdrop(fraCalcOptions, "txtOptionsFrame", QAccessible::Border,
+                                  {90, kBackdropTop, 3420, kBackdropHeight});
     optCalcBeta = AddOption(fraCalcOptions, "optCalcBeta", "Calculate  Beta Ratio",
                             {kOptionLeft, 300, 3330, kRow});
     optCalcDP = AddOption(fraCalcOptions, "optCalcDP", "Calculate Differential Pressure",
@@ -67,8 +67,8 @@ void MainForm::BuildModeAndFluid() {
                           {kOptionLeft, 870, 3330, kRow});
 
     fraFlowType = AddFrame(&canvas_, "fraFlowType", "Flow Type", {3840, kTop, 2400, kFrameHeight});
-    txtFlowTypeFrame =
-        AddBackdrop(fraFlowType, "txtFlowTypeFrame", {90, kBackdropTop, 2220, kBackdropHeight});
+    txtFlowTypeFrame = AddBackdrop(fraFlowType, "txtFlowTypeFrame", QAccessible::Border,
+                                   {90, kBackdropTop, 2220, kBackdropHeight});
     optLiquid = AddOption(fraFlowType, "optLiquid", "Liquid", {kOptionLeft, 300, 2130, kRow});
     optGas = AddOption(fraFlowType, "optGas", "Air - Gas", {kOptionLeft, 585, 2130, kRow});
     optSteam = AddOption(fraFlowType, "optSteam", "Steam", {kOptionLeft, 870, 2130, kRow});
@@ -119,10 +119,12 @@ void MainForm::BuildDensity(QWidget* tab) {
     constexpr int kBoxRow2 = kRow2 - kRow1;
     fraDensity =
         AddFrame(tab, "fraDensity", "Density", {kTabLeft, kSlot2, kTabWidth, kTwoRowFrame});
-    fraSteam1 = AddBox(fraDensity, "fraSteam1", {kColumnA, kRow1, 1560, kBoxHeight});
+    fraSteam1 =
+        AddBox(fraDensity, "fraSteam1", QAccessible::Grouping, {kColumnA, kRow1, 1560, kBoxHeight});
     optSuperheated = AddOption(fraSteam1, "optSuperheated", "Superheated", {0, 0, 1560, kRow});
     optSaturated = AddOption(fraSteam1, "optSaturated", "Saturated", {0, kBoxRow2, 1560, kRow});
-    fraSteam2 = AddBox(fraDensity, "fraSteam2", {kColumnB, kRow1, 3330, kBoxHeight});
+    fraSteam2 =
+        AddBox(fraDensity, "fraSteam2", QAccessible::Grouping, {kColumnB, kRow1, 3330, kBoxHeight});
     optSteamTbl = AddOption(fraSteam2, "optSteamTbl", "From ASME Table", {0, 0, 1800, kRow});
     lblSteamTbl = AddLabel(fraSteam2, "lblSteamTbl", "(Op.Press. based)", {1860, 0, 1470, kRow});
     optSteamUser = AddOption(fraSteam2, "optSteamUser", "User Entered", {0, kBoxRow2, 1800, kRow});
@@ -169,8 +171,8 @@ void MainForm::BuildCompressibility(QWidget* tab) {
     txtZf = AddField(fraCompCorrection, "txtZf", {kColumnB, kOption3, kField, kRow});
     cboZfDensityUnit = AddList(fraCompCorrection, "cboZfDensityUnit", {3300, kOption3, 1740, kRow},
                                kWidestDensityUnit);
-    fraZfCompWarning =
-        AddBox(fraCompCorrection, "fraZfCompWarning", {kColumnB, kOption1, 5160, 840});
+    fraZfCompWarning = AddBox(fraCompCorrection, "fraZfCompWarning", QAccessible::AlertMessage,
+                              {kColumnB, kOption1, 5160, 840});
     lbl1ZfCompWarning =
         AddLabel(fraZfCompWarning, "lbl1ZfCompWarning",
                  "At this pressure, no compressibility correction", {180, 135, 4800, kRow});
@@ -184,7 +186,8 @@ void MainForm::BuildPipeAndFlow() {
     lblNomSize = AddLabel(fraPipe, "lblNomSize", "Nominal Size", {kColumnA, kRow1, 1050, kRow});
     cboNomSize = AddList(fraPipe, "cboNomSize", kNominalSizePlace, kWidestNominalSize);
     // Lies over the nominal size while the pipe is the user's own.
-    txtMaskNomSize = AddBackdrop(fraPipe, "txtMaskNomSize", kNominalSizePlace);
+    txtMaskNomSize =
+        AddBackdrop(fraPipe, "txtMaskNomSize", QAccessible::StaticText, kNominalSizePlace);
     lblPipeID = AddLabel(fraPipe, "lblPipeID", "Pipe ID", {2580, kRow1, 600, kRow});
     cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4380, kRow}, kWidestPipe);
     cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7710, kRow1, 1530, kRow}, kWidestLengthUnit);
@@ -202,8 +205,8 @@ void MainForm::BuildPipeAndFlow() {
     txtDeltaP = AddField(fraDeltaP, "txtDeltaP", {kColumnA, kRow1, kField, kRow});
     cboDeltaPunit =
         AddList(fraDeltaP, "cboDeltaPunit", {kColumnB, kRow1, 2400, kRow}, kWidestDiffPressureUnit);
-    fraPlateThicknessWarning =
-        AddBox(fraDeltaP, "fraPlateThicknessWarning", {kColumnA, kRow2, 4770, kRow});
+    fraPlateThicknessWarning = AddBox(fraDeltaP, "fraPlateThicknessWarning",
+                                      QAccessible::AlertMessage, {kColumnA, kRow2, 4770, kRow});
     lbl1PlateThicknessWarning = AddLabel(fraPlateThicknessWarning, "lbl1PlateThicknessWarning",
                                          "Orifice plate deflection", {60, 0, 1830, kRow});
     // The two labels read as one sentence.

@@ -1,8 +1,7 @@
 #include "ui/message_line.h"
 
-#include "ui/accessible_names.h"
+#include "ui/accessible_roles.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QEvent>
 
@@ -16,10 +15,11 @@ constexpr auto kAnnounce = static_cast<QEvent::Type>(QEvent::User + 1);
 }  // namespace
 
 MessageLine::MessageLine(QWidget* parent) : QLabel(parent) {
+    SetAccessibleRole(*this, QAccessible::AlertMessage);
+    // With a name of its own the label leaves announcing its text to this class.
+    setAccessibleName(QStringLiteral("No message"));
     setTextFormat(Qt::PlainText);
     setIndent(fontMetrics().averageCharWidth());
-    // With a name of its own the label leaves announcing its text to this class.
-    SetAlertName(*this, QStringLiteral("No message"));
 }
 
 void MessageLine::Show(const std::string& message, BackColor color) {

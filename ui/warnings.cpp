@@ -1,7 +1,7 @@
 #include "ui/warnings.h"
 
 #include "app/calculation.h"
-#include "ui/accessible_names.h"
+#include "ui/accessible_roles.h"
 #include "ui/input_reader.h"
 
 namespace tarvix {

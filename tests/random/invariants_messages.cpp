@@ -40,7 +40,10 @@ std::vector<std::string> ActiveCandidates(const Step& step) {
         return {step.target.toStdString()};
     }
     if (step.command == QLatin1String("keys")) {
-        return {"", step.before.focus.toStdString(), step.now.focus.toStdString()};
+        // Keys may lead through any field.
+        std::vector<std::string> all{""};
+        all.insert(all.end(), std::begin(kNumericFields), std::end(kNumericFields));
+        return all;
     }
     return {"", step.now.focus.toStdString()};
 }

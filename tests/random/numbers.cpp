@@ -48,6 +48,10 @@ Numbers::Numbers(const QLocale& locale)
         groupSeparator_ = locale_.groupSeparator();
         lowestGroup_ = static_cast<int>(groups.last().size());
         higherGroups_ = static_cast<int>(groups.at(groups.size() - 2).size());
+        // Some write 1234 but 12 345.
+        firstGroupMinimum_ = locale_.toString(1234).contains(groupSeparator_)    ? 1
+                             : locale_.toString(12345).contains(groupSeparator_) ? 2
+                                                                                 : 3;
     }
 }
 
@@ -103,11 +107,8 @@ QString Numbers::Grouped(const QString& digits) const {
     if (groupSeparator_.isEmpty()) {
         return digits;
     }
-    bool fits = false;
-    const qlonglong number = digits.toLongLong(&fits);
-    if (fits) {
-        // As the system itself writes a whole number.
-        return AsciiDigits(locale_.toString(number));
+    if (digits.size() < lowestGroup_ + firstGroupMinimum_) {
+        return digits;
     }
     QString text = digits;
     for (auto at = text.size() - lowestGroup_; at > 0; at -= higherGroups_) {

@@ -45,6 +45,7 @@ class Numbers {
     QString groupSeparator_;  // empty: numbers are not grouped
     int lowestGroup_ = 3;
     int higherGroups_ = 3;
+    int firstGroupMinimum_ = 1;
 };
 
 }  // namespace tarvix

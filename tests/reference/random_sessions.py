@@ -193,7 +193,8 @@ def main():
     parser.add_argument("--actions", type=int, default=200)
     parser.add_argument("--locale", default="en_US")
     parser.add_argument("--jobs", type=int, default=1)
-    parser.add_argument("--keep-going", action="store_true", help="report every session that differs")
+    parser.add_argument("--keep-going", action="store_true",
+                        help="report every session that differs")
     parser.add_argument("--display", action="store_true", help="use the display, not `offscreen`")
     options = parser.parse_args()
     differing = played = 0

@@ -19,8 +19,8 @@ _WIDE = Context(prec=1200, Emax=99999, Emin=-99999)
 class NumberLocale:
     """How a system writes numbers.
 
-    `lowest` and `higher` are the digits of the lowest group and of all others; `minimum` is how many
-    digits must stand before the first separator for the system to group at all.
+    `lowest` and `higher` are the digits of the lowest group and of all others; `minimum` is how
+    many digits must stand before the first separator for the system to group at all.
     """
 
     def __init__(self, decimal, group, lowest=3, higher=3, minimum=1):

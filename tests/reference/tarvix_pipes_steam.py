@@ -1,6 +1,7 @@
 """Saturated steam and pipe schedules for the reference model, typed as texts."""
 
-# Saturated steam: gauge pressure in psi and density in lb per cubic foot, as the product holds them.
+# Saturated steam: gauge pressure in psi and density in lb per cubic foot,
+# as the product holds them.
 STEAM_TABLE = (
     (0, "0.03738"), (1, "0.03975"), (2, "0.04211"), (3, "0.04446"), (4, "0.0468"), (5, "0.04914"),
     (6, "0.05147"), (7, "0.05379"), (8, "0.0561"), (9, "0.05841"), (10, "0.06071"),

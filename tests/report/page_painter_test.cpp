@@ -68,7 +68,8 @@ struct PaperCase {
 };
 
 std::ostream& operator<<(std::ostream& out, const PaperCase& test) {
-    return out << test.name;
+    return out << test.name << ", " << test.width << " x " << test.height << ", margins "
+               << test.leftMargin << " and " << test.topMargin;
 }
 
 class PaperTest : public PagePainterTest, public ::testing::WithParamInterface<PaperCase> {};

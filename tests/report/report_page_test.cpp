@@ -1,48 +1,8 @@
-// The upper half of the page: title, customer, values, warnings.
-#include "report/report_page.h"
-
-#include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
-#include "tests/report/page_rows.h"
-#include "tests/report/sample_sheets.h"
-
-#include <algorithm>
-#include <gtest/gtest.h>
+// The upper half of the page: title, customer, values.
+#include "tests/report/report_page_fixture.h"
 
 namespace tarvix::testing {
 namespace {
-
-using Rows = std::vector<std::string>;
-
-class ReportPageTest : public ::testing::Test {
-  protected:
-    ReportPageTest() { FillCustomer(module_); }
-
-    ReportPage Page(const ReportSheet& sheet) { return ComposeReport(sheet, module_); }
-    Rows RowsOf(const ReportSheet& sheet) { return UpperRows(Page(sheet)); }
-    std::string RowOf(const ReportSheet& sheet, const std::string& label) {
-        for (const std::string& row : RowsOf(sheet)) {
-            if (row.starts_with(label)) {
-                return row;
-            }
-        }
-        return "no row " + label;
-    }
-    void ExpectFatal(const ReportSheet& sheet, const std::string& cause) {
-        try {
-            Page(sheet);
-            FAIL() << "the program went on";
-        } catch (const ProgramEnded& end) {
-            EXPECT_EQ(end.exitStatus, 1);
-        }
-        ASSERT_EQ(platform_.boxes.size(), 1U);
-        EXPECT_EQ(platform_.boxes.front().text, FatalText(cause));
-        EXPECT_EQ(platform_.boxes.front().title, "Fatal Error");
-    }
-
-    RecordingPlatform platform_;
-    Module1 module_{platform_, kUnitedStates};
-};
 
 TEST_F(ReportPageTest, LiquidFromTopToBottom) {
     const Rows expected{
@@ -355,80 +315,6 @@ TEST_F(ReportPageTest, ValueTooLongForItsColumnFollowsOneBlank) {
     sheet.inputs.deltaP = "1e15";  // 24 characters, 45 with the label
     EXPECT_EQ(RowOf(sheet, "Differential Pressure"),
               "Differential Pressure 1,000,000,000,000,000.00 Inches Water");
-}
-
-TEST_F(ReportPageTest, MessageAlone) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.message = "Warning: Beta value exceeds standard range (0.15 to 0.67).";
-    const Rows rows = RowsOf(sheet);
-    ASSERT_EQ(rows.size(), 19U);
-    EXPECT_EQ(rows.at(17), "");
-    EXPECT_EQ(rows.at(18), "Warning: Beta value exceeds standard range (0.15 to 0.67).");
-}
-
-TEST_F(ReportPageTest, PlateWarningAlone) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.plateWarning = true;
-    sheet.plateWarning1 = "Orifice plate deflection";
-    sheet.plateWarning2 = "should be checked.";
-    const Rows rows = RowsOf(sheet);
-    ASSERT_EQ(rows.size(), 19U);
-    EXPECT_EQ(rows.at(17), "");
-    EXPECT_EQ(rows.at(18), "Warning: Orifice plate deflection should be checked.");
-}
-
-TEST_F(ReportPageTest, CompressibilityBoxAlone) {
-    ReportSheet sheet = GasSheet();
-    sheet.zfCompWarning = true;
-    sheet.zfCompWarningYellow = true;
-    const Rows rows = RowsOf(sheet);
-    ASSERT_EQ(rows.size(), 26U);
-    EXPECT_EQ(Rows(rows.begin() + 20, rows.end()),
-              (Rows{
-                  "",
-                  "  **************************************************************",
-                  "  * WARNING: A compressibility correction factor has not been  *",
-                  "  *          entered.  At this pressure, no compressibility    *",
-                  "  *          correction may result in erroneous computations.  *",
-                  "  **************************************************************",
-              }));
-}
-
-TEST_F(ReportPageTest, CompressibilityBoxIsForGasOnly) {
-    ReportSheet sheet = SteamSheet();
-    sheet.zfCompWarning = true;
-    EXPECT_EQ(RowsOf(sheet).size(), 18U);
-    sheet = LiquidSheet();
-    sheet.zfCompWarning = true;
-    EXPECT_EQ(RowsOf(sheet).size(), 17U);
-}
-
-TEST_F(ReportPageTest, AllWarningsTogether) {
-    const Rows rows = RowsOf(FullestSheet());
-    ASSERT_EQ(rows.size(), 29U);
-    EXPECT_EQ(Rows(rows.begin() + 20, rows.end()),
-              (Rows{
-                  "",
-                  "Warning: Beta value exceeds standard range (0.15 to 0.67).",
-                  "Warning: Orifice plate deflection should be checked.",
-                  "",
-                  "  **************************************************************",
-                  "  * WARNING: A compressibility correction factor has not been  *",
-                  "  *          entered.  At this pressure, no compressibility    *",
-                  "  *          correction will result in erroneous computations. *",
-                  "  **************************************************************",
-              }));
-}
-
-TEST_F(ReportPageTest, FullestPageEndsAboveTheNotes) {
-    const ReportPage page = Page(FullestSheet());
-    double bottom = 0;
-    for (const ReportLine& line : page.lines) {
-        if (line.font.sizePt == 12) {
-            bottom = std::max(bottom, line.yTwips + 271.875);
-        }
-    }
-    EXPECT_LE(bottom, 8000);
 }
 
 }  // namespace

@@ -272,7 +272,8 @@ TEST_F(KeyboardTest, EnterAndEscCloseTheAboutWindow) {
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
         AboutBox about(&window());
         about.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&about));
+        about.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return about.cmdExit->hasFocus(); }));
         Press(key);
         EXPECT_FALSE(about.isVisible());
     }
@@ -287,7 +288,8 @@ TEST_F(KeyboardTest, EnterPrintsAndEscCancelsInTheCustomerWindow) {
         Module1 module(desk, NumberLocale{});
         frmCustInfo customer(module, &window());
         customer.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&customer));
+        customer.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return customer.txtCust1->hasFocus(); }));
         QTest::keyClicks(QApplication::focusWidget(), "ACME");
         Press(key);
         EXPECT_FALSE(customer.isVisible());

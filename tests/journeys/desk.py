@@ -1,0 +1,133 @@
+"""A desktop of the journeys' own: an X server without a screen, a window manager, the message buses
+of the session and of its helpers for the disabled, and the program on it.
+
+Nothing on it reaches the display, the printers or the settings of whoever runs the journeys.
+"""
+
+import contextlib
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import time
+
+PATIENCE = 60  # seconds for anything that the program does by itself
+
+TOOLS = ("Xvfb", "openbox", "xdotool", "import", "dbus-daemon")
+BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
+
+
+class CannotRun(Exception):
+    """The desktop can't be set up on this machine."""
+
+
+def wait_until(what, condition):
+    """Waits for a condition and returns its result; fails with `what` after PATIENCE."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError(f"waited {PATIENCE} s in vain: {what}")
+
+
+class Desk:
+    """The desktop. `environment` is what a program needs to run on it."""
+
+    def __init__(self, folder, screen="1280x1024x24"):
+        missing = [tool for tool in TOOLS if shutil.which(tool) is None]
+        if not os.path.exists(BUS_LAUNCHER):
+            missing.append(BUS_LAUNCHER)
+        if missing:
+            raise CannotRun("not installed: " + ", ".join(missing))
+        self.folder = pathlib.Path(folder)
+        self.processes = []
+        for name in ("home", "runtime"):
+            (self.folder / name).mkdir(mode=0o700)
+        self.environment = {
+            **{name: value for name, value in os.environ.items()
+               if name not in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "AT_SPI_BUS_ADDRESS")},
+            "HOME": str(self.folder / "home"),
+            "XDG_RUNTIME_DIR": str(self.folder / "runtime"),
+            "LC_ALL": "C.UTF-8",
+            # The program tells helpers what it shows as soon as it starts.
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "GSETTINGS_BACKEND": "memory",
+        }
+        try:
+            self.start_screen(screen)
+            self.start_buses()
+        except BaseException:
+            self.stop()
+            raise
+
+    def start_screen(self, screen):
+        display = self.spawn_and_read("Xvfb", "-displayfd", "{}", "-screen", "0", screen,
+                                      "-nolisten", "tcp")
+        self.environment["DISPLAY"] = f":{display}"
+        self.spawn_and_read("openbox", "--sm-disable", "--startup", "sh -c 'echo ready >&{}'")
+
+    def start_buses(self):
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.spawn_and_read(
+            "dbus-daemon", "--session", "--nofork", "--print-address={}")
+        self.spawn(BUS_LAUNCHER, "--launch-immediately")
+
+    def spawn(self, *command, **options):
+        """Starts a process of the desktop, in a group of its own."""
+        with open(self.folder / "desk.log", "ab") as log:
+            process = subprocess.Popen(command, env=self.environment, stdin=subprocess.DEVNULL,
+                                       stdout=log, stderr=log, start_new_session=True, **options)
+        self.processes.append(process)
+        return process
+
+    def spawn_and_read(self, *command):
+        """Starts a process that writes a line to the file descriptor in place of {}."""
+        reading, writing = os.pipe()
+        self.spawn(*(argument.replace("{}", str(writing)) for argument in command),
+                   pass_fds=(writing,))
+        os.close(writing)
+        with os.fdopen(reading) as pipe:
+            line = pipe.readline().strip()
+        if not line:
+            raise CannotRun(f"{command[0]} does not start: {self.log()}")
+        return line
+
+    def stop(self):
+        """Ends every process of the desktop, the last started first."""
+        for process in reversed(self.processes):
+            with contextlib.suppress(ProcessLookupError):
+                os.killpg(process.pid, signal.SIGTERM)
+            process.wait(PATIENCE)
+        self.processes.clear()
+
+    def log(self):
+        return (self.folder / "desk.log").read_text(errors="replace")[-2000:]
+
+    # The hands: keys and mouse, from outside the program.
+
+    def xdotool(self, *arguments):
+        result = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, text=True,
+                                capture_output=True, timeout=PATIENCE, check=False)
+        return result.stdout.strip()
+
+    def press(self, *keys):
+        """Presses keys one after the other; each by its X name, as in ctrl+p."""
+        self.xdotool("key", "--clearmodifiers", *keys)
+
+    def write(self, text):
+        self.xdotool("type", "--clearmodifiers", text)
+
+    def click(self, x, y):
+        self.xdotool("mousemove", x, y, "click", 1)
+
+    # The eyes.
+
+    def active_window(self):
+        """The title of the window that has the keyboard."""
+        return self.xdotool("getactivewindow", "getwindowname")
+
+    def take_picture(self, file):
+        subprocess.run(["import", "-window", "root", str(file)], env=self.environment,
+                       timeout=PATIENCE, check=True)

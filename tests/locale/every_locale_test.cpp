@@ -1,0 +1,207 @@
+// Every locale that the toolkit knows: what the program writes in it can be read and typed again.
+#include "app/module1.h"
+#include "app/system_locale.h"
+#include "tests/core/recording_platform.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace tarvix {
+
+namespace {
+
+QList<QLocale> EveryLocale() {
+    return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+}
+
+// Values of every size and sign, whole, fractional and at the steps of the formatters' scale.
+std::vector<float> Values() {
+    std::vector<float> values{0.0F,      0.5F,      1.0F / 3,   0.95F,       0.05F,       0.005F,
+                              999.96F,   99.996F,   9.9996F,    0.99996F,    0.099996F,   1234.4F,
+                              12345.67F, 123456.7F, 1234567.0F, 16777216.0F, 999999999.0F};
+    for (int exponent = -45; exponent <= 38; ++exponent) {
+        values.push_back(std::pow(10.0F, static_cast<float>(exponent)));
+        values.push_back(1.234567F * std::pow(10.0F, static_cast<float>(exponent)));
+    }
+    values.push_back(std::numeric_limits<float>::max());
+    for (const float value : std::vector<float>(values)) {
+        values.push_back(-value);
+    }
+    return values;
+}
+
+// How far the written text may be off: half a unit of its last decimal, and what 7 digits leave.
+double Tolerance(float value, const std::string& text, const NumberLocale& locale) {
+    const auto point = text.rfind(locale.decimalSeparator);
+    const bool hasPoint =
+        point != std::string::npos && locale.groupSeparator != std::string(1, text[point]);
+    const auto decimals = hasPoint ? text.size() - point - 1 : 0;
+    return 0.5000001 * std::pow(10.0, -static_cast<double>(decimals)) +
+           5.1e-7 * std::fabs(static_cast<double>(value));
+}
+
+// The characters of a text, typed one after the other into an empty field.
+std::string Typed(const std::string& text, const Module1& module) {
+    FieldSelection field;
+    for (const char character : text) {
+        if (module.NumericKeyFilter(static_cast<unsigned char>(character), field) != 0) {
+            field.before += character;
+        }
+    }
+    return field.before;
+}
+
+// The toolkit's own writing of a whole number, with the digits 0 to 9.
+QString Written(const QLocale& locale, qlonglong number) {
+    QString text;
+    for (const char32_t character : locale.toString(number).toUcs4()) {
+        text += QChar::isDigit(character) ? QString::number(QChar::digitValue(character))
+                                          : QString::fromUcs4(&character, 1);
+    }
+    return text;
+}
+
+// Where the first group needs two or three digits (1234, but 12 345), the toolkit writes and reads
+// a million without its first separator, as 1234 567; the program groups it as everybody there
+// does.
+bool GroupsLate(const QLocale& locale) {
+    return Written(locale, 1234).size() == 4 && Written(locale, 123456).size() > 6;
+}
+
+bool HasPlainDigits(const QLocale& locale) {
+    return locale.zeroDigit() == QLatin1String("0");
+}
+
+}  // namespace
+
+TEST(EveryLocale, ThereAreSeveralHundred) {
+    EXPECT_GT(EveryLocale().size(), 500);
+}
+
+TEST(EveryLocale, SeparatorIsACommaWhereTheSystemWritesOne) {
+    for (const QLocale& locale : EveryLocale()) {
+        const bool comma = locale.toString(3.14, 'f', 2).contains(QLatin1Char(','));
+        EXPECT_EQ(NumberLocaleOf(locale).decimalSeparator, comma ? ',' : '.')
+            << locale.name().toStdString();
+    }
+}
+
+TEST(EveryLocale, WhatIsWrittenIsReadAsTheSameValue) {
+    testing::RecordingPlatform platform;
+    for (const QLocale& locale : EveryLocale()) {
+        const Module1 module(platform, NumberLocaleOf(locale));
+        const NumberLocale& numbers = module.locale();
+        for (const float value : Values()) {
+            std::vector<std::string> texts{module.FormatResult(value), module.FormatLimit(value),
+                                           module.FormatEntry(value)};
+            for (const int decimals : {0, 2, 3, 5}) {
+                texts.push_back(FormatNumber(value, decimals, numbers, Grouping::On));
+            }
+            for (const std::string& text : texts) {
+                const auto read = TextToSingle(text, numbers);
+                ASSERT_TRUE(read) << locale.name().toStdString() << ": " << text;
+                ASSERT_NEAR(*read, value, Tolerance(value, text, numbers))
+                    << locale.name().toStdString() << ": " << text;
+            }
+        }
+    }
+}
+
+TEST(EveryLocale, AnEntryCanBeTyped) {
+    testing::RecordingPlatform platform;
+    for (const QLocale& locale : EveryLocale()) {
+        const Module1 module(platform, NumberLocaleOf(locale));
+        for (const float value : Values()) {
+            const std::string text = module.FormatEntry(value);
+            ASSERT_EQ(Typed(text, module), text) << locale.name().toStdString();
+        }
+    }
+}
+
+TEST(EveryLocale, GroupsAreTheSystemsOwn) {
+    for (const QLocale& locale : EveryLocale()) {
+        const NumberLocale numbers = NumberLocaleOf(locale);
+        if (numbers.groupSeparator.empty() || locale.language() == QLocale::C) {
+            continue;
+        }
+        for (const qlonglong number : {123LL, 1234LL, 12345LL, 123456LL, 1234567LL}) {
+            if (number == 1234567 && GroupsLate(locale)) {
+                continue;
+            }
+            EXPECT_EQ(FormatNumber(static_cast<float>(number), 0, numbers, Grouping::On),
+                      Written(locale, number).toStdString())
+                << locale.name().toStdString();
+        }
+    }
+}
+
+TEST(EveryLocale, AMillionHasAllItsGroupsWhereTheFirstNeedsMoreDigits) {
+    int locales = 0;
+    for (const QLocale& locale : EveryLocale()) {
+        if (GroupsLate(locale)) {
+            ++locales;
+            const std::string group = locale.groupSeparator().toStdString();
+            EXPECT_EQ(FormatNumber(1234567.0F, 0, NumberLocaleOf(locale), Grouping::On),
+                      "1" + group + "234" + group + "567")
+                << locale.name().toStdString();
+        }
+    }
+    EXPECT_GT(locales, 10);
+}
+
+TEST(EveryLocale, NoGroupsOnlyWhereTheSystemHasNone) {
+    for (const QLocale& locale : EveryLocale()) {
+        const NumberLocale numbers = NumberLocaleOf(locale);
+        const QString written = Written(locale, 1234567890);
+        // A locale whose groups are told by the decimal separator can't be read with them.
+        const bool ambiguous =
+            locale.groupSeparator() == QString(QLatin1Char(numbers.decimalSeparator));
+        if (numbers.groupSeparator.empty() && !ambiguous) {
+            EXPECT_EQ(written, QStringLiteral("1234567890")) << locale.name().toStdString();
+        }
+    }
+}
+
+TEST(EveryLocale, TheSystemReadsWhatTheProgramWrites) {
+    testing::RecordingPlatform platform;
+    int compared = 0;
+    for (const QLocale& locale : EveryLocale()) {
+        const NumberLocale numbers = NumberLocaleOf(locale);
+        const bool sameSeparator =
+            locale.decimalPoint() == QString(QLatin1Char(numbers.decimalSeparator));
+        if (!HasPlainDigits(locale) || !sameSeparator || locale.language() == QLocale::C) {
+            continue;
+        }
+        ++compared;
+        const Module1 module(platform, numbers);
+        for (const float value : {0.0F, 0.05F, 1234.4F, 12345.67F, 1234567.0F}) {
+            if (value > 1e6F && GroupsLate(locale)) {
+                continue;
+            }
+            const std::string text = module.FormatResult(value);
+            bool isNumber = false;
+            const double read = locale.toDouble(QString::fromStdString(text), &isNumber);
+            EXPECT_TRUE(isNumber) << locale.name().toStdString() << ": " << text;
+            EXPECT_NEAR(read, value, Tolerance(value, text, numbers))
+                << locale.name().toStdString() << ": " << text;
+        }
+    }
+    EXPECT_GT(compared, 400);
+}
+
+TEST(EveryLocale, TheOtherSeparatorIsNeverTyped) {
+    testing::RecordingPlatform platform;
+    for (const QLocale& locale : EveryLocale()) {
+        const Module1 module(platform, NumberLocaleOf(locale));
+        const int other = module.locale().decimalSeparator == '.' ? ',' : '.';
+        EXPECT_EQ(module.NumericKeyFilter(other, {}), 0) << locale.name().toStdString();
+    }
+}
+
+}  // namespace tarvix

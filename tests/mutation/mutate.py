@@ -1,0 +1,228 @@
+#!/usr/bin/env python3
+"""Measures the strength of the core's tests: spoils the source in one place, runs the tests, and
+counts the mutants that no test notices.
+
+Works on copies of the tree below the build folder and never touches the work tree. A mutant that
+does not compile is replaced by another one. The sample depends on the seed and the sources alone.
+
+    tests/mutation/mutate.py --build /tmp/mutation            # the usual run
+    tests/mutation/mutate.py --build /tmp/mutation --files calc/orifice_gas.cpp --count 1000
+    tests/mutation/mutate.py --list --count 20                # show mutants, run nothing
+
+Exit status: 0 when every survivor is one of those explained in README.md, else 1.
+"""
+
+import argparse
+import concurrent.futures
+import math
+import os
+import queue
+import random
+import re
+import shutil
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+import operators
+
+ROOT = Path(__file__).resolve().parents[2]
+EXPLAINED = Path(__file__).resolve().parent / "README.md"
+
+# The toolkit-free sources and the tests that judge them.
+ROOMS = {"calc": "core_tests", "units": "core_tests", "app": "core_tests", "report": "report_tests"}
+
+BUILD_SECONDS = 3600
+TEST_SECONDS = 120
+
+
+def core_files(root):
+    """The sources of the tarvix_core target and their headers, with the tests of their room."""
+    files = {}
+    for room, tests in ROOMS.items():
+        listed = re.findall(r"\b(\w+)\.cpp", (root / room / "CMakeLists.txt").read_text())
+        for name in listed:
+            for suffix in (".cpp", ".h"):
+                if (root / room / (name + suffix)).exists():
+                    files[f"{room}/{name}{suffix}"] = tests
+    # Headers without a source of their own.
+    for header in ("app/input_sheet.h", "calc/orifice_iteration.h"):
+        if (root / header).exists():
+            files[header] = ROOMS[header.split("/")[0]]
+    return files
+
+
+def sample(root, files, count, seed):
+    """Mutants in random order. Each file has its share by the square root of its places, so that
+    the long tables do not crowd out the procedures; what goes beyond `count` replaces mutants that
+    do not compile."""
+    rng = random.Random(seed)
+    per_file = {}
+    for name in files:
+        found = operators.mutants_of(name, (root / name).read_text())
+        if found:
+            rng.shuffle(found)
+            per_file[name] = found
+    weights = {name: math.sqrt(len(found)) for name, found in per_file.items()}
+    total = sum(weights.values())
+    chosen, spare = [], []
+    for name, found in per_file.items():
+        share = max(1, round(count * weights[name] / total))
+        chosen += found[:share]
+        spare += found[share:]
+    # A spoiled header builds the tests again: headers come last, one after the other.
+    rng.shuffle(chosen)
+    chosen.sort(key=lambda mutant: mutant.file if mutant.file.endswith(".h") else "")
+    rng.shuffle(spare)
+    spare.sort(key=lambda mutant: mutant.file.endswith(".h"), reverse=True)
+    return chosen, spare
+
+
+class Worker:
+    """A copy of the tree with its own build."""
+
+    def __init__(self, folder, root, targets):
+        folder = folder.resolve()
+        self.tree = folder / "tree"
+        self.build = folder / "build"
+        self.targets = sorted(set(targets))
+        # What one copy has compiled, the other finds in the cache.
+        self.environment = {**os.environ, "CCACHE_BASEDIR": str(folder)}
+        if self.tree.exists():
+            shutil.rmtree(self.tree)
+        shutil.copytree(root, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
+        # A widening left out must change something: where the other operand is a double it would
+        # not, and the project's own flags refuse it.
+        configure = ["cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja",
+                     "-DCMAKE_BUILD_TYPE=None",
+                     "-DCMAKE_CXX_FLAGS=-O0 -Werror=double-promotion",
+                     "-DTARVIX_BUILD_WINDOW=OFF", "-DTARVIX_BUILD_BENCH=OFF",
+                     "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
+        if shutil.which("ccache"):
+            configure.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
+        subprocess.run(configure, check=True, stdout=subprocess.DEVNULL)
+        for target in self.targets:
+            if not self._compiles(target):
+                sys.exit(f"the unspoiled tree does not build: {target}")
+            if not self._passes(target):
+                sys.exit(f"the unspoiled tree fails its tests: {target}")
+
+    def _compiles(self, target):
+        command = ["ninja", "-C", self.build, "-j1", target]
+        try:
+            return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                  env=self.environment, timeout=BUILD_SECONDS).returncode == 0
+        except subprocess.TimeoutExpired:
+            return False
+
+    def _passes(self, target):
+        binary = next(p for p in self.build.rglob(target) if p.is_file() and os.access(p, os.X_OK))
+        try:
+            return subprocess.run([binary, "--gtest_fail_fast", "--gtest_brief=1"],
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                  timeout=TEST_SECONDS).returncode == 0
+        except subprocess.TimeoutExpired:
+            return False
+
+    def judge(self, mutant, target):
+        """'killed', 'survived' or 'unbuildable'."""
+        path = self.tree / mutant.file
+        original = path.read_text()
+        path.write_text(mutant.apply(original))
+        try:
+            if not self._compiles(target):
+                return "unbuildable"
+            return "survived" if self._passes(target) else "killed"
+        finally:
+            path.write_text(original)
+
+
+def explained_survivors():
+    """The mutants that README.md lists between ``` lines: file, what was, what became of it."""
+    text = EXPLAINED.read_text() if EXPLAINED.exists() else ""
+    return {line.strip() for block in re.findall(r"```\n(.*?)```", text, re.S)
+            for line in block.splitlines() if line.strip()}
+
+
+def run(arguments, files, chosen, spare):
+    workers = queue.Queue()
+    print(f"building {arguments.jobs} copies of the tree ...", flush=True)
+    targets = [files[name] for name in files]
+    for i in range(arguments.jobs):
+        workers.put(Worker(arguments.build / f"worker{i}", arguments.source, targets))
+
+    def judge(mutant):
+        worker = workers.get()
+        try:
+            return mutant, worker.judge(mutant, files[mutant.file])
+        finally:
+            workers.put(worker)
+
+    results = {"killed": [], "survived": [], "unbuildable": []}
+    started = time.monotonic()
+    with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
+        pending = {pool.submit(judge, mutant) for mutant in chosen}
+        while pending:
+            done, pending = concurrent.futures.wait(
+                pending, return_when=concurrent.futures.FIRST_COMPLETED)
+            for future in done:
+                mutant, verdict = future.result()
+                results[verdict].append(mutant)
+                if verdict == "survived":
+                    print(f"survived: {mutant.key()}", flush=True)
+                elif verdict == "unbuildable" and spare:
+                    pending.add(pool.submit(judge, spare.pop()))
+            if verdict != "unbuildable":
+                judged = len(results["killed"]) + len(results["survived"])
+                if judged % 25 == 0:
+                    print(f"  {judged} judged after {time.monotonic() - started:.0f} s", flush=True)
+    return results
+
+
+def report(results, files):
+    judged = results["killed"] + results["survived"]
+    explained = explained_survivors()
+    print(f"\n{'file':32} {'mutants':>8} {'killed':>8}")
+    for name in sorted(files):
+        of_file = [m for m in judged if m.file == name]
+        if of_file:
+            killed = sum(m.file == name for m in results["killed"])
+            print(f"{name:32} {len(of_file):8} {killed:8}")
+    print(f"{'all':32} {len(judged):8} {len(results['killed']):8}"
+          f"   (and {len(results['unbuildable'])} that did not compile)")
+    unexplained = [m for m in results["survived"] if m.key() not in explained]
+    print(f"survivors: {len(results['survived'])}, of them without an explanation:"
+          f" {len(unexplained)}")
+    for mutant in unexplained:
+        print(f"  {mutant.key()}")
+    return 1 if unexplained else 0
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--source", type=Path, default=ROOT, help="the tree to copy")
+    parser.add_argument("--build", type=Path, default=ROOT / "build" / "mutation")
+    parser.add_argument("--count", type=int, default=400, help="mutants to judge")
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--jobs", type=int, default=2)
+    parser.add_argument("--files", nargs="+", help="only these files, such as calc/orifice_gas.cpp")
+    parser.add_argument("--list", action="store_true", help="print the mutants, run nothing")
+    arguments = parser.parse_args()
+
+    files = core_files(arguments.source)
+    if arguments.files:
+        unknown = set(arguments.files) - set(files)
+        if unknown:
+            parser.error("not a file of the core: " + ", ".join(sorted(unknown)))
+        files = {name: files[name] for name in arguments.files}
+    chosen, spare = sample(arguments.source, files, arguments.count, arguments.seed)
+    if arguments.list:
+        for mutant in chosen:
+            print(mutant.key())
+        return 0
+    return report(run(arguments, files, chosen, spare), files)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
