@@ -26,8 +26,8 @@ double Luminance(const QColor& color) {
 // `step` of kSteps on the way from one color to the other.
 QColor Between(const QColor& from, const QColor& to, int step) {
     const auto part = [step](int start, int end) { return start + (end - start) * step / kSteps; };
-    return QColor(part(from.red(), to.red()), part(from.green(), to.green()),
-                  part(from.blue(), to.blue()));
+    return {part(from.red(), to.red()), part(from.green(), to.green()),
+            part(from.blue(), to.blue())};
 }
 
 }  // namespace
