@@ -62,13 +62,13 @@ std::vector<NumericField*> MainForm::NumericFields() const {
             txtDensity, txtSGb,    txtSGf,  txtGasSGb,     txtZf};
 }
 
-void MainForm::SetTop(QWidget& widget, int top) {
+void MainForm::SetTop(const QWidget& widget, int top) {
     NamedControl& control = Entry(widget);
     control.place.top = top;
     Place(control);
 }
 
-void MainForm::SetWidth(QWidget& widget, int width) {
+void MainForm::SetWidth(const QWidget& widget, int width) {
     NamedControl& control = Entry(widget);
     control.place.width = width;
     Place(control);

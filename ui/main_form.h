@@ -150,8 +150,8 @@ class MainForm {
     std::vector<NumericField*> NumericFields() const;
 
     // Moves or sizes a control; twips.
-    void SetTop(QWidget& widget, int top);
-    void SetWidth(QWidget& widget, int width);
+    void SetTop(const QWidget& widget, int top);
+    void SetWidth(const QWidget& widget, int width);
 
     // Places every control for the font of the canvas and sizes the canvas to hold them.
     void PlaceControls();

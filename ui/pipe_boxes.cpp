@@ -4,8 +4,6 @@
 #include "units/nominal_sizes.h"
 #include "units/pipe_id_texts.h"
 
-#include <cstdlib>
-
 namespace tarvix {
 
 namespace {
@@ -164,7 +162,6 @@ const Unit& PipeBoxes::PipeUnit() const {
 void PipeBoxes::UnknownPipeUnit() {
     context_.module.MsgText = "Unrecognized pipe ID unit for 'User Entered' pipe ID";
     context_.module.FatalError();
-    std::abort();
 }
 
 }  // namespace tarvix
