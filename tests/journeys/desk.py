@@ -7,12 +7,13 @@ Nothing on it reaches the display, the printers or the settings of whoever runs 
 import contextlib
 import os
 import pathlib
+import select
 import shutil
 import signal
 import subprocess
 import time
 
-PATIENCE = 60  # seconds for anything that the program does by itself
+PATIENCE = 10  # seconds for anything that the program does by itself
 
 TOOLS = ("Xvfb", "openbox", "xdotool", "import", "dbus-daemon")
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
@@ -67,7 +68,14 @@ class Desk:
         display = self.spawn_and_read("Xvfb", "-displayfd", "{}", "-screen", "0", screen,
                                       "-nolisten", "tcp")
         self.environment["DISPLAY"] = f":{display}"
-        self.spawn_and_read("openbox", "--sm-disable", "--startup", "sh -c 'echo ready >&{}'")
+        # What the window manager starts when it is ready inherits no pipe, so that has a name.
+        ready = self.folder / "ready"
+        os.mkfifo(ready)
+        reading = os.open(ready, os.O_RDONLY | os.O_NONBLOCK)
+        self.spawn("openbox", "--sm-disable", "--startup", f"sh -c 'echo ready >{ready}'")
+        with os.fdopen(reading):
+            if not select.select([reading], [], [], PATIENCE)[0]:
+                raise CannotRun(f"openbox does not start: {self.log()}")
 
     def start_buses(self):
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.spawn_and_read(
