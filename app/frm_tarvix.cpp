@@ -94,7 +94,8 @@ void frmTarvix::ConnectMenusAndButtons() {
 void frmTarvix::Form_Load() {
     FitToScreen();
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const ScreenPoint place = StartPlace(screen.width(), screen.height(), width(), height());
+    const ScreenPoint place =
+        StartPlace(screen.width(), screen.height(), width(), height() + FrameHeight());
     move(screen.topLeft() + QPoint(place.x, place.y));
     state_.SuspendCalc = true;
     module_.FluidType = "G";
@@ -145,11 +146,16 @@ void frmTarvix::ApplyReadableColors() {
     form_.mnuFile->setPalette(colors);
 }
 
+// What a window manager adds above and below the window. It is not there before the window is
+// shown; what the toolkit gives windows within a window is about the same.
+int frmTarvix::FrameHeight() const {
+    return style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this) +
+           2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, this);
+}
+
 void frmTarvix::FitToScreen() {
     const QSize whole = canvas_.size() + QSize(0, menuBar()->sizeHint().height());
-    // The window manager's frame is not there before the window is shown.
-    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, titleBar);
+    const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, FrameHeight());
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     // The scroll bar for one direction must not take room away in the other.
     const QSize scrolling(whole.height() > room.height() ? scrollBar : 0,

@@ -45,6 +45,7 @@ class frmTarvix : public QMainWindow {
     void ConnectMenusAndButtons();
     void ShowLogo();
     void ApplyReadableColors();
+    int FrameHeight() const;
     void FitToScreen();
     void PrintOrificeReport();
 

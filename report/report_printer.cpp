@@ -6,6 +6,8 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -29,6 +31,27 @@ PrintOutcome Failed(const QString& reason) {
     return {PrintOutcome::Status::Failed, reason};
 }
 
+// Leaves a file that was there as it was when the new one can't be written whole.
+PrintOutcome ReplaceFile(const QString& name, const QByteArray& content) {
+    QSaveFile file(name);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !file.commit()) {
+        return Failed(file.errorString());
+    }
+    return {};
+}
+
+// A device or a pipe is written to; replaced, it would be a device no more.
+PrintOutcome WriteTo(const QString& name, const QByteArray& content) {
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !file.flush()) {
+        return Failed(file.errorString());
+    }
+    return {};
+}
+
 // Writes the page as a PDF file. The page is complete before the file is touched, so that a full
 // disk leaves a file that was there before as it was.
 PrintOutcome PrintToFile(const QPrinter& printer, const ReportPage& page, const QImage& logo) {
@@ -45,12 +68,9 @@ PrintOutcome PrintToFile(const QPrinter& printer, const ReportPage& page, const 
             return Failed({});
         }
     }
-    QSaveFile file(printer.outputFileName());
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size() || !file.commit()) {
-        return Failed(file.errorString());
-    }
-    return {};
+    const QFileInfo there(printer.outputFileName());
+    return there.exists() && !there.isFile() ? WriteTo(there.filePath(), pdf)
+                                             : ReplaceFile(there.filePath(), pdf);
 }
 
 PrintOutcome PrintToPrinter(QPrinter& printer, const ReportPage& page, const QImage& logo) {

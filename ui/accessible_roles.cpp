@@ -37,6 +37,48 @@ class AlertInterface : public QAccessibleWidget {
     }
 };
 
+// Does later what a helper asks for, since a handler may ask the user something while the helper
+// waits for an answer.
+template <typename Action>
+void DoLater(QWidget* widget, Action action) {
+    QMetaObject::invokeMethod(
+        widget,
+        [widget, action] {
+            widget->setFocus(Qt::OtherFocusReason);
+            action();
+        },
+        Qt::QueuedConnection);
+}
+
+// The toolkit's own selects an option without the click that sets everything off.
+class OptionInterface : public QAccessibleWidget {
+  public:
+    explicit OptionInterface(OptionButton* option)
+        : QAccessibleWidget(option, QAccessible::RadioButton), option_(*option) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = option_.Value();
+        return state;
+    }
+
+    QStringList actionNames() const override {
+        return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override {
+        if (name != pressAction()) {
+            QAccessibleWidget::doAction(name);
+        } else if (option_.isEnabled()) {
+            DoLater(&option_, [option = &option_] { option->click(); });
+        }
+    }
+
+  private:
+    OptionButton& option_;
+};
+
 // The toolkit names a list by its selected entry alone. This one says what the list is for as well,
 // and lets helpers go through its entries without opening it.
 class ListInterface : public QAccessibleWidget {
@@ -66,7 +108,13 @@ class ListInterface : public QAccessibleWidget {
     int childCount() const override { return 1; }
 
     QAccessibleInterface* child(int index) const override {
-        return index == 0 ? QAccessible::queryAccessibleInterface(list_.view()) : nullptr;
+        if (index != 0) {
+            return nullptr;
+        }
+        if (list_.view()->accessibleName().isEmpty()) {
+            list_.view()->setAccessibleName(list_.accessibleName());
+        }
+        return QAccessible::queryAccessibleInterface(list_.view());
     }
 
     int indexOfChild(const QAccessibleInterface* child) const override {
@@ -94,17 +142,9 @@ class ListInterface : public QAccessibleWidget {
     }
 
   private:
-    // Later, since the handler may ask the user something and the helper waits for an answer.
     void Pick(int index) {
         if (index >= 0 && index < list_.count()) {
-            DropDownList* list = &list_;
-            QMetaObject::invokeMethod(
-                list,
-                [list, index] {
-                    list->setFocus(Qt::OtherFocusReason);
-                    list->SetListIndex(index);
-                },
-                Qt::QueuedConnection);
+            DoLater(&list_, [list = &list_, index] { list->SetListIndex(index); });
         }
     }
 
@@ -119,6 +159,9 @@ QAccessibleInterface* CreateInterface(const QString& /*className*/, QObject* obj
     }
     if (auto* list = dynamic_cast<DropDownList*>(widget)) {
         return new ListInterface(list);
+    }
+    if (auto* option = dynamic_cast<OptionButton*>(widget)) {
+        return new OptionInterface(option);
     }
     if (role.toInt() == QAccessible::AlertMessage) {
         return new AlertInterface(widget);

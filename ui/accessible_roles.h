@@ -1,5 +1,5 @@
-// Roles and announcements for screen readers where the toolkit's own don't fit: alerts, lists that
-// say what they are for, and boxes and backdrops.
+// Roles and announcements for screen readers where the toolkit's own don't fit: alerts, options
+// that are clicked, lists that say what they are for, and boxes and backdrops.
 #pragma once
 
 #include <QAccessible>

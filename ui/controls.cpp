@@ -190,8 +190,7 @@ bool NumericField::IsKept(QChar character) const {
     return !onKeyPress || onKeyPress(character.unicode()) != 0;
 }
 
-OptionButton::OptionButton(const QString& caption, QWidget* parent)
-    : QRadioButton(caption, parent) {
+OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
     connect(this, &QAbstractButton::toggled, this, [this](bool selected) {
         if (selected) {
             TakeTabStop();

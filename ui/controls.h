@@ -79,7 +79,7 @@ class NumericField : public QLineEdit {
 // click the next one.
 class OptionButton : public QRadioButton {
   public:
-    OptionButton(const QString& caption, QWidget* parent);
+    explicit OptionButton(QWidget* parent);
 
     void Select();
     bool Value() const { return isChecked(); }

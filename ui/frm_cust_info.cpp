@@ -110,6 +110,7 @@ void frmCustInfo::LayOut() {
     buttons->addWidget(cmdClear);
     buttons->addWidget(cmdCancel);
     cmdPrint->setDefault(true);
+    txtCust1->setFocus();
 
     auto* window = new QVBoxLayout(this);
     window->addWidget(Frame1);
@@ -164,14 +165,6 @@ void frmCustInfo::txtCust2_GotFocus() {
 
 void frmCustInfo::txtTag_GotFocus() {
     txtTag->selectAll();
-}
-
-void frmCustInfo::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    // The first line has the focus when the window opens; the window system reports that as the
-    // window's activation, not as an entry.
-    txtCust1->setFocus(Qt::OtherFocusReason);
-    txtCust1_GotFocus();
 }
 
 }  // namespace tarvix

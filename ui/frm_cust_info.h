@@ -53,9 +53,6 @@ class frmCustInfo : public QDialog {
     QPushButton* const cmdClear;
     QPushButton* const cmdCancel;
 
-  protected:
-    void showEvent(QShowEvent* event) override;
-
   private:
     void NameControls();
     void LayOut();

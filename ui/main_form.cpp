@@ -172,7 +172,9 @@ QWidget* MainForm::AddBox(QWidget* parent, const char* name, QAccessible::Role r
 
 OptionButton* MainForm::AddOption(QWidget* parent, const char* name, const char* caption,
                                   TwipsRect place) {
-    auto* option = new OptionButton(QString::fromUtf8(caption), parent);
+    auto* option = new OptionButton(parent);
+    SetAccessibleRole(*option, QAccessible::RadioButton);
+    option->setText(QString::fromUtf8(caption));
     Register(option, name, ControlKind::Option, place);
     return option;
 }

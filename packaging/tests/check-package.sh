@@ -83,11 +83,12 @@ system_files() {
     find /usr /etc /opt -xdev -not -path '*cache*' | sort
 }
 
-# Prints the main window's number once it is on the screen. The splash before it has the same title.
+# Prints the main window's number once it is on the screen. The splash before it has the same title,
+# but asks the window manager for no frame.
 find_main_window() {
     local window
     for window in $(xdotool search --onlyvisible --name '^Brindle Tarvix$' 2>/dev/null); do
-        if ! xprop -id "$window" _NET_WM_WINDOW_TYPE | grep -q SPLASH; then
+        if ! xprop -id "$window" _NET_WM_WINDOW_TYPE | grep -qE 'SPLASH|OVERRIDE'; then
             say "$window"
             return 0
         fi

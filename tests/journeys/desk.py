@@ -5,6 +5,7 @@ Nothing on it reaches the display, the printers or the settings of whoever runs 
 """
 
 import contextlib
+import importlib.util
 import os
 import pathlib
 import select
@@ -13,9 +14,9 @@ import signal
 import subprocess
 import time
 
-PATIENCE = 10  # seconds for anything that the program does by itself
+PATIENCE = 60  # seconds for anything that the program does by itself
 
-TOOLS = ("Xvfb", "openbox", "xdotool", "import", "dbus-daemon")
+TOOLS = ("Xvfb", "openbox", "xdotool", "xprop", "xwininfo", "import", "dbus-daemon")
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 
 
@@ -41,6 +42,8 @@ class Desk:
         missing = [tool for tool in TOOLS if shutil.which(tool) is None]
         if not os.path.exists(BUS_LAUNCHER):
             missing.append(BUS_LAUNCHER)
+        if importlib.util.find_spec("pyatspi") is None:
+            missing.append("pyatspi")
         if missing:
             raise CannotRun("not installed: " + ", ".join(missing))
         self.folder = pathlib.Path(folder)

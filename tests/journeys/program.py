@@ -4,8 +4,10 @@ worked from outside its process over the accessibility bus.
 The bus is found through the environment, so this is imported when the desk stands.
 """
 
+import contextlib
+
 import pyatspi
-from gi.repository import GLib
+from gi.repository import Atspi, GLib
 
 from desk import PATIENCE, wait_until
 
@@ -62,11 +64,19 @@ class Control:
         place = self.place
         return place.x + place.width // 2, place.y + place.height // 2
 
-    def act(self, name):
+    def act(self, name, answers_late=False):
+        """Carries out an action. The toolkit's menus answer when the window that they open is
+        closed: too late to wait for."""
         action = self.accessible.queryAction()
         names = [action.getName(index) for index in range(action.nActions)]
         assert name in names, f"{self.name} knows {names}, not {name}"
-        action.doAction(names.index(name))
+        if not answers_late:
+            action.doAction(names.index(name))
+            return
+        Atspi.set_timeout(500, 0)
+        with contextlib.suppress(GLib.GError):
+            action.doAction(names.index(name))
+        Atspi.set_timeout(-1, -1)
 
     def take_focus(self):
         self.accessible.queryComponent().grabFocus()

@@ -14,12 +14,15 @@ Exit status: 0 when every survivor is one of those explained in README.md, else 
 
 import argparse
 import concurrent.futures
+import hashlib
+import json
 import math
 import os
 import queue
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -91,7 +94,9 @@ class Worker:
         self.environment = {**os.environ, "CCACHE_BASEDIR": str(folder)}
         if self.tree.exists():
             shutil.rmtree(self.tree)
-        shutil.copytree(root, self.tree, ignore=shutil.ignore_patterns("build", ".git"))
+        # New files, so that objects of an interrupted run are not taken for those of these sources.
+        shutil.copytree(root, self.tree, copy_function=shutil.copy,
+                        ignore=shutil.ignore_patterns("build", ".git"))
         # A widening left out must change something: where the other operand is a double it would
         # not, and the project's own flags refuse it.
         configure = ["cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja",
@@ -108,22 +113,27 @@ class Worker:
             if not self._passes(target):
                 sys.exit(f"the unspoiled tree fails its tests: {target}")
 
+    def _run(self, command, seconds):
+        """The exit status; 1 after a timeout. Ended from outside, it runs again."""
+        for _ in range(5):
+            try:
+                status = subprocess.run(command, stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL, env=self.environment,
+                                        timeout=seconds).returncode
+            except subprocess.TimeoutExpired:
+                return 1
+            if status not in (-signal.SIGKILL, -signal.SIGTERM, -signal.SIGINT, -signal.SIGHUP):
+                break
+        return status
+
     def _compiles(self, target):
         command = ["ninja", "-C", self.build, "-j1", target]
-        try:
-            return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                  env=self.environment, timeout=BUILD_SECONDS).returncode == 0
-        except subprocess.TimeoutExpired:
-            return False
+        # A second time, for a compiler that was ended from outside.
+        return any(self._run(command, BUILD_SECONDS) == 0 for _ in range(2))
 
     def _passes(self, target):
         binary = next(p for p in self.build.rglob(target) if p.is_file() and os.access(p, os.X_OK))
-        try:
-            return subprocess.run([binary, "--gtest_fail_fast", "--gtest_brief=1"],
-                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                  timeout=TEST_SECONDS).returncode == 0
-        except subprocess.TimeoutExpired:
-            return False
+        return self._run([binary, "--gtest_fail_fast", "--gtest_brief=1"], TEST_SECONDS) == 0
 
     def judge(self, mutant, target):
         """'killed', 'survived' or 'unbuildable'."""
@@ -138,6 +148,28 @@ class Worker:
             path.write_text(original)
 
 
+class Verdicts:
+    """What was found out about these very sources and tests, so that an interrupted run goes on
+    where it was."""
+
+    def __init__(self, folder, root, files):
+        digest = hashlib.sha256()
+        judged_by = sorted(root.glob("tests/core/**/*.*")) + sorted(root.glob("tests/report/*.*")) \
+            + sorted(root.glob("tests/data/*"))
+        for path in sorted(root / name for name in files) + judged_by:
+            digest.update(path.read_bytes())
+        self.path = folder / "verdicts" / (digest.hexdigest()[:16] + ".json")
+        self.known = json.loads(self.path.read_text()) if self.path.exists() else {}
+
+    def of(self, mutant):
+        return self.known.get(mutant.key())
+
+    def add(self, mutant, verdict):
+        self.known[mutant.key()] = verdict
+        self.path.parent.mkdir(parents=True, exist_ok=True)
+        self.path.write_text(json.dumps(self.known, indent=0))
+
+
 def explained_survivors():
     """The mutants that README.md lists between ``` lines: file, what was, what became of it."""
     text = EXPLAINED.read_text() if EXPLAINED.exists() else ""
@@ -145,7 +177,7 @@ def explained_survivors():
             for line in block.splitlines() if line.strip()}
 
 
-def run(arguments, files, chosen, spare):
+def run(arguments, files, chosen, spare, verdicts):
     workers = queue.Queue()
     print(f"building {arguments.jobs} copies of the tree ...", flush=True)
     targets = [files[name] for name in files]
@@ -153,6 +185,8 @@ def run(arguments, files, chosen, spare):
         workers.put(Worker(arguments.build / f"worker{i}", arguments.source, targets))
 
     def judge(mutant):
+        if verdicts.of(mutant):
+            return mutant, verdicts.of(mutant)
         worker = workers.get()
         try:
             return mutant, worker.judge(mutant, files[mutant.file])
@@ -169,6 +203,7 @@ def run(arguments, files, chosen, spare):
             for future in done:
                 mutant, verdict = future.result()
                 results[verdict].append(mutant)
+                verdicts.add(mutant, verdict)
                 if verdict == "survived":
                     print(f"survived: {mutant.key()}", flush=True)
                 elif verdict == "unbuildable" and spare:
@@ -221,7 +256,8 @@ def main():
         for mutant in chosen:
             print(mutant.key())
         return 0
-    return report(run(arguments, files, chosen, spare), files)
+    verdicts = Verdicts(arguments.build, arguments.source, files)
+    return report(run(arguments, files, chosen, spare, verdicts), files)
 
 
 if __name__ == "__main__":

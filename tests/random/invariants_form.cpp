@@ -167,6 +167,42 @@ QString StateColors(const Step& step) {
     return {};
 }
 
+QString OpensAsDesigned(const Step& step) {
+    if (!step.Opening()) {
+        return {};
+    }
+    for (const char* option : {"optGas", "optCalcBeta", "optPgauge", "optDegF", "optSgUser",
+                               "optSaturated", "optSteamUser", "optCompCorrNone"}) {
+        if (!step.now[option].checked) {
+            return Named(option) + QStringLiteral(" is not selected");
+        }
+    }
+    for (const std::string_view field : kNumericFields) {
+        if (!step.now[field].text.isEmpty()) {
+            return Named(field) + QStringLiteral(" is not empty");
+        }
+    }
+    const std::pair<const char*, const char*> selections[] = {
+        {"cboPressUnit", "PSI"},
+        {"cboDeltaPunit", "Inches Water"},
+        {"cboDensityUnit", "lb/cubic foot"},
+        {"cboZfDensityUnit", "lb/cubic foot"},
+        {"cboPipeIDUnit", "Inches"},
+        {"cboOriBoreUnit", "Inches"},
+        {"cboNomSize", "2"},
+        {"cboFlowUnit", "Standard Cubic Feet"},
+        {"cboTimeUnit", "Day"},
+    };
+    for (const auto& [list, text] : selections) {
+        if (step.now[list].text != QLatin1String(text)) {
+            return Named(list) + QStringLiteral(" shows ") + Quoted(step.now[list].text);
+        }
+    }
+    const QString pipe = step.world.numbers.Localized(QStringLiteral("2.067")) +
+                         QStringLiteral("\"  Sch 40, STD, Sch 40S");
+    return step.now["cboPipeID"].text == pipe ? QString() : step.now["cboPipeID"].text;
+}
+
 QString FocusIsUsable(const Step& step) {
     if (step.now.focus.isEmpty()) {
         return {};
@@ -220,6 +256,11 @@ void AddFormInvariants(std::vector<Invariant>& list) {
          {"always-there", "What does not depend on the fluid is always shown and can be used.",
           AlwaysThere},
          {"state-colors", "Nothing is colored but what shows a state by its color.", StateColors},
+         {"opens-as-designed",
+          "The window opens with gas, the beta mode, empty fields, a 2 inch pipe of schedule 40 "
+          "and "
+          "the first unit of every list.",
+          OpensAsDesigned},
          {"focus-usable", "The focus is never on a control that is hidden or disabled.",
           FocusIsUsable},
          {"tab-skips-results", "The Tab key never stops on a result field.", TabSkipsResults}});

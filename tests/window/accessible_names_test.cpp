@@ -149,6 +149,18 @@ TEST_F(AccessibleNamesTest, LabelsBelongToTheirFields) {
     EXPECT_TRUE(labels.contains("Operating Pressure"));
 }
 
+TEST_F(AccessibleNamesTest, HelpersClickOptions) {
+    QAccessibleInterface& option = Of(form().optCalcFR);
+    EXPECT_TRUE(option.state().checkable);
+    EXPECT_FALSE(option.state().checked);
+    const int before = player_.window().calculationRuns();
+    option.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(option.state().checked);
+    EXPECT_TRUE(form().txtFlow->Locked()) << "the click's handler has run";
+    EXPECT_EQ(player_.window().calculationRuns(), before + 1);
+}
+
 TEST_F(AccessibleNamesTest, HelpersGoThroughAList) {
     QAccessibleInterface& list = Of(form().cboTimeUnit);
     QAccessibleActionInterface& actions = *list.actionInterface();

@@ -1,0 +1,263 @@
+#!/usr/bin/python3
+"""What goes wrong around the program, and what its user then sees: the real program on a desktop of
+its own.
+
+program_faults.py TARVIX [unittest arguments]     TARVIX: the program, with its logos beside it
+Exit status 77: the desktop can't be set up here.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "journeys"))
+import desk  # noqa: E402  (found by the line above)
+
+SKIPPED = 77
+TARVIX = None
+LOGOS = ("BrindleLogo.jpg", "VeltraneLogo.jpg")
+TITLE = "Brindle Tarvix"
+
+
+class ProgramCase(unittest.TestCase):
+    """A copy of the program in a folder of its own, on a desktop of its own."""
+
+    screen = "1280x1024x24"
+
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory(prefix="tarvix-faults-")
+        self.addCleanup(self.folder.cleanup)
+        self.desk = desk.Desk(self.folder.name, self.screen)
+        self.addCleanup(self.desk.stop)
+        # No printer of this machine, and no theme that needs a file.
+        self.desk.environment["CUPS_SERVER"] = "127.0.0.1:1"
+        self.programs = pathlib.Path(self.folder.name) / "program"
+        self.programs.mkdir()
+        for name in (pathlib.Path(TARVIX).name, *LOGOS):
+            shutil.copy(pathlib.Path(TARVIX).parent / name, self.programs / name)
+
+    def start(self):
+        return self.desk.spawn(str(self.programs / pathlib.Path(TARVIX).name))
+
+    def windows(self, title=TITLE):
+        found = self.desk.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+        return found.split()
+
+    def properties(self, *arguments):
+        return subprocess.run(["xprop", *arguments], text=True, env=self.desk.environment,
+                              capture_output=True, check=False).stdout
+
+    def geometry(self, window):
+        """Left, top, width and height of the window without its frame."""
+        lines = subprocess.run(["xwininfo", "-id", window], text=True, env=self.desk.environment,
+                               capture_output=True, check=True).stdout.splitlines()
+        values = dict(line.strip().split(":", 1) for line in lines if ":" in line)
+        return [int(values[key]) for key in ("Absolute upper-left X", "Absolute upper-left Y",
+                                             "Width", "Height")]
+
+    def main_windows(self):
+        """The main windows that are there; the splash, of the same title, has no frame."""
+        managed = self.properties("-root", "_NET_CLIENT_LIST").split()
+        clients = [int(word.strip(","), 16) for word in managed if word.startswith("0x")]
+        return [window for window in self.windows() if int(window) in clients and
+                "OVERRIDE" not in self.properties("-id", window, "_NET_WM_WINDOW_TYPE")]
+
+    def wait_for_main_window(self, count=1):
+        return desk.wait_until(f"{count} main windows",
+                               lambda: len(self.main_windows()) == count and self.main_windows())
+
+    def close(self, window):
+        """Closes a window as its title bar does."""
+        self.desk.xdotool("windowactivate", "--sync", window)
+        self.desk.press("alt+F4")
+
+    def ended(self, process):
+        return process.wait(desk.PATIENCE)
+
+
+class LogoFault(ProgramCase):
+    """A logo that can't be loaded is named in a box, and the program ends with status 1."""
+
+    def box(self):
+        """The title and the texts of the box that is shown."""
+        probe = pathlib.Path(__file__).with_name("read_box.py")
+        environment = {**self.desk.environment, "NO_AT_BRIDGE": "1"}
+        shown = subprocess.run([sys.executable, str(probe)], env=environment, text=True,
+                               capture_output=True, timeout=2 * desk.PATIENCE, check=False)
+        self.assertEqual(shown.returncode, 0, shown.stderr)
+        return shown.stdout.rstrip("\n").split("\n")
+
+    def expect_end_without(self, logo, process):
+        path = str(self.programs / logo)
+        self.assertEqual(self.box(), [TITLE, f"Run-time error: File not found: {path}"])
+        self.desk.press("Return")
+        self.assertEqual(self.ended(process), 1)
+        self.assertEqual(self.windows(), [])
+
+    def test_missing(self):
+        for logo in LOGOS:
+            with self.subTest(logo):
+                kept = (self.programs / logo).read_bytes()
+                (self.programs / logo).unlink()
+                self.expect_end_without(logo, self.start())
+                (self.programs / logo).write_bytes(kept)
+
+    def test_unreadable(self):
+        # A folder in its place can't be read by anyone, the superuser included.
+        (self.programs / LOGOS[0]).unlink()
+        (self.programs / LOGOS[0]).mkdir()
+        self.expect_end_without(LOGOS[0], self.start())
+
+    def test_link_to_nothing(self):
+        (self.programs / LOGOS[1]).unlink()
+        (self.programs / LOGOS[1]).symlink_to("nowhere.jpg")
+        self.expect_end_without(LOGOS[1], self.start())
+
+    def test_no_jpeg(self):
+        for content in (b"", b"This is no picture.\n", b"\xff\xd8\xff\xe0\x00\x10JFIF\x00"):
+            with self.subTest(content):
+                (self.programs / LOGOS[0]).write_bytes(content)
+                self.expect_end_without(LOGOS[0], self.start())
+
+    def test_vanishes_during_the_splash(self):
+        process = self.start()
+        # Both logos are on the splash by the time it is there; the main window loads one again.
+        desk.wait_until("the splash", self.windows)
+        desk.wait_until("the logos are read", lambda: self.has_been_read(process))
+        (self.programs / LOGOS[0]).unlink()
+        self.expect_end_without(LOGOS[0], process)
+
+    def has_been_read(self, process):
+        """True once the splash waits: it sleeps between two looks at the clock."""
+        state = pathlib.Path(f"/proc/{process.pid}/wchan").read_text(encoding="ascii")
+        return "nanosleep" in state
+
+
+class FontFault(ProgramCase):
+    """A system without the wished fonts gets the program in those that it has."""
+
+    def run_without_fonts(self, folder_of_fonts):
+        config = pathlib.Path(self.folder.name) / "fonts.conf"
+        config.write_text(f"""<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig><dir>{folder_of_fonts}</dir><cachedir>{self.folder.name}/cache</cachedir></fontconfig>
+""", encoding="ascii")
+        self.desk.environment["FONTCONFIG_FILE"] = str(config)
+        process = self.start()
+        window = self.wait_for_main_window()[0]
+        self.assertIsNone(process.poll())
+        width, height = self.geometry(window)[2:]
+        self.assertGreater(width, 300)
+        self.assertGreater(height, 300)
+        self.close(window)
+        self.assertEqual(self.ended(process), 0)
+
+    def test_only_other_fonts(self):
+        fonts = pathlib.Path(self.folder.name) / "fonts"
+        fonts.mkdir()
+        found = subprocess.run(["fc-match", "-f", "%{file}", "DejaVu Sans"], text=True,
+                               capture_output=True, check=True).stdout
+        shutil.copy(found, fonts)
+        self.run_without_fonts(fonts)
+
+    def test_no_font_at_all(self):
+        self.run_without_fonts("/nonexistent")
+
+
+class SmallScreen(ProgramCase):
+    """On a screen smaller than the window, the window fits the screen and scrolls."""
+
+    screen = "640x480x24"
+
+    def test_window_fits_and_can_be_left(self):
+        process = self.start()
+        window = self.wait_for_main_window()[0]
+        left, top, width, height = desk.wait_until(
+            "the window has its place", lambda: self.inside(window, 640, 480))
+        # At the top edge below its title bar; its border may lie outside the screen.
+        border = 4
+        self.assertLess(top, 40)
+        self.assertGreaterEqual(left, 0)
+        self.assertLessEqual(left + width, 640 + border)
+        self.assertLessEqual(top + height, 480 + border)
+        # The box of the exit can be reached and answered.
+        self.desk.xdotool("windowactivate", "--sync", window)
+        self.desk.press("alt+f")
+        self.desk.press("x")
+        desk.wait_until("the question", lambda: self.windows("Program Termination"))
+        self.desk.press("Return")
+        self.assertEqual(self.ended(process), 0)
+
+    def inside(self, window, width, height):
+        place = self.geometry(window)
+        return place if place[2] <= width and place[3] <= height else None
+
+
+class DisplayGone(ProgramCase):
+    """A display that goes away ends the program; it neither hangs nor crashes."""
+
+    def kill_display(self, process):
+        screen = next(p for p in self.desk.processes if p.args[0] == "Xvfb")
+        os.kill(screen.pid, signal.SIGKILL)
+        screen.wait(desk.PATIENCE)
+        status = self.ended(process)
+        self.assertGreaterEqual(status, 0, f"ended by signal {-status}")
+
+    def test_while_the_window_waits(self):
+        process = self.start()
+        self.wait_for_main_window()
+        self.kill_display(process)
+
+    def test_during_the_splash(self):
+        process = self.start()
+        desk.wait_until("the splash", self.windows)
+        self.kill_display(process)
+
+    def test_while_a_question_is_open(self):
+        process = self.start()
+        window = self.wait_for_main_window()[0]
+        self.desk.xdotool("windowactivate", "--sync", window)
+        self.desk.press("alt+f")
+        self.desk.press("x")
+        desk.wait_until("the question", lambda: self.windows("Program Termination"))
+        self.kill_display(process)
+
+    def test_no_display_to_begin_with(self):
+        self.desk.environment["DISPLAY"] = ":99999"
+        # The toolkit's own message and end; no window, no hang.
+        self.assertNotEqual(self.ended(self.start()), 0)
+
+
+class SecondStart(ProgramCase):
+    """A second start is a second window; the two know nothing of each other."""
+
+    def test_two_beside_each_other(self):
+        first = self.start()
+        [first_window] = self.wait_for_main_window()
+        second = self.start()
+        windows = self.wait_for_main_window(2)
+        second_window = next(window for window in windows if window != first_window)
+
+        self.close(first_window)
+        self.assertEqual(self.ended(first), 0)
+        self.assertEqual(self.main_windows(), [second_window])
+        self.assertIsNone(second.poll())
+        self.close(second_window)
+        self.assertEqual(self.ended(second), 0)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
+    TARVIX = sys.argv.pop(1)
+    try:
+        with tempfile.TemporaryDirectory(prefix="tarvix-faults-") as scratch:
+            desk.Desk(scratch).stop()
+    except desk.CannotRun as reason:
+        print(f"skipped: {reason}")
+        sys.exit(SKIPPED)
+    unittest.main(verbosity=2)

@@ -1,0 +1,124 @@
+#!/usr/bin/env python3
+"""The main window on screens of several sizes, under a real window manager: whole and without scroll
+bars where it fits, else scrolling, with nothing out of reach.
+
+    screen_journey.py PROGRAM
+
+Where the desktop can't be set up, the journey says so and ends with exit status 77: skipped.
+"""
+
+import os
+import re
+import subprocess
+import sys
+import tempfile
+
+import desk as desks
+from desk import wait_until
+
+SKIPPED = 77
+
+# A desktop of which the toolkit knows where it keeps its font.
+DESKTOP = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
+SETTINGS = "[General]\nfont=DejaVu Sans,10,-1,5,50,0,0,0,0,0\n"
+
+
+def check(what, is_so):
+    print(f"{'ok' if is_so else 'FAILED'}: {what}")
+    if not is_so:
+        raise AssertionError(what)
+
+
+def ask(desk, *command):
+    return subprocess.run(command, env=desk.environment, text=True, capture_output=True,
+                          check=True).stdout
+
+
+def window_frame(desk):
+    """Left, top, right and bottom of the window with what the window manager adds to it."""
+    window = desk.xdotool("getactivewindow")
+    info = ask(desk, "xwininfo", "-id", window)
+    left, top, width, height = (
+        int(re.search(rf"{what}: +(-?\d+)", info).group(1))
+        for what in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+    extents = ask(desk, "xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1]
+    west, east, north, south = (int(extent) for extent in extents.split(","))
+    return left - west, top - north, left + width + east, top + height + south
+
+
+def scroll_bars(program):
+    return [bar for bar in program.find_all("scroll bar") if bar.place.width > 0]
+
+
+def fits(desk, program, width, height):
+    left, top, right, bottom = window_frame(desk)
+    print(f"window {left}, {top} to {right}, {bottom} on {width} x {height}")
+    check("the whole window is on the screen",
+          left >= 0 and top >= 0 and right <= width and bottom <= height)
+    check("it is centered", abs(left + right - width) <= 2 and abs(top + bottom - height) <= 40)
+    check("there are no scroll bars", scroll_bars(program) == [])
+    message = max(program.find_all("alert"), key=lambda alert: alert.place.y).place
+    check("the message line, which is the last, is on the screen",
+          message.y + message.height <= bottom)
+
+
+def scrolls(desk, program, width, height):
+    left, top, right, bottom = window_frame(desk)
+    print(f"window {left}, {top} to {right}, {bottom} on {width} x {height}")
+    check("the window is on the screen",
+          left >= 0 and top >= 0 and right <= width and bottom <= height)
+    check("there is one scroll bar", len(scroll_bars(program)) == 1)
+    field = program.field("Beta Ratio")
+    check("the last field is out of sight", field.place.y > bottom)
+    for _ in range(30):
+        focused = program.focused()
+        if focused.name == "Exit":
+            break
+        desk.press("Tab")
+        wait_until(f"the focus leaves {focused.name}",
+                   lambda name=focused.name: (program.focused() or focused).name != name)
+        place = program.focused().place
+        check(f"{program.focused().name} is seen when it has the focus",
+              top <= place.y and place.y + place.height <= bottom and left <= place.x
+              and place.x + place.width <= right)
+    check("the Tab key has led through the whole window", program.focused().name == "Exit")
+
+
+def main():
+    if len(sys.argv) not in (2, 4):
+        print(__doc__, file=sys.stderr)
+        return 2
+    file = os.path.abspath(sys.argv[1])
+    if len(sys.argv) == 2:
+        # The accessibility bus is found once in a process, so each screen gets one.
+        for screen, look in (("1024x768", "fits"), ("1280x1024", "fits"), ("1024x600", "scrolls")):
+            result = subprocess.run([sys.executable, __file__, file, screen, look], check=False)
+            if result.returncode != 0:
+                return result.returncode
+        return 0
+    width, height = (int(part) for part in sys.argv[2].split("x"))
+    with tempfile.TemporaryDirectory(prefix="screen-") as folder:
+        try:
+            desk = desks.Desk(folder, f"{width}x{height}x24")
+        except desks.CannotRun as reason:
+            print(f"SKIPPED: the screen journey: {reason}")
+            return SKIPPED
+        os.environ.update(desk.environment)
+        try:
+            import program as programs  # pylint: disable=import-outside-toplevel
+            settings = desk.folder / "home" / ".config"
+            settings.mkdir()
+            (settings / "kdeglobals").write_text(SETTINGS)
+            program = programs.Program(desk, file, **DESKTOP)
+            program.wait_for_main_window()
+            {"fits": fits, "scrolls": scrolls}[sys.argv[3]](desk, program, width, height)
+        except AssertionError as fault:
+            print(f"FAILED: {fault}")
+            return 1
+        finally:
+            desk.stop()
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
