@@ -93,7 +93,7 @@ void frmTarvix::ConnectMenusAndButtons() {
 
 void frmTarvix::Form_Load() {
     FitToScreen();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
     const ScreenPoint place =
         StartPlace(screen.width(), screen.height(), width(), height() + FrameHeight());
     move(screen.topLeft() + QPoint(place.x, place.y));

@@ -9,6 +9,11 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 # What the checking tools read.
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# For sources that divide by what may be zero on purpose, and judge the infinity that comes of it.
+if(TARVIX_SANITIZE OR TARVIX_FUZZ)
+    set(TARVIX_DIVIDES_BY_ZERO -fno-sanitize=float-divide-by-zero)
+endif()
+
 # One interface target carries the language level and the warnings.
 add_library(tarvix_flags INTERFACE)
 target_compile_features(tarvix_flags INTERFACE cxx_std_20)

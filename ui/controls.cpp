@@ -108,10 +108,14 @@ FieldSelection NumericField::Selection() const {
             whole.mid(start + length).toStdString()};
 }
 
+bool FocusComesBack(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
 void NumericField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // Coming back from another window or from the field's own menu is no entry.
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) {
+    if (FocusComesBack(event->reason())) {
         return;
     }
     focusCameByThisPress_ = event->reason() == Qt::MouseFocusReason;

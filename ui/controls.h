@@ -29,6 +29,10 @@ enum class BackColor : int {
 void SetBackColor(QWidget& widget, BackColor color);
 BackColor BackColorOf(const QWidget& widget);
 
+// Whether the focus comes back to a field from another window, the menu bar or the field's own menu,
+// which is no entry: what the user was typing goes on.
+bool FocusComesBack(Qt::FocusReason reason);
+
 // A text box for a number. Asks `onKeyPress` about every character that a key, or an input method,
 // would put into it, and drops those for which it answers 0; pasted text is not asked about. Tells
 // `onGotFocus` when the focus comes from another control, and `onChange` at once when the text has

@@ -1,5 +1,7 @@
 #include "ui/frm_cust_info.h"
 
+#include "ui/controls.h"
+
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -28,8 +30,7 @@ QString Shown(const std::string& text) {
 
 void EntryLine::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // Coming back from another window or from the line's own menu is no entry.
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) {
+    if (FocusComesBack(event->reason())) {
         return;
     }
     focusCameByThisPress_ = event->reason() == Qt::MouseFocusReason;

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -286,6 +287,23 @@ TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&player_->window()));
     EXPECT_EQ(field.selectedText(), "");
     EXPECT_EQ(field.cursorPosition(), 2);
+}
+
+TEST_F(FieldMouseTest, ComingBackFromTheMenuBarKeepsTheCaret) {
+    NumericField& field = Enter();
+    QTest::keyClicks(&field, "123");
+    QMenuBar& menus = *player_->window().menuBar();
+    QTest::keyClick(&field, Qt::Key_F, Qt::AltModifier);
+    ASSERT_TRUE(menus.activeAction());
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        QTest::keyClick(menu, Qt::Key_Escape);
+    }
+    if (menus.hasFocus()) {
+        QTest::keyClick(&menus, Qt::Key_Escape);
+    }
+    ASSERT_TRUE(field.hasFocus());
+    QTest::keyClicks(&field, "4");
+    EXPECT_EQ(field.text(), "1234");
 }
 
 }  // namespace

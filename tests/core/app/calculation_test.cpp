@@ -59,6 +59,15 @@ class CalculationRow : public CalculationTest, public ::testing::WithParamInterf
     }
 };
 
+TEST(InputSheetTest, AUnitThatIsNotSelectedConvertsNothing) {
+    const InputSheet sheet;
+    for (const SelectedUnit& unit : {sheet.flowUnit, sheet.timeUnit, sheet.deltaPUnit,
+                                     sheet.pressUnit, sheet.densityUnit, sheet.zfDensityUnit}) {
+        EXPECT_EQ(unit.text, "");
+        EXPECT_EQ(unit.factor, 1.0F);
+    }
+}
+
 TEST_P(CalculationRow, GivesTheTextOfEachResult) {
     for (const auto& [mode, text] : {std::pair{SolveFor::FlowRate, GetParam().flow},
                                      std::pair{SolveFor::DiffPressure, GetParam().deltaP},

@@ -56,6 +56,11 @@ const SingleRow kSingleRows[] = {
     {"TrailingZeros",         1200.0F,         3, "1,200.000"},
     {"MoreDecimalsThanDigits", 0.0625F,        9, "0.062500000"},
     {"SevenDigitsOnly",       1234567.8F,      1, "1,234,568.0"},
+    // The seven digits are those of the nearest decimal; of two that are as near, of the even one.
+    {"TieAtTheEighthDigit",   5579224.5F,      0, "5,579,224"},
+    {"TieAtAnotherEven",       7237822.5F,      0, "7,237,822"},
+    {"TieThatGoesUp",         1234567.5F,      0, "1,234,568"},
+    {"TieWithDecimals",       1024.0625F,      3, "1,024.062"},
     {"EighthDigitIsZero",     0.12345678F,     9, "0.123456800"},
     // Zero has no sign, however it comes about.
     {"Zero",                  0.0F,            2, "0.00"},

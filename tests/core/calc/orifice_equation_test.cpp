@@ -16,6 +16,12 @@ using namespace testing;
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
+TEST(OutcomeTest, TakesNoStepsUnlessTold) {
+    EXPECT_EQ(Outcome::Nothing().steps, 0);
+    EXPECT_EQ(Outcome::Message("x").steps, 0);
+    EXPECT_EQ(Outcome::Value(1).steps, 0);
+}
+
 TEST(OrificeEquationTest, TheDischargeCoefficientIsASingle) {
     EXPECT_EQ(double{kDischargeCoefficient}, 0.6000000238418579);
 }

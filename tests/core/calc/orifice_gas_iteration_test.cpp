@@ -41,6 +41,13 @@ TEST(OrificeGasTest, TheIterationsStartAtFiftyInchesOfWaterAndHalfBeta) {
     }
 }
 
+// At this flow the first step's s is 2 to the last bit, so that beta becomes 1.
+TEST(OrificeGasTest, ABetaOfExactlyOneOnTheWayIsTooLarge) {
+    const Outcome beta = BetaOf(Air(), 360632.90625F, 100.0F);
+    ExpectMessage(beta, kOver95);
+    EXPECT_EQ(beta.steps, 1);
+}
+
 TEST(OrificeGasTest, WhatTheSolvedFieldHeldDoesNotMatter) {
     MeteringRun run{SolveFor::DiffPressure, 4.026F, 60000.0F, 0.0F, 0.5F};
     const auto h = OrificeCalcGas(run, Air()).value;

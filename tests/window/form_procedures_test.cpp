@@ -1,0 +1,112 @@
+// The form's procedures called directly: those that nothing in the program calls yet, and states
+// that no user can bring about.
+#include "app/frm_tarvix.h"
+#include "tests/window_script/script_desk.h"
+#include "ui/frm_splash.h"
+
+#include <QCoreApplication>
+#include <QMenuBar>
+
+#include <gtest/gtest.h>
+#include <optional>
+
+namespace tarvix {
+namespace {
+
+struct Ended {
+    int exitStatus = -1;
+};
+
+class FormProceduresTest : public ::testing::Test {
+  protected:
+    // The exit status with which a call ends the program; nothing when it doesn't.
+    template <typename Call>
+    static std::optional<int> ExitStatusOf(Call call) {
+        try {
+            call();
+        } catch (const Ended& end) {
+            return end.exitStatus;
+        }
+        return std::nullopt;
+    }
+
+    ScriptDesk desk_{[](int exitStatus) { throw Ended{exitStatus}; }};
+    Module1 module_{desk_, NumberLocale{}};
+    QWidget canvas_;
+    QMenuBar menus_;
+    FormState state_;
+    MainForm form_{canvas_, menus_};
+    FormContext context_{form_, state_, module_};
+    OrificeCalculations calculations_{context_};
+    Warnings warnings_{context_};
+    Densities densities_{context_, calculations_};
+    NumericFields fields_{context_, calculations_, densities_, warnings_};
+    FlowUnitBoxes flowUnitBoxes_{context_, calculations_};
+    FluidOptions options_{context_, calculations_, densities_, warnings_, fields_, flowUnitBoxes_};
+};
+
+TEST_F(FormProceduresTest, TemperatureIsClosedAndOpened) {
+    state_.SuspendCalc = true;
+    form_.txtTf->SetText("60");
+    options_.TfEnableOff();
+    EXPECT_EQ(form_.txtTf->text(), "");
+    EXPECT_FALSE(form_.txtTf->isEnabled());
+    EXPECT_FALSE(form_.lblTf->isEnabled());
+    EXPECT_EQ(BackColorOf(*form_.txtTf), BackColor::PaleGrey);
+    options_.TfEnableOn();
+    EXPECT_TRUE(form_.txtTf->isEnabled());
+    EXPECT_TRUE(form_.lblTf->isEnabled());
+    EXPECT_EQ(BackColorOf(*form_.txtTf), BackColor::WindowBackground);
+}
+
+TEST_F(FormProceduresTest, TemperatureOptionsAreClosedAndOpened) {
+    options_.ToptEnableOff();
+    EXPECT_FALSE(form_.optDegF->isEnabled());
+    EXPECT_FALSE(form_.optDegC->isEnabled());
+    options_.ToptEnableOn();
+    EXPECT_TRUE(form_.optDegF->isEnabled());
+    EXPECT_TRUE(form_.optDegC->isEnabled());
+}
+
+TEST_F(FormProceduresTest, GravityOptionsAreClosedAndOpened) {
+    options_.SGfOptEnableOff();
+    EXPECT_FALSE(form_.optSgUser->isEnabled());
+    EXPECT_FALSE(form_.optSgCalc->isEnabled());
+    options_.SGfOptEnableOn();
+    EXPECT_TRUE(form_.optSgUser->isEnabled());
+    EXPECT_TRUE(form_.optSgCalc->isEnabled());
+}
+
+TEST_F(FormProceduresTest, PressureOfAnUnknownFluidEndsTheProgram) {
+    state_.SuspendCalc = true;
+    module_.FluidType = "X";
+    EXPECT_EQ(ExitStatusOf([this] { fields_.txtPf_Change(); }), 1);
+    const auto boxes = desk_.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].title, "Fatal Error");
+    EXPECT_EQ(
+        boxes[0].text,
+        "Fatal Error Encountered: \n\r\n\rOrifice type not specified\n\r\n\rThis Program will "
+        "now terminate.");
+}
+
+TEST(FormActivation, LaterActivationsChangeNothing) {
+    ScriptDesk desk([](int exitStatus) { throw Ended{exitStatus}; });
+    Module1 module(desk, NumberLocale{});
+    module.AppPath = AppPathOf(QCoreApplication::applicationDirPath());
+    frmTarvix window(module, desk);
+    window.Form_Load();
+    window.show();
+    EXPECT_TRUE(window.form().optGas->Value());
+    window.form().optLiquid->Select();
+    window.form().txtSGf->SetText("1");
+    const int before = window.calculationRuns();
+    window.hide();
+    window.show();
+    EXPECT_TRUE(window.form().optLiquid->Value());
+    EXPECT_EQ(window.form().txtSGf->text(), "1");
+    EXPECT_EQ(window.calculationRuns(), before);
+}
+
+}  // namespace
+}  // namespace tarvix
