@@ -68,9 +68,15 @@ check_contents() {
     for path in /usr/bin/tarvix /usr/lib/tarvix/tarvix /usr/lib/tarvix/BrindleLogo.jpg \
         /usr/lib/tarvix/VeltraneLogo.jpg /usr/share/applications/tarvix.desktop \
         /usr/share/man/man1/tarvix.1.gz /usr/share/doc/tarvix/copyright \
-        /usr/share/doc/tarvix/changelog.gz /usr/share/icons/hicolor/scalable/apps/tarvix.svg \
+        /usr/share/doc/tarvix/changelog.gz /usr/share/doc/tarvix/method.md \
+        /usr/share/doc/tarvix/accuracy.md /usr/share/doc/tarvix/accuracy.svg \
+        /usr/share/icons/hicolor/scalable/apps/tarvix.svg \
         /usr/share/icons/hicolor/48x48/apps/tarvix.png; do
         grep -qxF "$path" "$work/contents" || fail "the package lacks $path."
+    done
+    # The manual page names no file that is not there.
+    for path in $(grep -oE '/usr/[A-Za-z0-9/._-]+' packaging/linux/tarvix.1); do
+        grep -qxF "$path" "$work/contents" || fail "the manual page names $path, which is not there."
     done
     dpkg-deb --field "$package" Depends | grep -q libqt6widgets6 ||
         fail "the package does not depend on the libraries that it uses."
