@@ -65,7 +65,7 @@ void Recalculation(benchmark::State& state, const char* fluid, SolveFor mode, co
     NoPlatform platform;
     Module1 module(platform, NumberLocale{});
     const InputSheet sheet = SheetOf(fluid, mode, flow);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (CheckInputs(sheet, module) != kDataGood) {
             state.SkipWithError(module.MsgText.c_str());
             break;
@@ -101,7 +101,7 @@ template <typename Fluid>
 void Solve(benchmark::State& state, Outcome (*solve)(const MeteringRun&, const Fluid&),
            MeteringRun run, const Fluid& fluid, bool resolves) {
     int steps = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(run);
         const Outcome outcome = solve(run, fluid);
         if (outcome.value.has_value() != resolves) {
@@ -202,7 +202,7 @@ BareResult BareGasBeta(float q, float h, float d) {
 template <bool withPow>
 void BareLoop(benchmark::State& state, MeteringRun run) {
     int steps = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(run);
         const BareResult result =
             BareGasBeta<withPow>(run.flow, run.diffPressInH2O, run.pipeDiameterIn);

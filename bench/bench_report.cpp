@@ -51,7 +51,7 @@ void ComposePage(benchmark::State& state) {
     module.CustLine1 = "Northfield Refinery";
     module.TagText = "FE-4102";
     const ReportSheet sheet = FullPage();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(ComposeReport(sheet, module));
     }
 }
@@ -68,7 +68,7 @@ void ComposeAndPaintPage(benchmark::State& state) {
     logo.fill(QColor(0x0B, 0x3D, 0x75));
     logo.setDotsPerMeterX(11811);
     logo.setDotsPerMeterY(11811);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
         QPdfWriter writer(&buffer);

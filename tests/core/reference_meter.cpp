@@ -45,11 +45,11 @@ double ReferenceMeter::DiffPressure(double flow, double beta) const {
 }
 
 double ReferenceMeter::Beta(double flow, double h) const {
-    const double largest = 1 - 1e-12;
-    if (Flow(largest, h) < flow) {
+    const double high = 1 - 1e-12;
+    if (Flow(high, h) < flow) {
         return 0;
     }
-    return Bisect([&](double beta) { return Flow(beta, h); }, flow, 0, largest);
+    return Bisect([&](double beta) { return Flow(beta, h); }, flow, 0, high);
 }
 
 // The unknown is multiplied by s, the square root of wanted flow over present flow; so the error is

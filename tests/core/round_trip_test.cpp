@@ -126,8 +126,8 @@ constexpr std::string_view kFlowTooHigh =
 
 class GasAndSteam : public ::testing::TestWithParam<SweptFluid> {
   protected:
-    void SolveDiffPressureBack(const ReferenceMeter& meter, const MeteringRun& forward, float flow,
-                               float pressure, Tally& tally) {
+    static void SolveDiffPressureBack(const ReferenceMeter& meter, const MeteringRun& forward,
+                                      float flow, float pressure, Tally& tally) {
         const SweptFluid& fluid = GetParam();
         const double beta{forward.beta};
         const double h{forward.diffPressInH2O};
@@ -172,8 +172,8 @@ class GasAndSteam : public ::testing::TestWithParam<SweptFluid> {
         }
     }
 
-    void SolveBetaBack(const ReferenceMeter& meter, const MeteringRun& forward, float flow,
-                       float pressure, Tally& tally) {
+    static void SolveBetaBack(const ReferenceMeter& meter, const MeteringRun& forward, float flow,
+                              float pressure, Tally& tally) {
         const SweptFluid& fluid = GetParam();
         const double beta{forward.beta};
         const double h{forward.diffPressInH2O};

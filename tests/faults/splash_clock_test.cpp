@@ -38,7 +38,7 @@ class SetClock : public Platform {
 class SplashClock : public ::testing::Test {
   protected:
     // How many looks at this clock the splash takes until it hands over.
-    std::size_t LooksAt(std::vector<int> seconds) {
+    static std::size_t LooksAt(std::vector<int> seconds) {
         SetClock clock;
         clock.seconds = std::move(seconds);
         Module1 module(clock, NumberLocale{});

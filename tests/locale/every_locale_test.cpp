@@ -5,6 +5,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QStringList>
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -146,9 +147,9 @@ TEST(EveryLocale, AMillionHasAllItsGroupsWhereTheFirstNeedsMoreDigits) {
     for (const QLocale& locale : EveryLocale()) {
         if (GroupsLate(locale)) {
             ++locales;
-            const std::string group = locale.groupSeparator().toStdString();
+            const QString grouped = QStringList{"1", "234", "567"}.join(locale.groupSeparator());
             EXPECT_EQ(FormatNumber(1234567.0F, 0, NumberLocaleOf(locale), Grouping::On),
-                      "1" + group + "234" + group + "567")
+                      grouped.toStdString())
                 << locale.name().toStdString();
         }
     }
@@ -199,7 +200,7 @@ TEST(EveryLocale, TheOtherSeparatorIsNeverTyped) {
     testing::RecordingPlatform platform;
     for (const QLocale& locale : EveryLocale()) {
         const Module1 module(platform, NumberLocaleOf(locale));
-        const int other = module.locale().decimalSeparator == '.' ? ',' : '.';
+        const char other = module.locale().decimalSeparator == '.' ? ',' : '.';
         EXPECT_EQ(module.NumericKeyFilter(other, {}), 0) << locale.name().toStdString();
     }
 }

@@ -43,7 +43,7 @@ class WindowInLocale : public ::testing::TestWithParam<Written> {
     std::string Message() { return player_.Window().form().lblMsg->text().toStdString(); }
 
     // A number written with "." and "," in this locale; groups of a lakh where it has them.
-    std::string In(const std::string& american, const std::string& lakh = "") const {
+    static std::string In(const std::string& american, const std::string& lakh = "") {
         std::string text;
         for (const char c : GetParam().lakh && !lakh.empty() ? lakh : american) {
             text += c == '.' ? GetParam().point : c == ',' ? GetParam().group : std::string(1, c);
@@ -52,7 +52,7 @@ class WindowInLocale : public ::testing::TestWithParam<Written> {
     }
 
     // 4 inch pipe (4.026 in), 100 inches of water, beta 0.5. Whole sizes are there in every locale.
-    std::vector<std::string> RunWithBetaOneHalf() const {
+    static std::vector<std::string> RunWithBetaOneHalf() {
         return {"click optCalcFR", "choose cboNomSize 4", "type txtDeltaP 100",
                 "type txtBeta " + In("0.5")};
     }

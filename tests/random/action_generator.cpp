@@ -158,7 +158,7 @@ QString ActionGenerator::Leave() {
         return kind < 5 ? QStringLiteral("click mnuAbout") : QStringLiteral("click mnuFile");
     }
     // Mostly cancelled, so that a window lives for a while.
-    const QString exit =
+    QString exit =
         random_.Chance(50) ? QStringLiteral("click cmdExit") : QStringLiteral("click mnuExit");
     if (random_.Chance(90)) {
         planned_.push_front(exit);

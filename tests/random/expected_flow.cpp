@@ -17,11 +17,11 @@ ShownRun::ShownRun(const Reading& is)
     : flow(double{is.flow.value_or(0)}),
       diffPress(double{is.deltaP.value_or(0)}),
       beta(double{is.beta.value_or(0)}),
+      flowFactor(double{is.flowFactor} / double{is.timeFactor} * (is.fluid == 'L' ? 1.0 : 60.0)),
       diffPressFactor(double{is.deltaPFactor}),
       pipe(double{is.pipeDiameterIn}),
       fluid_(is.fluid),
       mass_(is.mass) {
-    flowFactor = double{is.flowFactor} / double{is.timeFactor} * (is.fluid == 'L' ? 1.0 : 60.0);
     if (is.fluid == 'L') {
         gravity_ = is.mass ? 1.0 : double{is.sgb.value_or(0)};
         flowingSG_ = double{is.sgf.value_or(0)};
@@ -36,6 +36,7 @@ ShownRun::ShownRun(const Reading& is)
         return;
     }
     const float typed = is.tf.value_or(0);
+    // cppcheck-suppress redundantAssignment ; takes the condition for an assignment
     const float degF = is.degC ? static_cast<float>(9.0 / 5.0 * double{typed} + 32.0) : typed;
     temperature_ = double{static_cast<float>(double{degF} + 459.67)};
     gravity_ = double{is.gasSGb.value_or(0)};

@@ -12,12 +12,12 @@ namespace tarvix {
 struct ShownRun {
     explicit ShownRun(const Reading& is);
 
-    // The flow that this beta and differential pressure (inches of water) carry; NaN where the
-    // equation has none.
-    double Flow(double beta, double diffPress) const;
+    // The flow that the beta `b` and the differential pressure `h` (inches of water) carry; NaN
+    // where the equation has none.
+    double Flow(double b, double h) const;
 
     // The expansion factor; 1 for a liquid.
-    double Expansion(double beta, double diffPress) const;
+    double Expansion(double b, double h) const;
 
     // True while every product under a root stays where a single keeps its 7 digits.
     bool IsTame() const;

@@ -1,17 +1,15 @@
 #include "tests/random/invariants.h"
 
+#include <algorithm>
+
 namespace tarvix {
 
 bool Step::Is(std::string_view commandName, std::initializer_list<std::string_view> targets) const {
     if (refused || command != Named(commandName)) {
         return false;
     }
-    for (const std::string_view name : targets) {
-        if (target == Named(name)) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(targets,
+                               [this](std::string_view name) { return target == Named(name); });
 }
 
 std::vector<Invariant> AllInvariants() {

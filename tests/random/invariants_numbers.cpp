@@ -124,7 +124,7 @@ QString BetaFollowsPipe(const Step& step) {
     // The bore as rewritten with 3 decimals gives beta, and a new beta writes the bore again.
     const QString rewritten = Text(step, *step.was.bore, 3);
     const QString beta = BetaText(step, step.world.numbers.ReadSingle(rewritten));
-    const QString fault = Expected("txtBeta", step.now["txtBeta"].text, beta);
+    QString fault = Expected("txtBeta", step.now["txtBeta"].text, beta);
     if (!fault.isEmpty() || step.now["txtOriBoreDia"].text == rewritten) {
         return fault;
     }

@@ -9,7 +9,7 @@
 #include <cstdlib>
 
 #ifdef __GLIBC__
-#include <locale.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is not in <clocale>
 #endif
 
 namespace tarvix {

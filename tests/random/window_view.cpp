@@ -43,14 +43,14 @@ ControlView ViewOf(const MainForm& form, const NamedControl& control) {
     view.height = control.place.height;
     switch (control.kind) {
         case ControlKind::TextBox: {
-            const auto* box = static_cast<const QLineEdit*>(widget);
+            const auto* box = qobject_cast<const QLineEdit*>(widget);
             view.text = box->text();
             view.locked = box->isReadOnly();
             view.tabStop = (box->focusPolicy() & Qt::TabFocus) != 0;
             break;
         }
         case ControlKind::ComboBox: {
-            const auto* list = static_cast<const QComboBox*>(widget);
+            const auto* list = qobject_cast<const QComboBox*>(widget);
             view.text = list->currentText();
             view.index = list->currentIndex();
             for (int i = 0; i < list->count(); ++i) {
@@ -59,8 +59,8 @@ ControlView ViewOf(const MainForm& form, const NamedControl& control) {
             break;
         }
         case ControlKind::Option:
-            view.checked = static_cast<const QRadioButton*>(widget)->isChecked();
-            view.caption = static_cast<const QRadioButton*>(widget)->text();
+            view.checked = qobject_cast<const QRadioButton*>(widget)->isChecked();
+            view.caption = qobject_cast<const QRadioButton*>(widget)->text();
             break;
         case ControlKind::Frame:
             if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
@@ -68,13 +68,13 @@ ControlView ViewOf(const MainForm& form, const NamedControl& control) {
             }
             break;
         case ControlKind::Label:
-            view.caption = static_cast<const QLabel*>(widget)->text();
+            view.caption = qobject_cast<const QLabel*>(widget)->text();
             break;
         case ControlKind::Button:
-            view.caption = static_cast<const QPushButton*>(widget)->text();
+            view.caption = qobject_cast<const QPushButton*>(widget)->text();
             break;
         case ControlKind::Tab:
-            view.caption = static_cast<const QTabWidget*>(widget)->tabText(0);
+            view.caption = qobject_cast<const QTabWidget*>(widget)->tabText(0);
             break;
         case ControlKind::Picture:
         case ControlKind::MenuItem:
@@ -110,19 +110,20 @@ WindowView::WindowView(frmTarvix& window, ScriptDesk& desk) {
     title = window.windowTitle();
 }
 
-Reading::Reading(const WindowView& view, const World& world) {
-    fluid = view["optLiquid"].checked ? 'L' : view["optSteam"].checked ? 'S' : 'G';
-    mode = view["optCalcFR"].checked   ? SolveFor::FlowRate
+Reading::Reading(const WindowView& view, const World& world)
+    : fluid(view["optLiquid"].checked  ? 'L'
+            : view["optSteam"].checked ? 'S'
+                                       : 'G'),
+      mode(view["optCalcFR"].checked   ? SolveFor::FlowRate
            : view["optCalcDP"].checked ? SolveFor::DiffPressure
-                                       : SolveFor::Beta;
-    sgCalculated = view["optSgCalc"].checked;
-    steamTable = view["optSteamTbl"].checked;
-    absolute = view["optPabsolute"].checked;
-    degC = view["optDegC"].checked;
-    correction = view["optCompDensity"].checked ? CompCorrection::Density
+                                       : SolveFor::Beta),
+      sgCalculated(view["optSgCalc"].checked),
+      steamTable(view["optSteamTbl"].checked),
+      absolute(view["optPabsolute"].checked),
+      degC(view["optDegC"].checked),
+      correction(view["optCompDensity"].checked ? CompCorrection::Density
                  : view["optCompZf"].checked    ? CompCorrection::Zf
-                                                : CompCorrection::None;
-
+                                                : CompCorrection::None) {
     const Numbers& numbers = world.numbers;
     flow = numbers.ReadSingle(view["txtFlow"].text);
     deltaP = numbers.ReadSingle(view["txtDeltaP"].text);

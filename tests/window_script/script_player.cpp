@@ -19,9 +19,9 @@ namespace {
 
 struct NamedKey {
     QLatin1String name;
-    int key;
+    int key = 0;
     Qt::KeyboardModifiers modifiers;
-    const char* text;
+    const char* text = "";
 };
 
 const NamedKey kNamedKeys[] = {
@@ -181,7 +181,7 @@ void ScriptPlayer::GiveFocus(QWidget& widget) {
 
 QString ScriptPlayer::Click(const QString& name) {
     const NamedControl* control = Form().Find(name);
-    const QString why = Unusable(control);
+    QString why = Unusable(control);
     if (!why.isEmpty()) {
         return why;
     }
@@ -250,7 +250,7 @@ QString ScriptPlayer::Paste(const QString& name, const QString& text) {
 
 QString ScriptPlayer::Choose(const QString& name, const QString& entry) {
     const NamedControl* control = Form().Find(name);
-    const QString why = Unusable(control);
+    QString why = Unusable(control);
     if (!why.isEmpty()) {
         return why;
     }

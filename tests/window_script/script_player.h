@@ -47,7 +47,7 @@ class ScriptPlayer {
     static Words Split(const QString& line);
     QString Unusable(const NamedControl* control) const;
     NumericField* EditableField(const QString& name, QString& why);
-    void GiveFocus(QWidget& widget);
+    static void GiveFocus(QWidget& widget);
     void PressKey(int key, Qt::KeyboardModifiers modifiers, const QString& text);
     MainForm& Form() { return Window().form(); }
 

@@ -15,7 +15,7 @@ using namespace testing;
 
 class DensitiesTest : public SheetTest {
   protected:
-    InputSheet SteamAt(const char* pressure, bool absolute = false) const {
+    static InputSheet SteamAt(const char* pressure, bool absolute = false) {
         InputSheet sheet = SteamSheet();
         sheet.pf = pressure;
         sheet.absolutePressure = absolute;

@@ -18,7 +18,7 @@ class CalculationTest : public SheetTest {
     // Checks and solves a sheet that must be good.
     CalculationResult Solve(const InputSheet& sheet) {
         EXPECT_EQ(CheckInputs(sheet, module), kDataGood) << module.MsgText;
-        const CalculationResult result = CalculateResult(sheet, module);
+        CalculationResult result = CalculateResult(sheet, module);
         EXPECT_EQ(module.MsgText, result.message);
         return result;
     }

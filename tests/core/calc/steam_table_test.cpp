@@ -126,7 +126,7 @@ TEST(SteamTableTest, OnATieTheLowerRowIsTheNearest) {
     for (size_t i = 0; i + 1 < kSteamTable.size(); ++i) {
         const SteamTableRow& low = kSteamTable[i];
         const SteamTableRow& high = kSteamTable[i + 1];
-        const float step = static_cast<float>(high.pressurePsig - low.pressurePsig);
+        const auto step = static_cast<float>(high.pressurePsig - low.pressurePsig);
         const float p = static_cast<float>(low.pressurePsig) + step / 2;
         const float fromLow =
             (p - static_cast<float>(low.pressurePsig)) * (high.density - low.density) / step +
