@@ -1,5 +1,6 @@
 #include "app/frm_tarvix.h"
 
+#include "app/system_locale.h"
 #include "app/window_place.h"
 #include "ui/input_reader.h"
 #include "ui/logo_picture.h"
@@ -13,23 +14,6 @@
 #include <QStyle>
 
 namespace tarvix {
-
-namespace {
-
-// dd mmm yyyy, the month as the system names it.
-std::string ReportDate(const QDate& date) {
-    QLocale locale = QLocale::system();
-    if (locale.language() == QLocale::C) {
-        locale = QLocale(QLocale::English, QLocale::UnitedStates);
-    }
-    return QStringLiteral("%1 %2 %3")
-        .arg(date.day(), 2, 10, QLatin1Char('0'))
-        .arg(locale.monthName(date.month(), QLocale::ShortFormat))
-        .arg(date.year(), 4, 10, QLatin1Char('0'))
-        .toStdString();
-}
-
-}  // namespace
 
 frmTarvix::frmTarvix(Module1& module, WindowHost& host)
     : module_(module),
@@ -180,7 +164,7 @@ void frmTarvix::PrintOrificeReport() {
     }
     setCursor(Qt::BusyCursor);
     ReportSheet sheet = ReadReportSheet(context_);
-    sheet.date = ReportDate(QDate::currentDate());
+    sheet.date = DateText(QDate::currentDate(), QLocale::system());
     host_.PrintPage(*this, ComposeReport(sheet, module_), logo_);
     unsetCursor();
 }

@@ -1,7 +1,9 @@
 #include "app/system_locale.h"
 
+#include <QDate>
 #include <QList>
 #include <QLocale>
+#include <QString>
 
 #include <algorithm>
 
@@ -51,6 +53,16 @@ NumberLocale NumberLocaleOf(const QLocale& locale) {
 
 NumberLocale SystemNumberLocale() {
     return NumberLocaleOf(QLocale::system());
+}
+
+std::string DateText(const QDate& date, const QLocale& locale) {
+    const QLocale named =
+        locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates) : locale;
+    return QStringLiteral("%1 %2 %3")
+        .arg(date.day(), 2, 10, QLatin1Char('0'))
+        .arg(named.monthName(date.month(), QLocale::ShortFormat))
+        .arg(date.year(), 4, 10, QLatin1Char('0'))
+        .toStdString();
 }
 
 }  // namespace tarvix

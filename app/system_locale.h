@@ -2,6 +2,9 @@
 
 #include "app/number_text.h"
 
+#include <string>
+
+class QDate;
 class QLocale;
 
 namespace tarvix {
@@ -11,5 +14,9 @@ NumberLocale NumberLocaleOf(const QLocale& locale);
 
 // How the user's system writes numbers.
 NumberLocale SystemNumberLocale();
+
+// A date as dd mmm yyyy, such as 05 Jan 2026, the month's short name as `locale` writes it; in English
+// for a locale that names none.
+std::string DateText(const QDate& date, const QLocale& locale);
 
 }  // namespace tarvix

@@ -93,10 +93,17 @@ void PaintLine(QPainter& painter, const ReportLine& line, double textWidth) {
     while (text.endsWith(' ')) {
         text.chop(1);
     }
+    // A line that is too long is drawn narrower, as long as it can be read, then cut.
+    constexpr double kNarrowest = 0.6;
     const QFontMetricsF metrics(font);
-    text = metrics.elidedText(text, Qt::ElideRight, textWidth - line.xTwips);
-    const double baseline = line.yTwips + font.pixelSize() * kFontAscent;
-    painter.drawText(QPointF(line.xTwips, baseline), text);
+    const double room = textWidth - line.xTwips;
+    const double narrowed = std::clamp(room / metrics.horizontalAdvance(text), kNarrowest, 1.0);
+    text = metrics.elidedText(text, Qt::ElideRight, room / narrowed);
+    painter.save();
+    painter.translate(line.xTwips, line.yTwips + font.pixelSize() * kFontAscent);
+    painter.scale(narrowed, 1);
+    painter.drawText(QPointF(0, 0), text);
+    painter.restore();
 }
 
 QRectF LogoPlace(const QImage& logo) {

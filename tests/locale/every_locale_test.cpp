@@ -3,6 +3,7 @@
 #include "app/system_locale.h"
 #include "tests/core/recording_platform.h"
 
+#include <QDate>
 #include <QLocale>
 #include <QString>
 #include <QStringList>
@@ -194,6 +195,18 @@ TEST(EveryLocale, TheSystemReadsWhatTheProgramWrites) {
         }
     }
     EXPECT_GT(compared, 400);
+}
+
+TEST(EveryLocale, DatesHaveTwoDigitsTheMonthsShortNameAndFourDigits) {
+    const QDate day(2026, 1, 5);
+    EXPECT_EQ(DateText(day, QLocale(QLocale::English, QLocale::UnitedStates)), "05 Jan 2026");
+    EXPECT_EQ(DateText(day, QLocale::c()), "05 Jan 2026");
+    EXPECT_EQ(DateText(QDate(987, 3, 31), QLocale(QLocale::German)), "31 M\u00E4rz 0987");
+    for (const QLocale& locale : EveryLocale()) {
+        const std::string text = DateText(day, locale);
+        EXPECT_TRUE(text.starts_with("05 ") && text.ends_with(" 2026"))
+            << locale.name().toStdString();
+    }
 }
 
 TEST(EveryLocale, TheOtherSeparatorIsNeverTyped) {

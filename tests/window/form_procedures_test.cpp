@@ -90,6 +90,45 @@ TEST_F(FormProceduresTest, PressureOfAnUnknownFluidEndsTheProgram) {
         "now terminate.");
 }
 
+// Looks at the main window's mouse pointer while its other windows are open.
+class PointerDesk : public ScriptDesk {
+  public:
+    PointerDesk() : ScriptDesk([](int exitStatus) { throw Ended{exitStatus}; }) {}
+
+    void ShowCustomerWindow(QWidget& owner, Module1& module) override {
+        inCustomerWindow = owner.cursor().shape();
+        module.MsgResult = prints ? 1 : 2;
+    }
+    void PrintPage(QWidget& owner, const ReportPage& /*page*/, const QImage& /*logo*/) override {
+        inPrinting = owner.cursor().shape();
+    }
+
+    bool prints = true;
+    std::optional<Qt::CursorShape> inCustomerWindow;
+    std::optional<Qt::CursorShape> inPrinting;
+};
+
+TEST(Printing, ThePointerIsBusyWhileThePageIsPrinted) {
+    PointerDesk desk;
+    Module1 module(desk, NumberLocale{});
+    module.AppPath = AppPathOf(QCoreApplication::applicationDirPath());
+    frmTarvix window(module, desk);
+    window.Form_Load();
+    window.show();
+    window.form().cmdPrint->setEnabled(true);
+
+    window.form().cmdPrint->click();
+    EXPECT_EQ(desk.inCustomerWindow, Qt::ArrowCursor);
+    EXPECT_EQ(desk.inPrinting, Qt::BusyCursor);
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+
+    desk.inPrinting.reset();
+    desk.prints = false;
+    window.form().cmdPrint->click();
+    EXPECT_EQ(desk.inPrinting, std::nullopt) << "cancelled";
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}
+
 TEST(FormActivation, LaterActivationsChangeNothing) {
     ScriptDesk desk([](int exitStatus) { throw Ended{exitStatus}; });
     Module1 module(desk, NumberLocale{});
