@@ -101,9 +101,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         Require(density.density >= 0.03737F && density.density <= 11.86183F,
                 "a density of the table lies in the table");
     }
-    const auto bore = tarvix::BoreFromBeta(Value(data), Value(data), Value(data));
+    const float inchesPerUnit = data.PickValueInArray({1.0F, 0.03937008F, 0.3937008F});
+    const auto bore = tarvix::BoreFromBeta(Value(data), Value(data), inchesPerUnit);
     Require(!bore || std::isfinite(*bore), "a bore is finite");
-    const auto beta = tarvix::BetaFromBore(Value(data), Value(data), Value(data));
+    const auto beta = tarvix::BetaFromBore(Value(data), Value(data), inchesPerUnit);
     Require(!beta || std::isfinite(*beta), "a beta of a bore is finite");
     return 0;
 }
