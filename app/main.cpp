@@ -3,6 +3,7 @@
 #include "ui/frm_splash.h"
 #include "ui/qt_platform.h"
 #include "ui/window_host_qt.h"
+#include "ui/window_icon.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -13,6 +14,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Tarvix"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tarvix"));
+    QGuiApplication::setWindowIcon(tarvix::WindowIcon());
 
     tarvix::QtPlatform platform;
     tarvix::Module1 module(platform, tarvix::SystemNumberLocale());

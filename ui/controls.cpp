@@ -1,12 +1,14 @@
 #include "ui/controls.h"
 
+#include "ui/readable_palette.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionFocusRect>
 #include <QStylePainter>
 #include <QWheelEvent>
 
@@ -214,26 +216,76 @@ void OptionButton::Select() {
 }
 
 QSize OptionButton::sizeHint() const {
-    return QRadioButton::sizeHint() + QSize(isBar_ ? 2 * BarPadding() : 0, 0);
+    const QSize size = QRadioButton::sizeHint();
+    return {size.width() + DiscGrowth() + (isBar_ ? 2 * BarPadding() : 0),
+            std::max(size.height(), DiscArea().height())};
 }
 
 int OptionButton::BarPadding() const {
     return style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, this);
 }
 
-void OptionButton::paintEvent(QPaintEvent* event) {
-    if (!isBar_) {
-        QRadioButton::paintEvent(event);
-        return;
-    }
+int OptionButton::DiscGrowth() const {
+    const int disc = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this);
+    return std::max(0, fontMetrics().ascent() - disc);
+}
+
+QStyleOptionButton OptionButton::StyleOption() const {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.rect.adjust(BarPadding(), 0, -BarPadding(), 0);
-    QStylePainter(this).drawControl(QStyle::CE_RadioButton, option);
+    if (isBar_) {
+        option.rect.adjust(BarPadding(), 0, -BarPadding(), 0);
+    }
+    return option;
+}
+
+QStyleOptionButton OptionButton::BesideDisc(const QStyleOptionButton& option) const {
+    QStyleOptionButton rest = option;
+    rest.rect = QStyle::visualRect(option.direction, option.rect,
+                                   option.rect.adjusted(DiscGrowth(), 0, 0, 0));
+    return rest;
+}
+
+QRect OptionButton::DiscArea() const {
+    const QStyleOptionButton option = StyleOption();
+    const QRect disc = style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, this);
+    const QSize size = disc.size() + QSize(DiscGrowth(), DiscGrowth());
+    return QStyle::alignedRect(option.direction, Qt::AlignLeft | Qt::AlignVCenter, size,
+                               option.rect);
+}
+
+QRect OptionButton::TextArea() const {
+    const QStyleOptionButton rest = BesideDisc(StyleOption());
+    return style()->subElementRect(QStyle::SE_RadioButtonContents, &rest, this);
+}
+
+// The parts that the style makes an option of, in its order.
+void OptionButton::paintEvent(QPaintEvent* /*event*/) {
+    QStylePainter painter(this);
+    const QStyleOptionButton option = StyleOption();
+    QStyleOptionButton part = option;
+    part.rect = DiscArea();
+    part.palette = DiscPalette(option.palette, QGuiApplication::palette());
+    painter.drawPrimitive(QStyle::PE_IndicatorRadioButton, part);
+    part = option;
+    part.rect = TextArea();
+    painter.drawControl(QStyle::CE_RadioButtonLabel, part);
+    if (hasFocus()) {
+        const QStyleOptionButton rest = BesideDisc(option);
+        QStyleOptionFocusRect focus;
+        focus.QStyleOption::operator=(option);
+        focus.rect = style()->subElementRect(QStyle::SE_RadioButtonFocusRect, &rest, this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    }
 }
 
 bool OptionButton::hitButton(const QPoint& position) const {
-    return isBar_ ? rect().contains(position) : QRadioButton::hitButton(position);
+    if (isBar_) {
+        return rect().contains(position);
+    }
+    const QStyleOptionButton rest = BesideDisc(StyleOption());
+    const QRect text = style()->subElementRect(QStyle::SE_RadioButtonClickRect, &rest, this);
+    return text.contains(position) || DiscArea().contains(position);
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {

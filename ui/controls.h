@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QStyleOptionButton>
 
 #include <functional>
 #include <optional>
@@ -29,8 +30,8 @@ enum class BackColor : int {
 void SetBackColor(QWidget& widget, BackColor color);
 BackColor BackColorOf(const QWidget& widget);
 
-// Whether the focus comes back to a field from another window, the menu bar or the field's own menu,
-// which is no entry: what the user was typing goes on.
+// Whether the focus comes back to a field from another window, the menu bar or the field's own
+// menu, which is no entry: what the user was typing goes on.
 bool FocusComesBack(Qt::FocusReason reason);
 
 // A text box for a number. Asks `onKeyPress` about every character that a key, or an input method,
@@ -92,6 +93,10 @@ class OptionButton : public QRadioButton {
     // anywhere.
     void ShowAsBar() { isBar_ = true; }
 
+    // Where the disc and the text are painted.
+    QRect DiscArea() const;
+    QRect TextArea() const;
+
     QSize sizeHint() const override;
 
   protected:
@@ -102,6 +107,12 @@ class OptionButton : public QRadioButton {
   private:
     void TakeTabStop();
     int BarPadding() const;
+    // How much larger the disc is than the style's, which does not grow with the font.
+    int DiscGrowth() const;
+    // What the style paints from, without the room at the ends of a bar.
+    QStyleOptionButton StyleOption() const;
+    // The part of the style's option in which the style places text beside the larger disc.
+    QStyleOptionButton BesideDisc(const QStyleOptionButton& option) const;
     // All options of the frame around it.
     std::vector<OptionButton*> Options() const;
     // The usable option of the same frame that follows this one, or stands before it; the last is

@@ -17,11 +17,11 @@ namespace {
 constexpr int kFormWidth = 9600;
 constexpr int kFormHeight = 7605;
 
-// What the places leave to texts and to the style: the label of the compressibility field breaks
-// into two lines at both of its widths, a row holds a text box, a frame's rows begin below its
-// caption, and the frames on the tab control below its tab.
+// What the places leave to texts and to the style: the label of the compressibility field shows its
+// short caption on one line and breaks the long one into two, a row holds a text box, a frame's
+// rows begin below its caption, and the frames on the tab control below its tab.
 constexpr std::pair<const char*, int> kCompCorrLines[] = {
-    {"Operating", 735},
+    {"Operating Density", 1500},
     {"Flowing Conditions (Zf)", 1700},
 };
 constexpr int kRowHeight = 270;
@@ -84,6 +84,16 @@ void MainForm::PlaceControls() {
             Place(control);
         }
     }
+    PlaceByText();
+}
+
+void MainForm::PlaceByText() {
+    const QFontMetrics metrics(canvas_.font());
+    const QRect first = lbl1PlateThicknessWarning->geometry();
+    const int end = metrics.horizontalAdvance(lbl1PlateThicknessWarning->text() + QLatin1Char(' '));
+    lbl1PlateThicknessWarning->resize(end, first.height());
+    lbl2PlateThicknessWarning->move(first.left() + end, first.top());
+    lblCompCorr->setContentsMargins(0, 0, 0, (optCompDensity->height() - metrics.height()) / 2);
 }
 
 // The scale at which the tightest of all texts fits its control.
@@ -123,6 +133,10 @@ void MainForm::Place(const NamedControl& control) const {
     // Both edges are rounded, not the size, so that controls that touch in twips touch in pixels.
     // What lies in a box is rounded with the box, so that its rows are those beside it.
     TwipsRect place = control.place;
+    // A label is not cut off narrower than the field below it.
+    if (control.widget == lblCompCorr) {
+        place.width = std::max(place.width, Of(*txtZf).place.width);
+    }
     QPoint origin;
     const QWidget* around = control.widget->parentWidget();
     if (around != &canvas_ && around != tabOrifice &&

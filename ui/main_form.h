@@ -197,6 +197,9 @@ class MainForm {
     double PixelsPerTwipY() const;
     NamedControl& Entry(const QWidget& widget);
     void Place(const NamedControl& control) const;
+    // Lets the labels of the plate warning read as one line of text, and the last line of that of
+    // the compressibility field stand in a row with the option beside it.
+    void PlaceByText();
 
     QWidget& canvas_;
     std::vector<NamedControl> controls_;

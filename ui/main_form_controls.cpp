@@ -29,6 +29,9 @@ constexpr int kColumnD = 5130;
 constexpr int kColumnE = 6720;
 constexpr int kField = 1500;
 
+// From the left edge of a warning's box to its text.
+constexpr int kWarningInset = 180;
+
 // The frames on the tab.
 constexpr int kTabLeft = 165;
 constexpr int kTabWidth = 9015;
@@ -163,21 +166,22 @@ void MainForm::BuildCompressibility(QWidget* tab) {
     optCompDensity =
         AddOption(fraCompCorrection, "optCompDensity", "Density", {kColumnA, kOption2, 1260, kRow});
     optCompZf = AddOption(fraCompCorrection, "optCompZf", "Zf", {kColumnA, kOption3, 1260, kRow});
-    // On as many lines as its width asks for, the last one close above the field.
+    // On one line or two, the last one in the row above the field.
     lblCompCorr = AddLabel(fraCompCorrection, "lblCompCorr", "Operating Density",
-                           {kColumnB, 225, 735, kOption3 - 255});
+                           {kColumnB, kOption1, 735, kOption2 + kRow - kOption1});
     lblCompCorr->setWordWrap(true);
     lblCompCorr->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     txtZf = AddField(fraCompCorrection, "txtZf", {kColumnB, kOption3, kField, kRow});
     cboZfDensityUnit = AddList(fraCompCorrection, "cboZfDensityUnit", {3300, kOption3, 1740, kRow},
                                kWidestDensityUnit);
     fraZfCompWarning = AddBox(fraCompCorrection, "fraZfCompWarning", QAccessible::AlertMessage,
-                              {kColumnB, kOption1, 5160, 840});
-    lbl1ZfCompWarning =
-        AddLabel(fraZfCompWarning, "lbl1ZfCompWarning",
-                 "At this pressure, no compressibility correction", {180, 135, 4800, kRow});
-    lbl2ZfCompWarning = AddLabel(fraZfCompWarning, "lbl2ZfCompWarning",
-                                 "may result in erroneous computations.", {180, 435, 4800, kRow});
+                              {kColumnB, kOption1, 7185, 840});
+    lbl1ZfCompWarning = AddLabel(fraZfCompWarning, "lbl1ZfCompWarning",
+                                 "At this pressure, no compressibility correction",
+                                 {kWarningInset, 135, 4800, kRow});
+    lbl2ZfCompWarning =
+        AddLabel(fraZfCompWarning, "lbl2ZfCompWarning", "may result in erroneous computations.",
+                 {kWarningInset, 435, 4800, kRow});
 }
 
 void MainForm::BuildPipeAndFlow() {
@@ -207,12 +211,11 @@ void MainForm::BuildPipeAndFlow() {
         AddList(fraDeltaP, "cboDeltaPunit", {kColumnB, kRow1, 2400, kRow}, kWidestDiffPressureUnit);
     fraPlateThicknessWarning = AddBox(fraDeltaP, "fraPlateThicknessWarning",
                                       QAccessible::AlertMessage, {kColumnA, kRow2, 4770, kRow});
-    lbl1PlateThicknessWarning = AddLabel(fraPlateThicknessWarning, "lbl1PlateThicknessWarning",
-                                         "Orifice plate deflection", {60, 0, 1830, kRow});
-    // The two labels read as one sentence.
-    lbl1PlateThicknessWarning->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lbl1PlateThicknessWarning =
+        AddLabel(fraPlateThicknessWarning, "lbl1PlateThicknessWarning", "Orifice plate deflection",
+                 {kWarningInset, 0, 1830, kRow});
     lbl2PlateThicknessWarning = AddLabel(fraPlateThicknessWarning, "lbl2PlateThicknessWarning",
-                                         "should be checked.", {1950, 0, 2640, kRow});
+                                         "should be checked.", {2070, 0, 2520, kRow});
 }
 
 void MainForm::BuildBore() {

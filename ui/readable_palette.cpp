@@ -12,6 +12,13 @@ namespace {
 constexpr double kContrastWanted = 5.0;
 constexpr int kSteps = 20;
 
+// More than 3, the least contrast of what has to be seen, but not read (1.4.11): the edges of a
+// thin ring are blended with what is beside it.
+constexpr double kRingContrastWanted = 3.8;
+
+// How much darker than the window styles paint the ring around the disc of an option; percent.
+constexpr int kRingShade = 150;
+
 // Styles paint tabs and the upper ends of buttons lighter than the color of buttons; percent.
 constexpr int kLightestShade = 140;
 
@@ -21,6 +28,10 @@ double Luminance(const QColor& color) {
     };
     return 0.2126 * linear(double{color.redF()}) + 0.7152 * linear(double{color.greenF()}) +
            0.0722 * linear(double{color.blueF()});
+}
+
+QColor LightestShade(const QPalette& palette) {
+    return palette.color(QPalette::Button).lighter(kLightestShade);
 }
 
 // `step` of kSteps on the way from one color to the other.
@@ -43,7 +54,7 @@ QPalette ReadablePalette(const QPalette& desktop) {
         {QPalette::Text, QPalette::Base},
         {QPalette::ButtonText, QPalette::Button},
     };
-    const QColor lightest = desktop.color(QPalette::Button).lighter(kLightestShade);
+    const QColor lightest = LightestShade(desktop);
     QPalette palette;
     for (const auto& [text, background] : kTextsAndBackgrounds) {
         const QColor disabled = desktop.color(QPalette::Disabled, text);
@@ -58,6 +69,29 @@ QPalette ReadablePalette(const QPalette& desktop) {
         palette.setColor(QPalette::Disabled, text, readable);
     }
     return palette;
+}
+
+QPalette DiscPalette(const QPalette& option, const QPalette& desktop) {
+    const bool isDark =
+        Luminance(desktop.color(QPalette::WindowText)) > Luminance(desktop.color(QPalette::Window));
+    if (!isDark) {
+        return option;
+    }
+    const QColor window = option.color(QPalette::Window);
+    const QColor text = option.color(QPalette::Active, QPalette::WindowText);
+    const QColor lightest = LightestShade(option);
+    const auto contrast = [&](const QColor& color) {
+        const QColor ring = color.darker(kRingShade);
+        return std::min(ContrastOf(ring, window), ContrastOf(ring, lightest));
+    };
+    int step = 0;
+    QColor color = window;
+    while (step < kSteps && contrast(color) < kRingContrastWanted) {
+        color = Between(window, text, ++step);
+    }
+    QPalette disc = option;
+    disc.setColor(QPalette::Window, color);
+    return disc;
 }
 
 }  // namespace tarvix

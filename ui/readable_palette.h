@@ -9,6 +9,11 @@ namespace tarvix {
 // far as needed.
 QPalette ReadablePalette(const QPalette& desktop);
 
+// The colors in which a style paints the disc of an option that has these on a desktop with those.
+// On a dark desktop the ring around the disc, which styles paint darker than what is around it,
+// would not be seen: it is made 3 to 1 there, and nothing else changes.
+QPalette DiscPalette(const QPalette& option, const QPalette& desktop);
+
 // The contrast of two colors by their relative luminance, 1 to 21.
 double ContrastOf(const QColor& one, const QColor& other);
 

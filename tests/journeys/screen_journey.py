@@ -57,6 +57,8 @@ def fits(desk, program, width, height):
           left >= 0 and top >= 0 and right <= width and bottom <= height)
     check("it is centered", abs(left + right - width) <= 2 and abs(top + bottom - height) <= 40)
     check("there are no scroll bars", scroll_bars(program) == [])
+    icon = ask(desk, "xprop", "-id", desk.xdotool("getactivewindow"), "_NET_WM_ICON")
+    check("the window has an icon for title bars", "Icon (48 x 48)" in icon)
     message = max(program.find_all("alert"), key=lambda alert: alert.place.y).place
     check("the message line, which is the last, is on the screen",
           message.y + message.height <= bottom)

@@ -33,18 +33,6 @@ int TextWidth(const QWidget& widget, QString text) {
 }
 
 // Where the style lets each kind of control show its text.
-QRect TextArea(const QRadioButton& option) {
-    QStyleOptionButton style;
-    style.initFrom(&option);
-    style.text = option.text();
-    // The bars of modes and fluids keep room at both ends.
-    if (option.autoFillBackground()) {
-        const int padding = option.style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing);
-        style.rect.adjust(padding, 0, -padding, 0);
-    }
-    return option.style()->subElementRect(QStyle::SE_RadioButtonContents, &style, &option);
-}
-
 QRect TextArea(const QPushButton& button) {
     QStyleOptionButton style;
     style.initFrom(&button);
@@ -109,8 +97,8 @@ void CheckOwnText(const NamedControl& control, QStringList& faults) {
             CheckLabel(control.name, *qobject_cast<QLabel*>(widget), faults);
             break;
         case ControlKind::Option: {
-            const auto& option = *qobject_cast<QRadioButton*>(widget);
-            CheckText(control.name, option, option.text(), TextArea(option), faults);
+            const auto& option = *dynamic_cast<OptionButton*>(widget);
+            CheckText(control.name, option, option.text(), option.TextArea(), faults);
             break;
         }
         case ControlKind::Button: {
@@ -231,7 +219,7 @@ QRect ReadArea(const NamedControl& control) {
             return qobject_cast<QLabel*>(control.widget)->text().isEmpty() ? QRect()
                                                                            : control.widget->rect();
         case ControlKind::Option:
-            return TextArea(*qobject_cast<QRadioButton*>(control.widget));
+            return dynamic_cast<OptionButton*>(control.widget)->TextArea();
         case ControlKind::Button:
             return TextArea(*qobject_cast<QPushButton*>(control.widget));
         case ControlKind::ComboBox:

@@ -1,6 +1,7 @@
 // The layout in every state of the window, at every font size from 8 to 14 points.
 #include "tests/window/desktop_colors.h"
 #include "tests/window/layout_faults.h"
+#include "tests/window/layout_fixtures.h"
 #include "tests/window/window_states.h"
 #include "ui/readable_palette.h"
 
@@ -8,10 +9,8 @@
 #include <QMenu>
 
 #include <gtest/gtest.h>
-#include <memory>
 #include <set>
 #include <string>
-#include <tuple>
 
 namespace tarvix::testing {
 namespace {
@@ -22,51 +21,7 @@ constexpr int kScreenHeight = 768;
 // What a window manager adds above a window.
 constexpr int kTitleBar = 24;
 
-// Sets the desktop's font and colors for a test and takes them back.
-class LayoutTest : public ::testing::Test {
-  protected:
-    LayoutTest() : font_(QApplication::font()), palette_(QApplication::palette()) {}
-    ~LayoutTest() override {
-        player_.reset();
-        QApplication::setFont(font_);
-        QApplication::setPalette(palette_);
-    }
-
-    StatePlayer& Player() {
-        if (!player_) {
-            player_ = std::make_unique<StatePlayer>();
-        }
-        return *player_;
-    }
-
-    void Play(const WindowState& state) {
-        const QString refused = Player().Play(state);
-        ASSERT_TRUE(refused.isEmpty()) << refused.toStdString();
-    }
-
-  private:
-    QFont font_;
-    QPalette palette_;
-    std::unique_ptr<StatePlayer> player_;
-};
-
-using Font = std::tuple<const char*, int>;
-
-class LayoutAtFontTest : public LayoutTest, public ::testing::WithParamInterface<Font> {
-  protected:
-    LayoutAtFontTest() {
-        QApplication::setFont(QFont(std::get<0>(GetParam()), std::get<1>(GetParam())));
-    }
-};
-
-INSTANTIATE_TEST_SUITE_P(Fonts, LayoutAtFontTest,
-                         ::testing::Combine(::testing::Values("DejaVu Sans", "Liberation Sans"),
-                                            ::testing::Range(8, 15)),
-                         [](const ::testing::TestParamInfo<Font>& font) {
-                             std::string name = std::get<0>(font.param);
-                             name.erase(name.find(' '), 1);
-                             return name + std::to_string(std::get<1>(font.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(Fonts, LayoutAtFontTest, Fonts(), FontName);
 
 TEST_P(LayoutAtFontTest, TheFontIsThere) {
     EXPECT_EQ(QFontInfo(QApplication::font()).family(), std::get<0>(GetParam()));
@@ -214,7 +169,7 @@ TEST_F(LayoutTest, TheMeasuringFindsFaults) {
     const auto faultsWith = [&](QWidget* widget, const QRect& geometry) {
         const QRect before = widget->geometry();
         widget->setGeometry(geometry);
-        const QStringList faults = LayoutFaults(Player().form());
+        QStringList faults = LayoutFaults(Player().form());
         widget->setGeometry(before);
         return faults;
     };

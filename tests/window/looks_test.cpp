@@ -1,0 +1,194 @@
+// What the eye notices beyond texts that fit: warnings that read as one text, margins that are the
+// same on both sides, option discs as large as their texts and seen on every color, the icon.
+#include "tests/window/desktop_colors.h"
+#include "tests/window/layout_fixtures.h"
+#include "ui/readable_palette.h"
+#include "ui/window_icon.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace tarvix::testing {
+namespace {
+
+const WindowState kBothWarnings = {
+    "both warnings",
+    {"click optGas", "click optCompCorrNone", "click optPgauge", "choose cboPressUnit PSI",
+     "type txtPf 300", "choose cboPipeIDUnit Inches", "choose cboNomSize 10", "choose cboPipeID #0",
+     "click optCalcBeta", "choose cboDeltaPunit Inches of Mercury", "type txtDeltaP 15"}};
+
+class LooksAtFontTest : public LayoutAtFontTest {};
+
+INSTANTIATE_TEST_SUITE_P(Fonts, LooksAtFontTest, Fonts(), FontName);
+
+TEST_P(LooksAtFontTest, ThePlateWarningReadsAsOneLine) {
+    Play(kBothWarnings);
+    const MainForm& form = Player().form();
+    ASSERT_TRUE(form.IsVisible(*form.fraPlateThicknessWarning));
+    const QLabel& first = *form.lbl1PlateThicknessWarning;
+    const QLabel& second = *form.lbl2PlateThicknessWarning;
+    for (const QLabel* label : {&first, &second}) {
+        EXPECT_TRUE(label->alignment().testFlag(Qt::AlignLeft));
+        EXPECT_EQ(label->contentsRect(), label->rect());
+    }
+    const QFontMetrics metrics(first.font());
+    const int gap = second.x() - first.x() - metrics.horizontalAdvance(first.text());
+    EXPECT_NEAR(gap, metrics.horizontalAdvance(' '), 1);
+    EXPECT_EQ(second.y(), first.y());
+    EXPECT_EQ(second.height(), first.height());
+    // Both warnings keep the same distance to the left edge.
+    ASSERT_TRUE(form.IsVisible(*form.fraZfCompWarning));
+    EXPECT_NEAR(first.x(), form.lbl1ZfCompWarning->x(), 1);
+    EXPECT_EQ(form.lbl2ZfCompWarning->x(), form.lbl1ZfCompWarning->x());
+}
+
+TEST_P(LooksAtFontTest, WarningsReachToTheMarginsOfTheirFrames) {
+    Play(kBothWarnings);
+    const MainForm& form = Player().form();
+    const auto rightMargin = [](const QWidget& widget) {
+        return widget.parentWidget()->width() - widget.geometry().right() - 1;
+    };
+    EXPECT_NEAR(rightMargin(*form.fraZfCompWarning), form.optCompCorrNone->x(), 1);
+    EXPECT_NEAR(rightMargin(*form.fraPlateThicknessWarning), form.fraPlateThicknessWarning->x(), 1);
+    EXPECT_EQ(form.fraPlateThicknessWarning->x(), form.txtDeltaP->x());
+}
+
+TEST_P(LooksAtFontTest, OnlyTheLongCaptionOfTheCompressibilityFieldBreaks) {
+    const MainForm& form = Player().form();
+    const QLabel& label = *form.lblCompCorr;
+    const int line = QFontMetrics(label.font()).lineSpacing();
+    const auto lines = [&] {
+        const QRect text =
+            QFontMetrics(label.font())
+                .boundingRect(label.contentsRect(),
+                              Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignBottom, label.text());
+        // The last line stands in the row of the option beside it.
+        const double middle = label.y() + text.bottom() + 1 - line / 2.0;
+        EXPECT_NEAR(middle, form.optCompDensity->y() + form.optCompDensity->height() / 2.0, 1.5);
+        return (text.height() + line / 2) / line;
+    };
+    Play({"", {"click optGas", "click optCompDensity"}});
+    EXPECT_EQ(lines(), 1);
+    EXPECT_EQ(form.Of(label).place.width, 735);
+    Play({"", {"click optCompZf"}});
+    EXPECT_EQ(lines(), 2);
+    EXPECT_EQ(form.Of(label).place.width, 1700);
+}
+
+// Left, top, width and height of what is painted on the background in an area of a picture.
+QRect PaintedIn(const QImage& picture, const QRect& area) {
+    const QRgb background = picture.pixel(area.topLeft());
+    QRect painted;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (picture.pixel(x, y) != background) {
+                painted |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return painted;
+}
+
+std::vector<OptionButton*> VisibleOptions(const MainForm& form) {
+    std::vector<OptionButton*> options;
+    for (const NamedControl& control : form.Controls()) {
+        if (control.kind == ControlKind::Option && form.IsVisible(*control.widget)) {
+            options.push_back(dynamic_cast<OptionButton*>(control.widget));
+        }
+    }
+    return options;
+}
+
+TEST_P(LooksAtFontTest, DiscsAreAsLargeAsTheirTexts) {
+    for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
+        Play({"", {QString("click ") + fluid}});
+        const auto options = VisibleOptions(Player().form());
+        ASSERT_GE(options.size(), 10U);
+        for (OptionButton* option : options) {
+            SCOPED_TRACE(option->objectName().toStdString());
+            const QRect disc = option->DiscArea();
+            EXPECT_GE(disc.height(), QFontMetrics(option->font()).ascent());
+            EXPECT_EQ(disc.width(), disc.height());
+            EXPECT_TRUE(option->rect().contains(disc));
+            EXPECT_LT(disc.right(), option->TextArea().left());
+            EXPECT_TRUE(option->rect().contains(option->TextArea()));
+        }
+    }
+    // And are painted that large.
+    Play({"", {"click optGas"}});
+    QPixmap pixmap(Player().form().optDegC->size());
+    pixmap.fill(Qt::white);
+    OptionButton* option = Player().form().optDegC;
+    option->render(&pixmap, QPoint(), QRegion(), QWidget::DrawChildren);
+    const QRect disc = option->DiscArea();
+    const QRect painted =
+        PaintedIn(pixmap.toImage(), QRect(0, 0, option->TextArea().left() - 1, option->height()));
+    EXPECT_NEAR(painted.width(), disc.width(), 2);
+    EXPECT_NEAR(painted.height(), disc.height(), 2);
+}
+
+TEST_P(LooksAtFontTest, OptionsAreClickedOnAllOfTheirText) {
+    Play({"", {"click optGas", "click optDegF"}});
+    OptionButton* option = Player().form().optDegC;
+    const QRect text = option->TextArea();
+    const int end =
+        text.left() + QFontMetrics(option->font()).horizontalAdvance(option->text()) - 1;
+    ASSERT_FALSE(option->Value());
+    QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(end, text.center().y()));
+    EXPECT_TRUE(option->Value());
+}
+
+class LooksTest : public LayoutTest {};
+
+// Of the outer quarter of an option's disc, at the height of its middle: there the ring crosses it.
+double RingContrast(const QImage& picture, const QRect& disc) {
+    const int y = disc.center().y() + 1;
+    const QColor background = picture.pixelColor(disc.left() - 1, y);
+    double strongest = 1;
+    for (int x = disc.left(); x < disc.left() + disc.width() / 4; ++x) {
+        strongest = std::max(strongest, ContrastOf(picture.pixelColor(x, y), background));
+    }
+    return strongest;
+}
+
+TEST_F(LooksTest, RingsOfOptionsAreSeenOnDarkDesktops) {
+    for (const QPalette& desktop : {DarkPalette(), PaleDarkPalette()}) {
+        QApplication::setPalette(desktop);
+        for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
+            Play({"", {QString("click ") + fluid, "focus txtFlow"}});
+            MainForm& form = Player().form();
+            const QImage picture = form.canvas().grab().toImage();
+            for (const OptionButton* option : VisibleOptions(form)) {
+                const QRect disc = option->DiscArea();
+                const QRect onCanvas(option->mapTo(&form.canvas(), disc.topLeft()), disc.size());
+                EXPECT_GE(RingContrast(picture, onCanvas), 3.0)
+                    << option->objectName().toStdString() << " on "
+                    << desktop.color(QPalette::Window).name().toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(LooksTest, LightDesktopsKeepTheRingsOfTheirStyle) {
+    for (const QPalette& desktop : {QApplication::palette(), LightPalette()}) {
+        EXPECT_EQ(DiscPalette(desktop, desktop), desktop);
+    }
+    EXPECT_NE(DiscPalette(DarkPalette(), DarkPalette()), DarkPalette());
+}
+
+TEST_F(LooksTest, TheIconHasTheSizesThatWindowManagersShow) {
+    const QIcon icon = WindowIcon();
+    for (const int size : {48, 128}) {
+        EXPECT_TRUE(icon.availableSizes().contains(QSize(size, size))) << size;
+        const QImage picture = icon.pixmap(QSize(size, size), 1.0).toImage();
+        ASSERT_EQ(picture.size(), QSize(size, size));
+        EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0);
+        EXPECT_EQ(picture.pixelColor(size / 2, size / 2).alpha(), 255);
+    }
+}
+
+}  // namespace
+}  // namespace tarvix::testing
