@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
+#include <iterator>
 #include <locale>
 #include <sstream>
 
@@ -11,6 +13,14 @@ namespace tarvix {
 namespace {
 
 constexpr float kWholeSingle = 1.0e7F;
+
+// What a double holds exactly: every whole number of 15 digits, and these powers of ten.
+constexpr int kExactDigits = 15;
+constexpr int kExactPower = 22;
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                   1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                   1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+static_assert(std::size(kPowersOfTen) == kExactPower + 1);
 
 }  // namespace
 
@@ -105,6 +115,18 @@ char DecimalForm::DigitAt(int place) const {
 }
 
 double DecimalForm::Value() const {
+    // As many digits and powers of ten as a double holds exactly: one division, or multiplication,
+    // of two exact numbers gives the nearest double (Clinger, 1990).
+    const int exponent = point_ - count_;
+    if (count_ <= kExactDigits && std::abs(exponent) <= kExactPower) {
+        double whole = 0;
+        for (const char digit : digits()) {
+            whole = 10 * whole + (digit - '0');
+        }
+        const double power = kPowersOfTen[static_cast<size_t>(std::abs(exponent))];
+        const double value = exponent < 0 ? whole / power : whole * power;
+        return negative_ ? -value : value;
+    }
     std::string plain = negative_ ? "-0." : "0.";
     plain.append(digits().begin(), digits().end());
     return PlainToDouble(plain + "e" + std::to_string(point_));

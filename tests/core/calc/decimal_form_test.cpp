@@ -78,6 +78,25 @@ TEST(DecimalFormTest, ItsValueIsTheNearestDouble) {
     EXPECT_EQ(DecimalForm(-19.04999924F).Value(), -19.05);
     EXPECT_EQ(DecimalForm(0.1).Value(), 0.1);
     EXPECT_EQ(DecimalForm(3.0e38F).Value(), double{3.0e38F});
+    // On both sides of where the powers of ten stop being exact in a double.
+    EXPECT_EQ(DecimalForm(7e22).Value(), 7e22);
+    EXPECT_EQ(DecimalForm(7e23).Value(), 7e23);
+    EXPECT_EQ(DecimalForm(7e-22).Value(), 7e-22);
+    EXPECT_EQ(DecimalForm(7e-23).Value(), 7e-23);
+    EXPECT_EQ(DecimalForm(1.23456789012345e36).Value(), 1.23456789012345e36);
+    EXPECT_EQ(DecimalForm(1.23456789012345e37).Value(), 1.23456789012345e37);
+    EXPECT_EQ(DecimalForm(-1.23456789012345e-8).Value(), -1.23456789012345e-8);
+    EXPECT_EQ(DecimalForm(-1.23456789012345e-9).Value(), -1.23456789012345e-9);
+}
+
+// The same as reading the digits as a number text, whatever the size of the number.
+TEST(DecimalFormTest, ItsValueIsWhatItsDigitsRead) {
+    for (float single = 1.0e-40F; single < 3.0e38F; single *= 1.0137F) {
+        for (const DecimalForm& form : {DecimalForm(single), DecimalForm(double{single} / 3)}) {
+            const std::string plain = "0." + DigitsOf(form) + "e" + std::to_string(form.point());
+            ASSERT_EQ(form.Value(), PlainToDouble(plain)) << plain;
+        }
+    }
 }
 
 TEST(DecimalFormTest, RoundingDropsEveryDigitFarBelowTheLastPlace) {
