@@ -4,7 +4,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QStyleOptionComboBox>
@@ -83,7 +82,7 @@ BackColor BackColorOf(const QWidget& widget) {
     return color.isValid() ? static_cast<BackColor>(color.toInt()) : BackColor::Default;
 }
 
-NumericField::NumericField(QWidget* parent) : QLineEdit(parent) {
+NumericField::NumericField(QWidget* parent) : EntryLine(parent) {
     setAlignment(Qt::AlignRight);
     // What a keyboard on the screen offers.
     setInputMethodHints(Qt::ImhFormattedNumbersOnly);
@@ -110,59 +109,9 @@ FieldSelection NumericField::Selection() const {
             whole.mid(start + length).toStdString()};
 }
 
-bool FocusComesBack(Qt::FocusReason reason) {
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-           reason == Qt::MenuBarFocusReason;
-}
-
-void NumericField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (FocusComesBack(event->reason())) {
-        return;
-    }
-    focusCameByThisPress_ = event->reason() == Qt::MouseFocusReason;
-    if (onGotFocus) {
-        onGotFocus();
-    }
-}
-
-void NumericField::mousePressEvent(QMouseEvent* event) {
-    // The press that brings the focus leaves the whole text selected; the next one sets the caret.
-    if (std::exchange(focusCameByThisPress_, false)) {
-        if (event->button() == Qt::LeftButton) {
-            enteringPress_ = event->pos();
-        }
-        return;
-    }
-    QLineEdit::mousePressEvent(event);
-}
-
-void NumericField::mouseMoveEvent(QMouseEvent* event) {
-    if (enteringPress_) {
-        // A hand that trembles does not select.
-        if ((event->pos() - *enteringPress_).manhattanLength() <
-            QApplication::startDragDistance()) {
-            return;
-        }
-        // Now the press counts, but not as one on the selected text, which would drag that.
-        deselect();
-        QMouseEvent press(QEvent::MouseButtonPress, *enteringPress_, mapToGlobal(*enteringPress_),
-                          Qt::LeftButton, event->buttons(), event->modifiers());
-        enteringPress_.reset();
-        QLineEdit::mousePressEvent(&press);
-    }
-    QLineEdit::mouseMoveEvent(event);
-}
-
-void NumericField::mouseReleaseEvent(QMouseEvent* event) {
-    enteringPress_.reset();
-    QLineEdit::mouseReleaseEvent(event);
-}
-
 void NumericField::keyPressEvent(QKeyEvent* event) {
-    focusCameByThisPress_ = false;
     if (!IsTyping(*event)) {
-        QLineEdit::keyPressEvent(event);
+        EntryLine::keyPressEvent(event);
         return;
     }
     QString typed = event->text();
@@ -175,7 +124,7 @@ void NumericField::keyPressEvent(QKeyEvent* event) {
         if (IsKept(character)) {
             QKeyEvent kept(event->type(), event->key(), event->modifiers(), QString(character),
                            event->isAutoRepeat());
-            QLineEdit::keyPressEvent(&kept);
+            EntryLine::keyPressEvent(&kept);
             event->setAccepted(kept.isAccepted());
         }
     }

@@ -3,14 +3,13 @@
 #pragma once
 
 #include "app/module1.h"
+#include "ui/entry_line.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QStyleOptionButton>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,20 +29,14 @@ enum class BackColor : int {
 void SetBackColor(QWidget& widget, BackColor color);
 BackColor BackColorOf(const QWidget& widget);
 
-// Whether the focus comes back to a field from another window, the menu bar or the field's own
-// menu, which is no entry: what the user was typing goes on.
-bool FocusComesBack(Qt::FocusReason reason);
-
 // A text box for a number. Asks `onKeyPress` about every character that a key, or an input method,
 // would put into it, and drops those for which it answers 0; pasted text is not asked about. Tells
-// `onGotFocus` when the focus comes from another control, and `onChange` at once when the text has
-// become a different one.
-class NumericField : public QLineEdit {
+// `onChange` at once when the text has become a different one.
+class NumericField : public EntryLine {
   public:
     explicit NumericField(QWidget* parent);
 
     std::function<int(int keyCode)> onKeyPress;
-    std::function<void()> onGotFocus;
     std::function<void()> onChange;
 
     std::string Text() const { return text().toStdString(); }
@@ -62,10 +55,6 @@ class NumericField : public QLineEdit {
     FieldSelection Selection() const;
 
   protected:
-    void focusInEvent(QFocusEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
@@ -74,9 +63,6 @@ class NumericField : public QLineEdit {
 
     QString reportedText_;
     char decimalSeparator_ = '.';
-    bool focusCameByThisPress_ = false;
-    // Where that press went down, until it turns into a drag or ends.
-    std::optional<QPoint> enteringPress_;
 };
 
 // An option button. Selecting it from code runs its click handler, as a click does, also when it is

@@ -1,15 +1,8 @@
 #include "ui/frm_cust_info.h"
 
-#include "ui/controls.h"
-
-#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace tarvix {
 
@@ -19,7 +12,7 @@ namespace {
 constexpr int kPrint = 1;
 constexpr int kDoNotPrint = 2;
 
-// A customer line of the report holds about as many characters before it reaches the margin.
+// The width of the lines.
 constexpr int kEntryCharacters = 44;
 
 QString Shown(const std::string& text) {
@@ -27,29 +20,6 @@ QString Shown(const std::string& text) {
 }
 
 }  // namespace
-
-void EntryLine::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (FocusComesBack(event->reason())) {
-        return;
-    }
-    focusCameByThisPress_ = event->reason() == Qt::MouseFocusReason;
-    if (onGotFocus) {
-        onGotFocus();
-    }
-}
-
-void EntryLine::mousePressEvent(QMouseEvent* event) {
-    if (std::exchange(focusCameByThisPress_, false)) {
-        return;
-    }
-    QLineEdit::mousePressEvent(event);
-}
-
-void EntryLine::keyPressEvent(QKeyEvent* event) {
-    focusCameByThisPress_ = false;
-    QLineEdit::keyPressEvent(event);
-}
 
 frmCustInfo::frmCustInfo(Module1& module, QWidget* parent)
     : QDialog(parent),

@@ -2,33 +2,14 @@
 #pragma once
 
 #include "app/module1.h"
+#include "ui/entry_line.h"
 
 #include <QDialog>
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
-#include <functional>
-
 namespace tarvix {
-
-// A line to type into that says when the focus comes to it from another control. The mouse press
-// that brings the focus leaves the selection alone; the next one sets the caret.
-class EntryLine : public QLineEdit {
-  public:
-    using QLineEdit::QLineEdit;
-
-    std::function<void()> onGotFocus;
-
-  protected:
-    void focusInEvent(QFocusEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-  private:
-    bool focusCameByThisPress_ = false;
-};
 
 class frmCustInfo : public QDialog {
   public:

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QPoint>
+
+#include <functional>
+#include <optional>
+
+namespace tarvix {
+
+// A line to type into that tells `onGotFocus` when the focus comes to it from another control. The
+// focus that comes back from another window, the menu bar or the line's own menu is no entry: what
+// the user was typing goes on. The mouse press that brings the focus leaves the selection alone,
+// unless it turns into a drag; the next one sets the caret.
+class EntryLine : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+    std::function<void()> onGotFocus;
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    bool focusCameByThisPress_ = false;
+    // Where that press went down, until it turns into a drag or ends.
+    std::optional<QPoint> enteringPress_;
+};
+
+}  // namespace tarvix
