@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tarvix {
 
@@ -93,8 +94,8 @@ QString ResultSolvesEquation(const Step& step) {
             slackBeta = half;
             break;
     }
-    double lowest = INFINITY;
-    double highest = -INFINITY;
+    double lowest = std::numeric_limits<double>::infinity();
+    double highest = -std::numeric_limits<double>::infinity();
     for (const double side : {-1.0, 0.0, 1.0}) {
         const double carried =
             run.Flow(std::max(run.beta + side * slackBeta, 0.0), std::max(h + side * slackH, 0.0));
