@@ -35,6 +35,13 @@ constexpr int kWarmUpSlices = 2;
 // fields' memory of what was typed, for Ctrl+Z: about 5 bytes a recalculation.
 constexpr long kMostGrowthKb = 2048;
 
+// The address sanitizer keeps what is given back for a while, and looks for leaks itself.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kJudgesMemory = false;
+#else
+constexpr bool kJudgesMemory = true;
+#endif
+
 struct Usage {
     long residentKb = 0;
     int files = 0;
@@ -184,7 +191,8 @@ int Run(int recalculations, int switches, int reports) {
     const long growth = last.residentKb - first.residentKb;
     std::printf("grown by %ld kB (at most %ld), %d files more\n", growth, kMostGrowthKb,
                 last.files - first.files);
-    return growth > kMostGrowthKb || last.files > first.files ? 1 : 0;
+    const bool grown = kJudgesMemory && growth > kMostGrowthKb;
+    return grown || last.files > first.files ? 1 : 0;
 }
 
 }  // namespace
