@@ -59,7 +59,7 @@ inline double BetaToTheFourth(float beta) {
 
 // E = Cd / sqrt(1 - beta^4), the discharge coefficient times the velocity of approach factor.
 // Infinite for a beta of 1, NaN above.
-inline float VelocityOfApproach(float beta) {
+inline float CoefficientTimesApproach(float beta) {
     return static_cast<float>(double{kDischargeCoefficient} /
                               std::sqrt(1.0 - BetaToTheFourth(beta)));
 }

@@ -63,7 +63,7 @@ Outcome GasFlow(const MeteringRun& run, const GasProperties& gas, const FlowingS
     }
     const double betaSquared = double{beta} * double{beta};
     const double dSquared = double{d} * double{d};
-    const float e = VelocityOfApproach(beta);
+    const float e = CoefficientTimesApproach(beta);
     const float y = ExpansionFactor(beta, h, gas.pressurePsia);
     if (gas.flowKind == FlowKind::Mass) {
         const auto qm = static_cast<float>(kMassConstant * double{e} * double{y} * betaSquared *
@@ -88,7 +88,7 @@ Outcome GasDiffPressure(const MeteringRun& run, const GasProperties& gas,
         return Outcome::Message(kBetaNotBelowOne);
     }
     const double betaSquared = double{beta} * double{beta};
-    const float e = VelocityOfApproach(beta);
+    const float e = CoefficientTimesApproach(beta);
     if (gas.flowKind == FlowKind::Mass) {
         const auto t = static_cast<float>(double{run.flow} * kBaseAirDensityNumerator /
                                           kBaseAirDensityDenominator /
@@ -127,7 +127,7 @@ Outcome GasBeta(const MeteringRun& run, const GasProperties& gas, const FlowingS
     const float t = BetaTarget(run, gas, state);
     float beta = kFirstBeta;
     for (int n = 1; n <= kMaxSteps; ++n) {
-        const float e = VelocityOfApproach(beta);
+        const float e = CoefficientTimesApproach(beta);
         const float y = ExpansionFactor(beta, h, gas.pressurePsia);
         const float r = t / (y * e * beta * beta);
         if (!std::isfinite(y) || !std::isfinite(r)) {

@@ -21,7 +21,7 @@ Outcome LiquidFlow(const MeteringRun& run, const LiquidProperties& liquid) {
     if (beta >= 1) {
         return Outcome::Message(kBetaNotBelowOne);
     }
-    const float e = VelocityOfApproach(beta);
+    const float e = CoefficientTimesApproach(beta);
     const auto q = static_cast<float>(
         double{e} * kLiquidConstant * double{beta} * double{beta} * double{d} * double{d} *
         std::sqrt(double{h * liquid.flowingSG}) / double{liquid.baseSG});
@@ -38,7 +38,7 @@ Outcome LiquidDiffPressure(const MeteringRun& run, const LiquidProperties& liqui
     if (beta >= 1) {
         return Outcome::Message(kBetaNotBelowOne);
     }
-    const float e = VelocityOfApproach(beta);
+    const float e = CoefficientTimesApproach(beta);
     const double root = double{liquid.baseSG * q} / (double{e} * kLiquidConstant * double{beta} *
                                                      double{beta} * double{d} * double{d});
     const auto h = static_cast<float>(root * root / double{liquid.flowingSG});

@@ -35,7 +35,7 @@ Outcome SteamFlow(const MeteringRun& run, const SteamProperties& steam) {
     if (beta >= 1) {
         return Outcome::Message(kBetaNotBelowOne);
     }
-    const float e = VelocityOfApproach(beta);
+    const float e = CoefficientTimesApproach(beta);
     const float y = ExpansionFactor(beta, h, steam.pressurePsia);
     const auto qm =
         static_cast<float>(kMassConstant * double{e} * double{y} * (double{beta} * double{beta}) *
@@ -51,7 +51,7 @@ Outcome SteamDiffPressure(const MeteringRun& run, const SteamProperties& steam) 
     if (beta >= 1) {
         return Outcome::Message(kBetaNotBelowOne);
     }
-    const float e = VelocityOfApproach(beta);
+    const float e = CoefficientTimesApproach(beta);
     const auto t = static_cast<float>(double{run.flow} /
                                       (kMassConstant * double{e} * (double{beta} * double{beta}) *
                                        std::sqrt(double{steam.density})));
@@ -73,7 +73,7 @@ Outcome SteamBeta(const MeteringRun& run, const SteamProperties& steam) {
         if (!(beta > 0 && beta <= 1)) {
             return Outcome::Nothing(n);
         }
-        const float e = VelocityOfApproach(beta);
+        const float e = CoefficientTimesApproach(beta);
         const float y = ExpansionFactor(beta, h, steam.pressurePsia);
         const auto r =
             static_cast<float>(double{t} / (double{y * e} * (double{beta} * double{beta})));

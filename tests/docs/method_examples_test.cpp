@@ -140,7 +140,7 @@ TEST_F(MethodExamples, Liquid) {
 
     ExpectFigure(t, "Ff", 1, FlowUnitsOf("L").units[0].factor / kTimeUnits[0].factor);
     ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
-    ExpectFigure(t, "E", VelocityTerm(beta), VelocityOfApproach(0.5F));
+    ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
     ExpectFigure(t, "√(h Gf)", root);
     ExpectFigure(t, "Q", q, solved.value);
 
@@ -213,7 +213,7 @@ TEST_F(MethodExamples, Gas) {
     ExpectFigure(t, "Pb", Constant("Pb"), kAtmosphericPressurePsi);
     ExpectFigure(t, "Ff", 60.0 / 1440);
     ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
-    ExpectFigure(t, "E", VelocityTerm(beta), VelocityOfApproach(0.5F));
+    ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
     ExpectFigure(t, "h/(KY P)", h / (Constant("KY") * p));
     ExpectFigure(t, "Y", y, ExpansionFactor(0.5F, 100.0F, kGasPsia));
     ExpectFigure(t, "Tb/Pb", tempR / Constant("Pb"));
@@ -292,7 +292,7 @@ TEST_F(MethodExamples, Steam) {
     ExpectFigure(t, "ρ", t.Number("ρ"), density);
     ExpectFigure(t, "Ff", 1);
     ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
-    ExpectFigure(t, "E", VelocityTerm(beta), VelocityOfApproach(0.5F));
+    ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
     ExpectFigure(t, "h/(KY P)", h / (Constant("KY") * p));
     ExpectFigure(t, "Y", y, ExpansionFactor(0.5F, 100.0F, kGasPsia));
     ExpectFigure(t, "h ρ", h * t.Number("ρ"));

@@ -35,22 +35,22 @@ TEST(OrificeEquationTest, Messages) {
 }
 
 // E = 0.6 / sqrt(1 - beta^4), worked out by calculator and rounded to single.
-TEST(OrificeEquationTest, VelocityOfApproach) {
-    EXPECT_EQ(VelocityOfApproach(0.1F), 0.600030005F);
-    EXPECT_EQ(VelocityOfApproach(0.3F), 0.602444887F);
-    EXPECT_EQ(VelocityOfApproach(0.5F), 0.619677365F);
-    EXPECT_EQ(VelocityOfApproach(0.67F), 0.671454906F);
-    EXPECT_EQ(VelocityOfApproach(0.75F), 0.725691795F);
-    EXPECT_EQ(VelocityOfApproach(0.95F), 1.39311373F);
-    EXPECT_EQ(VelocityOfApproach(0.99F), 3.02260494F);
-    EXPECT_EQ(VelocityOfApproach(0.0F), 0.6F);
+TEST(OrificeEquationTest, CoefficientTimesApproach) {
+    EXPECT_EQ(CoefficientTimesApproach(0.1F), 0.600030005F);
+    EXPECT_EQ(CoefficientTimesApproach(0.3F), 0.602444887F);
+    EXPECT_EQ(CoefficientTimesApproach(0.5F), 0.619677365F);
+    EXPECT_EQ(CoefficientTimesApproach(0.67F), 0.671454906F);
+    EXPECT_EQ(CoefficientTimesApproach(0.75F), 0.725691795F);
+    EXPECT_EQ(CoefficientTimesApproach(0.95F), 1.39311373F);
+    EXPECT_EQ(CoefficientTimesApproach(0.99F), 3.02260494F);
+    EXPECT_EQ(CoefficientTimesApproach(0.0F), 0.6F);
 }
 
-TEST(OrificeEquationTest, VelocityOfApproachAtAndAboveOne) {
-    EXPECT_EQ(VelocityOfApproach(std::nextafter(1.0F, 0.0F)), 1228.80005F);
-    EXPECT_EQ(VelocityOfApproach(1.0F), kInfinity);
-    EXPECT_TRUE(std::isnan(VelocityOfApproach(std::nextafter(1.0F, 2.0F))));
-    EXPECT_TRUE(std::isnan(VelocityOfApproach(kInfinity)));
+TEST(OrificeEquationTest, CoefficientTimesApproachAtAndAboveOne) {
+    EXPECT_EQ(CoefficientTimesApproach(std::nextafter(1.0F, 0.0F)), 1228.80005F);
+    EXPECT_EQ(CoefficientTimesApproach(1.0F), kInfinity);
+    EXPECT_TRUE(std::isnan(CoefficientTimesApproach(std::nextafter(1.0F, 2.0F))));
+    EXPECT_TRUE(std::isnan(CoefficientTimesApproach(kInfinity)));
 }
 
 TEST(OrificeEquationTest, BetaToTheFourthIsADouble) {
