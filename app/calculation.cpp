@@ -167,7 +167,7 @@ std::string CalcSGf(const std::string& density, const SelectedUnit& unit, const 
         return "";
     }
     // The factor enters as the double that its decimal text stands for.
-    const auto lbPerFt3 = static_cast<float>(DecimalForm(unit.factor).Value() * double{*value});
+    const auto lbPerFt3 = static_cast<float>(DecimalValue(unit.factor) * double{*value});
     return FormatNumber(SpecificGravityOfDensity(lbPerFt3, kWaterDensityLbPerFt3),
                         kSpecificGravityDecimals, module.locale(), Grouping::On);
 }

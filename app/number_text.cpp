@@ -4,185 +4,120 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tarvix {
 
 namespace {
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+// What is still to be read of a text.
+struct Reader {
+    std::string_view rest;
 
-std::string_view WithoutBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-// True where a group separator may stand: with `digitsToTheRight` digits between it and the decimal
-// separator.
-bool IsGroupPlace(int digitsToTheRight, const NumberLocale& locale) {
-    return digitsToTheRight >= locale.lowestGroup &&
-           (digitsToTheRight - locale.lowestGroup) % locale.higherGroups == 0;
-}
-
-// Reads a number text piece by piece and copies it to plain form: no blanks, no group separators,
-// "." as decimal separator.
-class NumberReader {
-  public:
-    NumberReader(std::string_view text, const NumberLocale& locale)
-        : rest_(WithoutBlanks(text)), locale_(locale) {}
-
-    // The plain form; nothing when the text is no number.
-    std::optional<std::string> Plain() {
-        ReadSign();
-        if (!ReadWholePart()) {
-            return std::nullopt;
-        }
-        const bool wholeDigits = digits_ > 0;
-        const bool fractionDigits = ReadFraction();
-        if ((!wholeDigits && !fractionDigits) || !ReadExponent() || !rest_.empty()) {
-            return std::nullopt;
-        }
-        return std::move(plain_);
+    bool Skip(std::string_view token) {
+        const bool there = !token.empty() && rest.starts_with(token);
+        rest.remove_prefix(there ? token.size() : 0);
+        return there;
     }
 
-  private:
-    bool Next(char c) const { return !rest_.empty() && rest_.front() == c; }
-    void Skip(size_t characters) { rest_.remove_prefix(characters); }
-
-    void ReadSign() {
-        if (Next('-')) {
-            plain_ += '-';
-        }
-        if (Next('-') || Next('+')) {
-            Skip(1);
-        }
+    std::string_view Digits() {
+        const auto end =
+            std::find_if(rest.begin(), rest.end(), [](char c) { return c < '0' || c > '9'; });
+        const auto digits = rest.substr(0, static_cast<size_t>(end - rest.begin()));
+        rest.remove_prefix(digits.size());
+        return digits;
     }
 
-    // False when a group separator is out of place.
-    bool ReadWholePart() {
-        // Groups are counted from the decimal separator, so their places are known only at the end.
-        const std::string& separator = locale_.groupSeparator;
-        int separators = 0;
-        int firstSeparator = 0;
-        int lastSeparator = 0;
-        bool inStep = true;
-        for (;;) {
-            if (!rest_.empty() && IsDigit(rest_.front())) {
-                plain_ += rest_.front();
-                ++digits_;
-                Skip(1);
-            } else if (!separator.empty() && rest_.starts_with(separator)) {
-                if (separators == 0) {
-                    firstSeparator = digits_;
-                } else {
-                    inStep = inStep && digits_ - lastSeparator == locale_.higherGroups;
-                }
-                lastSeparator = digits_;
-                ++separators;
-                Skip(separator.size());
-            } else {
-                break;
-            }
-        }
-        if (separators == 0) {
-            return true;
-        }
-        return inStep && firstSeparator >= 1 && firstSeparator <= locale_.higherGroups &&
-               digits_ - lastSeparator == locale_.lowestGroup;
-    }
-
-    // True when there are digits after a decimal separator.
-    bool ReadFraction() {
-        if (!Next(locale_.decimalSeparator)) {
-            return false;
-        }
-        plain_ += '.';
-        Skip(1);
-        return CopyDigits();
-    }
-
-    // False when the text breaks off in an exponent.
-    bool ReadExponent() {
-        if (!Next('e') && !Next('E')) {
-            return true;
-        }
-        Skip(1);
-        plain_ += 'e';
-        if (Next('-')) {
-            plain_ += '-';
-        }
-        if (Next('-') || Next('+')) {
-            Skip(1);
-        }
-        return CopyDigits();
-    }
-
-    bool CopyDigits() {
-        bool any = false;
-        while (!rest_.empty() && IsDigit(rest_.front())) {
-            plain_ += rest_.front();
-            Skip(1);
-            any = true;
-        }
-        return any;
-    }
-
-    std::string_view rest_;
-    const NumberLocale& locale_;
-    std::string plain_;
-    int digits_ = 0;
+    std::string_view Sign() { return Skip("-") ? "-" : (Skip("+"), ""); }
 };
 
-void WriteWholePart(std::string& text, const DecimalForm& form, const NumberLocale& locale,
-                    bool grouped) {
-    for (int place = std::max(form.point() - 1, 0); place >= 0; --place) {
-        text += form.DigitAt(place);
-        if (grouped && IsGroupPlace(place, locale)) {
+std::string_view WithoutBlanks(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+// The digits of a whole number with the locale's separators between its groups.
+std::string Grouped(std::string_view digits, const NumberLocale& locale) {
+    std::string text;
+    int left = static_cast<int>(digits.size());
+    for (const char digit : digits) {
+        text += digit;
+        --left;
+        if (left >= locale.lowestGroup && (left - locale.lowestGroup) % locale.higherGroups == 0) {
             text += locale.groupSeparator;
         }
     }
+    return text;
 }
 
-std::string FormatDecimalForm(DecimalForm form, int decimals, const NumberLocale& locale,
-                              Grouping grouping, Negatives negatives) {
-    form.RoundTo(decimals, DecimalForm::Halves::AwayFromZero);
-    const bool grouped =
-        grouping == Grouping::On && form.point() >= locale.lowestGroup + locale.firstGroupMinimum;
+// A number text without blanks and group separators, with "." as decimal separator; nothing when
+// the text is no number.
+std::optional<std::string> PlainForm(std::string_view text, const NumberLocale& locale) {
+    Reader reader{WithoutBlanks(text)};
+    std::string plain(reader.Sign());
 
-    std::string text;
-    if (form.negative()) {
-        text += negatives == Negatives::Parentheses ? '(' : '-';
+    const std::string_view begin = reader.rest;
+    const size_t sign = plain.size();
+    plain += reader.Digits();
+    while (reader.Skip(locale.groupSeparator)) {
+        plain += reader.Digits();
     }
-    WriteWholePart(text, form, locale, grouped);
+    const std::string_view written = begin.substr(0, begin.size() - reader.rest.size());
+    const std::string_view whole = std::string_view(plain).substr(sign);
+    if (written.size() != whole.size() && written != Grouped(whole, locale)) {
+        return std::nullopt;
+    }
+    bool anyDigits = !whole.empty();
+    if (reader.Skip({&locale.decimalSeparator, 1})) {
+        const std::string_view fraction = reader.Digits();
+        plain += '.';
+        plain += fraction;
+        anyDigits = anyDigits || !fraction.empty();
+    }
+    if (!anyDigits) {
+        return std::nullopt;
+    }
+    if (reader.Skip("e") || reader.Skip("E")) {
+        plain += 'e';
+        plain += reader.Sign();
+        const std::string_view exponent = reader.Digits();
+        if (exponent.empty()) {
+            return std::nullopt;
+        }
+        plain += exponent;
+    }
+    return reader.rest.empty() ? std::optional(plain) : std::nullopt;
+}
+
+// `digits`: the value's, as DecimalDigits gives them.
+std::string WithSeparators(const std::string& digits, bool negative, int decimals,
+                           const NumberLocale& locale, Grouping grouping, Negatives negatives) {
+    const size_t wholeDigits = digits.size() - static_cast<size_t>(decimals);
+    const bool grouped =
+        grouping == Grouping::On &&
+        wholeDigits >= static_cast<size_t>(locale.lowestGroup + locale.firstGroupMinimum);
+    std::string text = digits.substr(0, wholeDigits);
+    if (grouped) {
+        text = Grouped(text, locale);
+    }
     if (decimals > 0) {
         text += locale.decimalSeparator;
-        for (int place = -1; place >= -decimals; --place) {
-            text += form.DigitAt(place);
-        }
+        text.append(digits, wholeDigits);
     }
-    if (form.negative() && negatives == Negatives::Parentheses) {
-        text += ')';
+    if (!negative || digits.find_first_not_of('0') == std::string::npos) {
+        return text;
     }
-    return text;
+    return negatives == Negatives::Parentheses ? '(' + text + ')' : '-' + text;
 }
 
 }  // namespace
 
 std::optional<double> TextToDouble(std::string_view text, const NumberLocale& locale) {
-    const auto plain = NumberReader(text, locale).Plain();
+    const auto plain = PlainForm(text, locale);
     if (!plain) {
         return std::nullopt;
     }
     const double value = PlainToDouble(*plain);
-    if (!std::isfinite(static_cast<float>(value))) {
-        return std::nullopt;
-    }
-    return value;
+    return std::isfinite(static_cast<float>(value)) ? std::optional(value) : std::nullopt;
 }
 
 std::optional<float> TextToSingle(std::string_view text, const NumberLocale& locale) {
@@ -196,18 +131,16 @@ bool IsNumeric(std::string_view text, const NumberLocale& locale) {
 
 std::string FormatNumber(float value, int decimals, const NumberLocale& locale, Grouping grouping,
                          Negatives negatives) {
-    if (!std::isfinite(value)) {
-        return {};
-    }
-    return FormatDecimalForm(DecimalForm(value), decimals, locale, grouping, negatives);
+    return std::isfinite(value) ? WithSeparators(DecimalDigits(value, decimals), value < 0,
+                                                 decimals, locale, grouping, negatives)
+                                : "";
 }
 
 std::string FormatNumber(double value, int decimals, const NumberLocale& locale, Grouping grouping,
                          Negatives negatives) {
-    if (!std::isfinite(value)) {
-        return {};
-    }
-    return FormatDecimalForm(DecimalForm(value), decimals, locale, grouping, negatives);
+    return std::isfinite(value) ? WithSeparators(DecimalDigits(value, decimals), value < 0,
+                                                 decimals, locale, grouping, negatives)
+                                : "";
 }
 
 }  // namespace tarvix

@@ -1,10 +1,10 @@
 #include "calc/decimal_form.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
-#include <iterator>
+#include <cstdint>
 #include <locale>
 #include <sstream>
 
@@ -12,142 +12,131 @@ namespace tarvix {
 
 namespace {
 
-constexpr float kWholeSingle = 1.0e7F;
+// Significant digits.
+constexpr int kOfSingle = 7;
+constexpr int kOfDouble = 15;
 
-// What a double holds exactly: every whole number of 15 digits, and these powers of ten.
-constexpr int kExactDigits = 15;
-constexpr int kExactPower = 22;
-constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                   1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                   1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-static_assert(std::size(kPowersOfTen) == kExactPower + 1);
+// A double holds these powers of ten exactly, and every whole number of 15 digits.
+constexpr std::array kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                     1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                     1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-}  // namespace
-
-DecimalForm::DecimalForm(float finite) : negative_(std::signbit(finite)) {
-    const float magnitude = std::fabs(finite);
-    if (magnitude >= kWholeSingle) {
-        std::array<char, 48> text{};
-        const char* const end = std::to_chars(text.data(), text.data() + text.size(),
-                                              double{magnitude}, std::chars_format::fixed, 0)
-                                    .ptr;
-        point_ = static_cast<int>(end - text.data());
-        Take(text.data(), end);
-    } else {
-        TakeScientific(double{magnitude}, 7);
-    }
+double PowerOfTen(int exponent) {
+    return kPowersOfTen[static_cast<size_t>(exponent)];
 }
 
-DecimalForm::DecimalForm(double finite) : negative_(std::signbit(finite)) {
-    TakeScientific(std::fabs(finite), 15);
+// digits times ten to the power `exponent`
+struct DecimalForm {
+    std::int64_t digits;
+    int exponent;
+};
+
+// From ten million on a single is a whole number, which is not rounded.
+bool IsTakenInFull(double magnitude, int significantDigits) {
+    return significantDigits == kOfSingle && magnitude >= 1e7;
 }
 
-void DecimalForm::TakeScientific(double finite, int significantDigits) {
-    if (finite == 0) {
-        negative_ = false;
-        return;
+DecimalForm FormOf(double magnitude, int significantDigits) {
+    if (significantDigits == kOfSingle && magnitude >= 1e-6) {
+        // The 24 bits of a single times the 28 of 5^12 fit into the 53 of a double: the product is
+        // exact.
+        int decimals = 0;
+        while (magnitude * PowerOfTen(decimals) < 1e6) {
+            ++decimals;
+        }
+        const double scaled = magnitude * PowerOfTen(decimals);
+        return {static_cast<std::int64_t>(std::nearbyint(scaled)), -decimals};
     }
-    // d.ddd...e[+-]dd
-    std::array<char, 48> text{};
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), finite,
+    // d.ddd...e[+-]ddd; the standard library, too, rounds exact halves to even.
+    std::array<char, 32> text{};
+    const char* const end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
                                           std::chars_format::scientific, significantDigits - 1)
                                 .ptr;
     const char* const e = std::find(text.data(), text.data() + text.size(), 'e');
-    int exponent = 0;
-    std::from_chars(e[1] == '+' ? e + 2 : e + 1, end, exponent);
-    point_ = exponent + 1;
-    Take(text.data(), e);
+    text[1] = text[0];
+    DecimalForm form{};
+    std::from_chars(text.data() + 1, e, form.digits);
+    std::from_chars(e[1] == '+' ? e + 2 : e + 1, end, form.exponent);
+    form.exponent -= significantDigits - 1;
+    return form;
 }
 
-void DecimalForm::Take(const char* begin, const char* end) {
-    for (const char* c = begin; c != end; ++c) {
-        if (*c != '.') {
-            digits_[static_cast<size_t>(count_++)] = *c;
-        }
+enum class Halves { AwayFromZero, ToEven };
+
+DecimalForm Rounded(DecimalForm form, int decimals, Halves halves) {
+    const int dropped = -form.exponent - decimals;
+    if (dropped <= 0) {
+        return form;
     }
-    DropTrailingZeros();
+    if (dropped > kOfDouble) {  // less than half of the last place kept
+        return {0, -decimals};
+    }
+    const auto unit = static_cast<std::int64_t>(PowerOfTen(dropped));
+    const std::int64_t kept = form.digits / unit;
+    const std::int64_t twiceTheRest = 2 * (form.digits % unit);
+    const bool halfGoesUp = halves == Halves::AwayFromZero || kept % 2 != 0;
+    return {kept + (twiceTheRest > unit || (twiceTheRest == unit && halfGoesUp) ? 1 : 0),
+            -decimals};
 }
 
-void DecimalForm::DropTrailingZeros() {
-    while (count_ > 0 && digits_[static_cast<size_t>(count_ - 1)] == '0') {
-        --count_;
+double ValueOf(const DecimalForm& form) {
+    const auto digits = static_cast<double>(form.digits);
+    const int power = std::abs(form.exponent);
+    if (power < static_cast<int>(kPowersOfTen.size())) {
+        // One division, or multiplication, of two exact numbers gives the nearest (Clinger, 1990).
+        return form.exponent < 0 ? digits / PowerOfTen(power) : digits * PowerOfTen(power);
     }
+    return PlainToDouble(std::to_string(form.digits) + "e" + std::to_string(form.exponent));
 }
 
-void DecimalForm::RoundTo(int decimals, Halves halves) {
-    const int kept = point_ + decimals;  // digits that stay
-    if (kept >= count_) {
-        return;
+double Round(double value, int significantDigits, int decimals) {
+    const double magnitude = std::fabs(value);
+    if (!std::isfinite(value) || IsTakenInFull(magnitude, significantDigits)) {
+        return value;
     }
-    bool up = false;
-    if (kept >= 0) {
-        const auto firstDropped = digits_[static_cast<size_t>(kept)];
-        const bool half = firstDropped == '5' && kept + 1 == count_;
-        const bool lastKeptIsOdd =
-            kept > 0 && (digits_[static_cast<size_t>(kept - 1)] - '0') % 2 == 1;
-        up = half && halves == Halves::ToEven ? lastKeptIsOdd : firstDropped >= '5';
-    }
-    count_ = std::max(kept, 0);
-    if (up) {
-        int i = count_ - 1;
-        while (i >= 0 && digits_[static_cast<size_t>(i)] == '9') {
-            --i;
-        }
-        if (i >= 0) {
-            ++digits_[static_cast<size_t>(i)];
-            count_ = i + 1;
-        } else {
-            digits_[0] = '1';
-            count_ = 1;
-            ++point_;
-        }
-    }
-    DropTrailingZeros();
-    if (count_ == 0) {
-        negative_ = false;
-        point_ = 0;
-    }
+    const double rounded =
+        ValueOf(Rounded(FormOf(magnitude, significantDigits), decimals, Halves::ToEven));
+    return value < 0 && rounded != 0 ? -rounded : rounded;
 }
 
-char DecimalForm::DigitAt(int place) const {
-    const int index = point_ - 1 - place;
-    return index >= 0 && index < count_ ? digits_[static_cast<size_t>(index)] : '0';
+std::string DecimalDigits(double magnitude, int significantDigits, int decimals) {
+    if (IsTakenInFull(magnitude, significantDigits)) {
+        std::array<char, 48> text{};
+        char* const end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                        std::chars_format::fixed, 0)
+                              .ptr;
+        return std::string(text.data(), end) + std::string(static_cast<size_t>(decimals), '0');
+    }
+    const DecimalForm form =
+        Rounded(FormOf(magnitude, significantDigits), decimals, Halves::AwayFromZero);
+    std::string digits = std::to_string(form.digits);
+    digits.append(static_cast<size_t>(form.exponent + decimals), '0');
+    const auto least = static_cast<size_t>(decimals) + 1;
+    digits.insert(0, least - std::min(least, digits.size()), '0');
+    return digits;
 }
 
-double DecimalForm::Value() const {
-    // As many digits and powers of ten as a double holds exactly: one division, or multiplication,
-    // of two exact numbers gives the nearest double (Clinger, 1990).
-    const int exponent = point_ - count_;
-    if (count_ <= kExactDigits && std::abs(exponent) <= kExactPower) {
-        double whole = 0;
-        for (const char digit : digits()) {
-            whole = 10 * whole + (digit - '0');
-        }
-        const double power = kPowersOfTen[static_cast<size_t>(std::abs(exponent))];
-        const double value = exponent < 0 ? whole / power : whole * power;
-        return negative_ ? -value : value;
-    }
-    std::string plain = negative_ ? "-0." : "0.";
-    plain.append(digits().begin(), digits().end());
-    return PlainToDouble(plain + "e" + std::to_string(point_));
-}
+}  // namespace
 
 double Round(float value, int decimals) {
-    if (!std::isfinite(value)) {
-        return double{value};
-    }
-    DecimalForm form(value);
-    form.RoundTo(decimals, DecimalForm::Halves::ToEven);
-    return form.Value();
+    return Round(double{value}, kOfSingle, decimals);
 }
 
 double Round(double value, int decimals) {
-    if (!std::isfinite(value)) {
-        return value;
-    }
-    DecimalForm form(value);
-    form.RoundTo(decimals, DecimalForm::Halves::ToEven);
-    return form.Value();
+    return Round(value, kOfDouble, decimals);
+}
+
+double DecimalValue(float finite) {
+    constexpr int kAllOfThem = 60;
+    return Round(double{finite}, kOfSingle, kAllOfThem);
+}
+
+std::string DecimalDigits(float finite, int decimals) {
+    return DecimalDigits(std::fabs(double{finite}), kOfSingle, decimals);
+}
+
+std::string DecimalDigits(double finite, int decimals) {
+    return DecimalDigits(std::fabs(finite), kOfDouble, decimals);
 }
 
 double PlainToDouble(const std::string& plain) {

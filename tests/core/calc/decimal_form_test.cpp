@@ -3,7 +3,10 @@
 
 #include "named_row.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
@@ -17,95 +20,118 @@ using namespace testing;
 constexpr float kSingleInfinity = std::numeric_limits<float>::infinity();
 constexpr double kDoubleInfinity = std::numeric_limits<double>::infinity();
 
-std::string DigitsOf(const DecimalForm& form) {
-    return {form.digits().begin(), form.digits().end()};
+// The digits ------------------------------------------------------------------------------------
+
+TEST(DecimalDigitsTest, ASingleHasSevenSignificantDigits) {
+    EXPECT_EQ(DecimalDigits(1.0F / 3.0F, 9), "0333333300");
+    EXPECT_EQ(DecimalDigits(-0.000123456789F, 9), "0000123457");
+    EXPECT_EQ(DecimalDigits(1205.75F, 5), "120575000");
+    EXPECT_EQ(DecimalDigits(19.04999924F, 3), "19050");
 }
 
-TEST(DecimalFormTest, ASingleHasSevenSignificantDigits) {
-    const DecimalForm third(1.0F / 3.0F);
-    EXPECT_EQ(DigitsOf(third), "3333333");
-    EXPECT_EQ(third.point(), 0);
-    EXPECT_FALSE(third.negative());
-
-    const DecimalForm small(-0.000123456789F);
-    EXPECT_EQ(DigitsOf(small), "1234568");
-    EXPECT_EQ(small.point(), -3);
-    EXPECT_TRUE(small.negative());
+TEST(DecimalDigitsTest, ASingleOfTenMillionOrMoreIsTakenInFull) {
+    EXPECT_EQ(DecimalDigits(9999999.0F, 0), "9999999");
+    EXPECT_EQ(DecimalDigits(10000000.0F, 1), "100000000");
+    EXPECT_EQ(DecimalDigits(-16777217.0F, 0), "16777216");  // not a single; the nearest ends in 6
+    EXPECT_EQ(DecimalDigits(std::numeric_limits<float>::max(), 0),
+              "340282346638528859811704183484516925440");
 }
 
-TEST(DecimalFormTest, ASingleOfTenMillionOrMoreIsTakenInFull) {
-    EXPECT_EQ(DigitsOf(DecimalForm(9999999.0F)), "9999999");
-    const DecimalForm tenMillion(10000000.0F);
-    EXPECT_EQ(DigitsOf(tenMillion), "1");
-    EXPECT_EQ(tenMillion.point(), 8);
-    const DecimalForm above(-16777217.0F);  // not a single; the nearest ends in 6
-    EXPECT_EQ(DigitsOf(above), "16777216");
-    EXPECT_EQ(above.point(), 8);
-    EXPECT_TRUE(above.negative());
+TEST(DecimalDigitsTest, ADoubleHasFifteenSignificantDigitsHoweverLarge) {
+    EXPECT_EQ(DecimalDigits(1.0 / 3.0, 9), "0333333333");
+    EXPECT_EQ(DecimalDigits(123456789012345678.0, 0), "123456789012346000");
+    EXPECT_EQ(DecimalDigits(12345678.0, 1), "123456780");
+    EXPECT_EQ(DecimalDigits(-1e22, 0), "1" + std::string(22, '0'));
 }
 
-TEST(DecimalFormTest, ADoubleHasFifteenSignificantDigitsHoweverLarge) {
-    const DecimalForm third(1.0 / 3.0);
-    EXPECT_EQ(DigitsOf(third), "333333333333333");
-    const DecimalForm large(123456789012345678.0);
-    EXPECT_EQ(DigitsOf(large), "123456789012346");
-    EXPECT_EQ(large.point(), 18);
+TEST(DecimalDigitsTest, HalvesGoAwayFromZero) {
+    EXPECT_EQ(DecimalDigits(0.5F, 0), "1");
+    EXPECT_EQ(DecimalDigits(-2.5F, 0), "3");
+    EXPECT_EQ(DecimalDigits(0.000005F, 5), "000001");
+    EXPECT_EQ(DecimalDigits(0.99995F, 4), "10000");
+    EXPECT_EQ(DecimalDigits(0.49999999F, 0), "1");  // in seven digits a half
+    EXPECT_EQ(DecimalDigits(0.4999999F, 0), "0");
+    EXPECT_EQ(DecimalDigits(0.499999999999999, 0), "0");
 }
 
-TEST(DecimalFormTest, ZeroHasNoDigitsAndNoSign) {
-    for (const DecimalForm& zero : {DecimalForm(0.0F), DecimalForm(-0.0F), DecimalForm(-0.0)}) {
-        EXPECT_TRUE(zero.digits().empty());
-        EXPECT_FALSE(zero.negative());
-        EXPECT_EQ(zero.Value(), 0.0);
-        EXPECT_EQ(zero.DigitAt(0), '0');
+TEST(DecimalDigitsTest, ZeroAndWhatIsFarBelowTheLastPlaceAreZeros) {
+    EXPECT_EQ(DecimalDigits(0.0F, 1), "00");
+    EXPECT_EQ(DecimalDigits(-0.0, 0), "0");
+    EXPECT_EQ(DecimalDigits(0.0007F, 2), "000");
+    EXPECT_EQ(DecimalDigits(std::numeric_limits<float>::denorm_min(), 9), "0000000000");
+    EXPECT_EQ(DecimalDigits(std::numeric_limits<double>::denorm_min(), 9), "0000000000");
+}
+
+// The digits another way: written out by the C library, which rounds exactly, and rounded as text.
+std::string WrittenDigits(double magnitude, int significantDigits, int decimals) {
+    std::array<char, 400> text{};
+    (void)std::snprintf(text.data(), text.size(), "%.*e", significantDigits - 1, magnitude);
+    const std::string written(text.data());
+    const size_t e = written.find('e');
+    std::string digits = written.substr(0, 1) + written.substr(2, e - 2);
+    const int point = 1 + std::stoi(written.substr(e + 1));
+    if (point < 0) {
+        digits.insert(0, static_cast<size_t>(-point), '0');
     }
-}
-
-TEST(DecimalFormTest, DigitsAreFoundByTheirPlace) {
-    const DecimalForm form(1205.75F);
-    EXPECT_EQ(form.DigitAt(4), '0');
-    EXPECT_EQ(form.DigitAt(3), '1');
-    EXPECT_EQ(form.DigitAt(2), '2');
-    EXPECT_EQ(form.DigitAt(1), '0');
-    EXPECT_EQ(form.DigitAt(0), '5');
-    EXPECT_EQ(form.DigitAt(-1), '7');
-    EXPECT_EQ(form.DigitAt(-2), '5');
-    EXPECT_EQ(form.DigitAt(-3), '0');
-}
-
-TEST(DecimalFormTest, ItsValueIsTheNearestDouble) {
-    EXPECT_EQ(DecimalForm(0.06242798F).Value(), 0.06242798);
-    EXPECT_EQ(DecimalForm(-19.04999924F).Value(), -19.05);
-    EXPECT_EQ(DecimalForm(0.1).Value(), 0.1);
-    EXPECT_EQ(DecimalForm(3.0e38F).Value(), double{3.0e38F});
-    // On both sides of where the powers of ten stop being exact in a double.
-    EXPECT_EQ(DecimalForm(7e22).Value(), 7e22);
-    EXPECT_EQ(DecimalForm(7e23).Value(), 7e23);
-    EXPECT_EQ(DecimalForm(7e-22).Value(), 7e-22);
-    EXPECT_EQ(DecimalForm(7e-23).Value(), 7e-23);
-    EXPECT_EQ(DecimalForm(1.23456789012345e36).Value(), 1.23456789012345e36);
-    EXPECT_EQ(DecimalForm(1.23456789012345e37).Value(), 1.23456789012345e37);
-    EXPECT_EQ(DecimalForm(-1.23456789012345e-8).Value(), -1.23456789012345e-8);
-    EXPECT_EQ(DecimalForm(-1.23456789012345e-9).Value(), -1.23456789012345e-9);
-}
-
-// The same as reading the digits as a number text, whatever the size of the number.
-TEST(DecimalFormTest, ItsValueIsWhatItsDigitsRead) {
-    for (float single = 1.0e-40F; single < 3.0e38F; single *= 1.0137F) {
-        for (const DecimalForm& form : {DecimalForm(single), DecimalForm(double{single} / 3)}) {
-            const std::string plain = "0." + DigitsOf(form) + "e" + std::to_string(form.point());
-            ASSERT_EQ(form.Value(), PlainToDouble(plain)) << plain;
+    digits.insert(0, 1, '0');  // room for a carry
+    const auto kept = static_cast<size_t>(1 + std::max(point, 0) + decimals);
+    digits.resize(std::max(kept + 1, digits.size()), '0');
+    const bool up = digits[kept] >= '5';
+    digits.resize(kept);
+    for (size_t i = kept; up && i-- > 0;) {
+        if (digits[i] != '9') {
+            ++digits[i];
+            break;
         }
+        digits[i] = '0';
+    }
+    const auto least = static_cast<size_t>(decimals) + 1;
+    while (digits.size() > least && digits.front() == '0') {
+        digits.erase(0, 1);
+    }
+    return digits;
+}
+
+TEST(DecimalDigitsTest, AreThoseOfTheCLibrary) {
+    int decimals = 0;
+    for (float single = 1.0e-12F; single < 1.0e7F; single *= 1.000731F) {
+        decimals = (decimals + 1) % 10;
+        ASSERT_EQ(DecimalDigits(single, decimals), WrittenDigits(double{single}, 7, decimals))
+            << single << " " << decimals;
+        const double third = double{single} / 3;
+        ASSERT_EQ(DecimalDigits(third, decimals), WrittenDigits(third, 15, decimals))
+            << third << " " << decimals;
     }
 }
 
-TEST(DecimalFormTest, RoundingDropsEveryDigitFarBelowTheLastPlace) {
-    DecimalForm form(-0.0007F);
-    form.RoundTo(2, DecimalForm::Halves::AwayFromZero);
-    EXPECT_TRUE(form.digits().empty());
-    EXPECT_FALSE(form.negative());
-    EXPECT_EQ(form.point(), 0);
+// Between one and ten million a single may lie half-way at its seventh digit: the even one stands.
+TEST(DecimalDigitsTest, ATieAtTheSeventhDigitGoesToTheEvenOne) {
+    for (int whole = 1000001; whole < 8388607; whole += 2022) {
+        const float tie = static_cast<float>(whole) + 0.5F;
+        ASSERT_EQ(DecimalDigits(tie, 0), std::to_string(whole + 1)) << tie;
+        ASSERT_EQ(DecimalDigits(tie - 1.0F, 0), std::to_string(whole - 1)) << tie;
+    }
+    EXPECT_EQ(DecimalDigits(5579224.5F, 0), "5579224");
+    EXPECT_EQ(DecimalDigits(123456.25F, 1), "1234562");
+    EXPECT_EQ(DecimalDigits(123456.75F, 1), "1234568");
 }
+
+// The value ---------------------------------------------------------------------------------------
+
+TEST(DecimalValueTest, IsTheDoubleNearestToTheSevenDigits) {
+    EXPECT_EQ(DecimalValue(0.06242798F), 0.06242798);
+    EXPECT_EQ(DecimalValue(-19.04999924F), -19.05);
+    EXPECT_EQ(DecimalValue(3.0e38F), double{3.0e38F});
+    EXPECT_EQ(DecimalValue(1.0F / 3.0F), 0.3333333);
+    EXPECT_EQ(DecimalValue(-0.0F), 0.0);
+    EXPECT_FALSE(std::signbit(DecimalValue(-0.0F)));
+    // On both sides of where the powers of ten stop being exact in a double.
+    EXPECT_EQ(DecimalValue(1.234567e-16F), 1.234567e-16);
+    EXPECT_EQ(DecimalValue(1.234567e-17F), 1.234567e-17);
+    EXPECT_EQ(DecimalValue(-1.234567e-30F), -1.234567e-30);
+}
+
+// Plain form --------------------------------------------------------------------------------------
 
 struct PlainRow : NamedRow {
     std::string plain;
