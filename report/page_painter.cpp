@@ -132,7 +132,9 @@ bool PaintReport(QPagedPaintDevice& device, const ReportPage& page, const QImage
         painter.drawImage(LogoPlace(logo), logo);
     }
     for (const ReportLine& line : page.lines) {
-        PaintLine(painter, line, paper.textWidth() / scale);
+        if (!line.text.empty()) {
+            PaintLine(painter, line, paper.textWidth() / scale);
+        }
     }
     return painter.end();
 }

@@ -6,15 +6,25 @@
 
 namespace tarvix {
 
+std::vector<std::string> PrintedLines(const ReportPage& page) {
+    std::vector<std::string> printed;
+    double yTwips = -1;
+    for (const ReportLine& line : page.lines) {
+        if (line.yTwips != yTwips) {
+            printed.emplace_back();
+        }
+        printed.back() += line.text;
+        yTwips = line.yTwips;
+    }
+    return printed;
+}
+
 void PageWriter::Print(std::string text) {
     PrintPiece(std::move(text));
-    EmptyLines(1);
+    MoveTo(yTwips_ + font_.sizePt * kTwipsPerPoint * kFontLineHeight);
 }
 
 void PageWriter::PrintPiece(std::string text) {
-    if (text.empty()) {
-        return;
-    }
     const double advance = font_.sizePt * kTwipsPerPoint * kFontAdvance;
     const double width = advance * CharacterCount(text);
     page_.lines.push_back({std::move(text), font_, xTwips_, yTwips_});
@@ -22,7 +32,9 @@ void PageWriter::PrintPiece(std::string text) {
 }
 
 void PageWriter::EmptyLines(int count) {
-    MoveTo(yTwips_ + count * font_.sizePt * kTwipsPerPoint * kFontLineHeight);
+    for (int line = 0; line < count; ++line) {
+        Print({});
+    }
 }
 
 void PageWriter::MoveTo(double yTwips) {

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvix {
 
@@ -31,6 +32,10 @@ class PageWriter {
     double xTwips_ = 0;
     double yTwips_ = 0;
 };
+
+// The lines of the page from top to bottom, empty ones among them; what was printed in pieces
+// stands together.
+std::vector<std::string> PrintedLines(const ReportPage& page);
 
 // The number of characters (code points) of a UTF-8 text.
 int CharacterCount(std::string_view text);

@@ -51,13 +51,13 @@ inline constexpr double kNotesTopTwips = 8000;
 
 // One piece of text. Places are twips (1/1440 inch) from where printing starts.
 struct ReportLine {
-    std::string text;  // UTF-8, no line breaks
+    std::string text;  // UTF-8, no line breaks; nothing on an empty line
     ReportFont font;   // "Courier New"
     double xTwips = 0;
     double yTwips = 0;  // upper edge
 };
 
-// Lines without text are not in it; they only move the lines below them down.
+// In the order of printing.
 struct ReportPage {
     std::vector<ReportLine> lines;
 };

@@ -105,7 +105,7 @@ WindowView::WindowView(frmTarvix& window, ScriptDesk& desk) {
         focus = active->objectName();
     }
     calculations = window.calculationRuns();
-    pages = desk.TakePages();
+    pages = static_cast<int>(desk.TakePages().size());
     boxes = desk.TakeBoxes();
     title = window.windowTitle();
 }

@@ -36,8 +36,9 @@ std::vector<std::string> UpperRows(const ReportPage& page) {
 
 std::vector<ReportLine> LinesFrom(const ReportPage& page, double yTwips) {
     std::vector<ReportLine> lines;
-    std::copy_if(page.lines.begin(), page.lines.end(), std::back_inserter(lines),
-                 [yTwips](const ReportLine& line) { return line.yTwips >= yTwips; });
+    std::copy_if(
+        page.lines.begin(), page.lines.end(), std::back_inserter(lines),
+        [yTwips](const ReportLine& line) { return line.yTwips >= yTwips && !line.text.empty(); });
     return lines;
 }
 

@@ -12,7 +12,7 @@ namespace tarvix::testing {
 // of 12 points. Fails the test when a line stands between two rows or not at the left edge.
 std::vector<std::string> UpperRows(const ReportPage& page);
 
-// The lines at or below `yTwips`, in the order of printing.
+// The lines with text at or below `yTwips`, in the order of printing.
 std::vector<ReportLine> LinesFrom(const ReportPage& page, double yTwips);
 
 // Whether some line above the notes is exactly `text`.

@@ -249,10 +249,10 @@ TEST_F(KeyboardTest, CtrlPPrintsOnlyWhatIsSolved) {
     Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
           "type txtDeltaP 100"});
     Press(Qt::Key_P, Qt::ControlModifier);
-    EXPECT_EQ(player_.desk().TakePages(), 0);
+    EXPECT_TRUE(player_.desk().TakePages().empty());
     Play({"type txtBeta 0.5"});
     Press(Qt::Key_P, Qt::ControlModifier);
-    EXPECT_EQ(player_.desk().TakePages(), 1);
+    EXPECT_EQ(player_.desk().TakePages().size(), 1U);
     EXPECT_EQ(Focus(), "txtBeta") << "the focus is where it was";
 }
 

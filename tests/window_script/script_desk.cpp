@@ -32,8 +32,8 @@ std::vector<ShownBox> ScriptDesk::TakeBoxes() {
     return std::exchange(boxes_, {});
 }
 
-int ScriptDesk::TakePages() {
-    return std::exchange(pages_, 0);
+std::vector<ReportPage> ScriptDesk::TakePages() {
+    return std::exchange(pages_, {});
 }
 
 BoxAnswer ScriptDesk::NextAnswer() {
@@ -95,7 +95,7 @@ void ScriptDesk::PrintPage(QWidget& /*owner*/, const ReportPage& page, const QIm
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(printerFile_);
     if (PrintReportOn(printer, page, logo).status != PrintOutcome::Status::Failed) {
-        ++pages_;
+        pages_.push_back(page);
     }
 }
 

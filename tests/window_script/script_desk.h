@@ -39,7 +39,7 @@ class ScriptDesk : public Platform, public WindowHost {
 
     // What has been shown and printed since the last call.
     std::vector<ShownBox> TakeBoxes();
-    int TakePages();
+    std::vector<ReportPage> TakePages();
 
     int ShowMessageBox(const MessageBoxRequest& request) override;
     std::optional<std::string> ShowInputBox(const InputBoxRequest& request) override;
@@ -58,7 +58,7 @@ class ScriptDesk : public Platform, public WindowHost {
     std::vector<ShownBox> boxes_;
     std::optional<QStringList> customerLines_;
     QString printerFile_;
-    int pages_ = 0;
+    std::vector<ReportPage> pages_;
 };
 
 }  // namespace tarvix

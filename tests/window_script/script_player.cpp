@@ -1,6 +1,7 @@
 #include "tests/window_script/script_player.h"
 
 #include "app/system_locale.h"
+#include "report/page_writer.h"
 #include "tests/window_script/window_state.h"
 #include "ui/frm_splash.h"
 
@@ -48,6 +49,14 @@ QJsonObject BoxState(const ShownBox& box) {
             {QStringLiteral("text"), QString::fromStdString(box.text)},
             {QStringLiteral("style"), QString::fromStdString(box.style)},
             {QStringLiteral("default"), QString::fromStdString(box.defaultAnswer)}};
+}
+
+QJsonArray PageLines(const ReportPage& page) {
+    QJsonArray lines;
+    for (const std::string& line : PrintedLines(page)) {
+        lines.append(QString::fromStdString(line));
+    }
+    return lines;
 }
 
 QString WithoutBlanks(QString text) {
@@ -317,20 +326,28 @@ bool ScriptPlayer::Answer(const QString& answer) {
 }
 
 void ScriptPlayer::State() {
-    QJsonArray boxes;
     const frmTarvix& window = Window();
+    QJsonArray boxes;
     for (const ShownBox& box : desk_.TakeBoxes()) {
         boxes.append(BoxState(box));
     }
+    QJsonArray pages;
+    for (const ReportPage& page : desk_.TakePages()) {
+        pages.append(PageLines(page));
+    }
     const QWidget* active = Form().ActiveControl();
     const int runs = window.calculationRuns();
-    write_({{QStringLiteral("controls"), ControlStates(Form())},
-            {QStringLiteral("boxes"), boxes},
-            {QStringLiteral("calculations"), runs - std::exchange(reportedRuns_, runs)},
-            {QStringLiteral("pages"), desk_.TakePages()},
-            {QStringLiteral("focus"), active != nullptr && Form().Find(active->objectName())
-                                          ? active->objectName()
-                                          : QString()}});
+    QJsonObject state{{QStringLiteral("controls"), ControlStates(Form())},
+                      {QStringLiteral("boxes"), boxes},
+                      {QStringLiteral("calculations"), runs - std::exchange(reportedRuns_, runs)},
+                      {QStringLiteral("pages"), pages.size()},
+                      {QStringLiteral("focus"),
+                       active != nullptr && Form().Find(active->objectName()) ? active->objectName()
+                                                                              : QString()}};
+    if (!pages.isEmpty()) {
+        state.insert(QStringLiteral("page_lines"), pages);
+    }
+    write_(state);
 }
 
 }  // namespace tarvix
