@@ -18,8 +18,7 @@ namespace tarvix {
 frmTarvix::frmTarvix(Module1& module, WindowHost& host)
     : module_(module),
       host_(host),
-      scrollArea_(new QScrollArea(this)),
-      form_(canvas_, *menuBar()),
+      form_(view_.canvas(), view_.footer(), *menuBar()),
       context_{form_, state_, module_},
       calculations_(context_),
       warnings_(context_),
@@ -33,16 +32,7 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       modes_(context_, calculations_),
       accessibleNames_(form_) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
-    // On a screen smaller than the form, the form scrolls, and follows the focus.
-    scrollArea_->setFrameShape(QFrame::NoFrame);
-    scrollArea_->setFocusPolicy(Qt::NoFocus);
-    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now != nullptr && canvas_.isAncestorOf(now)) {
-            scrollArea_->ensureWidgetVisible(now);
-        }
-    });
-    scrollArea_->setWidget(&canvas_);
-    setCentralWidget(scrollArea_);
+    setCentralWidget(&view_);
     ApplyReadableColors();
     ConnectMenusAndButtons();
 
@@ -59,9 +49,8 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
 }
 
 frmTarvix::~frmTarvix() {
-    QObject::disconnect(qApp, nullptr, this, nullptr);
-    // The canvas is a member, not a child on the heap.
-    scrollArea_->takeWidget();
+    // The view is a member, not a child on the heap.
+    takeCentralWidget();
 }
 
 void frmTarvix::ConnectMenusAndButtons() {
@@ -138,7 +127,7 @@ int frmTarvix::FrameHeight() const {
 }
 
 void frmTarvix::FitToScreen() {
-    const QSize whole = canvas_.size() + QSize(0, menuBar()->sizeHint().height());
+    const QSize whole = form_.WholeSize() + QSize(0, menuBar()->sizeHint().height());
     const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, FrameHeight());
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     // The scroll bar for one direction must not take room away in the other.

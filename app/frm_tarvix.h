@@ -9,13 +9,13 @@
 #include "app/calculation_modes.h"
 #include "ui/accessible_names.h"
 #include "ui/fluid_options.h"
+#include "ui/form_view.h"
 #include "ui/pipe_boxes.h"
 #include "ui/unit_boxes.h"
 #include "ui/window_host.h"
 
 #include <QImage>
 #include <QMainWindow>
-#include <QScrollArea>
 
 namespace tarvix {
 
@@ -51,8 +51,7 @@ class frmTarvix : public QMainWindow {
 
     Module1& module_;
     WindowHost& host_;
-    QWidget canvas_;
-    QScrollArea* scrollArea_;
+    FormView view_;
     FormState state_;
     MainForm form_;
     FormContext context_;

@@ -3,6 +3,7 @@
 #include "ui/frame_box.h"
 
 #include <QFontMetricsF>
+#include <QLayout>
 #include <QTabBar>
 
 #include <algorithm>
@@ -13,9 +14,18 @@ namespace tarvix {
 
 namespace {
 
-// The size of the form.
+// The size of the form, and of the footer below it, in which the message line keeps these margins.
 constexpr int kFormWidth = 9600;
-constexpr int kFormHeight = 7605;
+constexpr int kFormHeight = 7140;
+constexpr int kFooterHeight = 465;
+constexpr int kFooterMargin = 120;
+constexpr int kFooterTop = 90;
+constexpr int kFooterBottom = 75;
+
+// Window managers may make a window a little smaller than it asks to be: where a pixel of the form
+// is a fraction of the screen's, whole pixels of the form are rounded. The canvas may lose that
+// much of its margins before it scrolls.
+constexpr int kRounding = 3;
 
 // What the places leave to texts and to the style: the label of the compressibility field shows its
 // short caption on one line and breaks the long one into two, a row holds a text box, a frame's
@@ -33,7 +43,8 @@ constexpr int kTextBoxFrame = 8;
 
 }  // namespace
 
-MainForm::MainForm(QWidget& canvas, QMenuBar& menuBar) : canvas_(canvas) {
+MainForm::MainForm(QWidget& canvas, QWidget& footer, QMenuBar& menuBar)
+    : canvas_(canvas), footer_(footer) {
     controls_.reserve(100);
     BuildModeAndFluid();
     BuildFluidProperties();
@@ -77,14 +88,35 @@ void MainForm::SetWidth(const QWidget& widget, int width) {
 void MainForm::PlaceControls() {
     pixelsPerTwipX_ = PixelsPerTwipX();
     pixelsPerTwipY_ = PixelsPerTwipY();
-    canvas_.setFixedSize(static_cast<int>(std::ceil(kFormWidth * pixelsPerTwipX_)),
-                         static_cast<int>(std::ceil(kFormHeight * pixelsPerTwipY_)));
+    canvas_.setMinimumSize(CanvasSize() - QSize(kRounding, kRounding));
     for (const NamedControl& control : controls_) {
         if (control.widget != nullptr && control.place.width > 0) {
             Place(control);
         }
     }
     PlaceByText();
+    PlaceFooter();
+}
+
+QSize MainForm::CanvasSize() const {
+    return {static_cast<int>(std::ceil(kFormWidth * pixelsPerTwipX_)),
+            static_cast<int>(std::ceil(kFormHeight * pixelsPerTwipY_))};
+}
+
+int MainForm::FooterHeight() const {
+    return static_cast<int>(std::ceil(kFooterHeight * pixelsPerTwipY_));
+}
+
+QSize MainForm::WholeSize() const {
+    return CanvasSize() + QSize(0, FooterHeight());
+}
+
+void MainForm::PlaceFooter() {
+    const auto x = static_cast<int>(std::lround(kFooterMargin * pixelsPerTwipX_));
+    const auto top = static_cast<int>(std::lround(kFooterTop * pixelsPerTwipY_));
+    const auto bottom = static_cast<int>(std::lround(kFooterBottom * pixelsPerTwipY_));
+    footer_.layout()->setContentsMargins(x, top, x, bottom);
+    lblMsg->setMinimumHeight(FooterHeight() - top - bottom);
 }
 
 void MainForm::PlaceByText() {
@@ -107,7 +139,7 @@ double MainForm::PixelsPerTwipX() const {
         const bool showsText =
             control.kind == ControlKind::Label || control.kind == ControlKind::Option ||
             control.kind == ControlKind::Button || control.kind == ControlKind::ComboBox;
-        if (showsText && control.widget != lblCompCorr) {
+        if (showsText && control.place.width > 0 && control.widget != lblCompCorr) {
             const double needed = control.widget->sizeHint().width() + 1;
             scale = std::max(scale, needed / control.place.width);
         }

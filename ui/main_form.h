@@ -42,8 +42,9 @@ struct NamedControl {
 
 class MainForm {
   public:
-    // Builds the controls below `canvas` and the menus in `menuBar`.
-    MainForm(QWidget& canvas, QMenuBar& menuBar);
+    // Builds the controls on `canvas`, the message line in `footer`, which stands below it, and the
+    // menus in `menuBar`.
+    MainForm(QWidget& canvas, QWidget& footer, QMenuBar& menuBar);
 
     // Calculation mode and fluid.
     QWidget* fraCalcOptions = nullptr;
@@ -153,8 +154,12 @@ class MainForm {
     void SetTop(const QWidget& widget, int top);
     void SetWidth(const QWidget& widget, int width);
 
-    // Places every control for the font of the canvas and sizes the canvas to hold them.
+    // Places every control for the font of the canvas, and gives the canvas and the footer the
+    // sizes that they need.
     void PlaceControls();
+
+    // Pixels that the form takes when it is seen whole, the footer included.
+    QSize WholeSize() const;
 
     // As the user sees it: the control's own state and that of every frame around it. Before the
     // window is shown, it is taken as if it were.
@@ -197,11 +202,15 @@ class MainForm {
     double PixelsPerTwipY() const;
     NamedControl& Entry(const QWidget& widget);
     void Place(const NamedControl& control) const;
+    void PlaceFooter();
+    QSize CanvasSize() const;
+    int FooterHeight() const;
     // Lets the labels of the plate warning read as one line of text, and the last line of that of
     // the compressibility field stand in a row with the option beside it.
     void PlaceByText();
 
     QWidget& canvas_;
+    QWidget& footer_;
     std::vector<NamedControl> controls_;
     double pixelsPerTwipX_ = 0;
     double pixelsPerTwipY_ = 0;

@@ -2,6 +2,8 @@
 #include "ui/main_form.h"
 #include "ui/tab_control.h"
 
+#include <QHBoxLayout>
+
 namespace tarvix {
 
 namespace {
@@ -233,8 +235,11 @@ void MainForm::BuildBore() {
 }
 
 void MainForm::BuildMessageAndButtons() {
-    lblMsg = new MessageLine(&canvas_);
-    Register(lblMsg, "lblMsg", ControlKind::Label, {120, 7230, 9360, 300});
+    // In the footer, as wide as the window.
+    lblMsg = new MessageLine(&footer_);
+    auto* footer = new QHBoxLayout(&footer_);
+    footer->addWidget(lblMsg, 1);
+    Register(lblMsg, "lblMsg", ControlKind::Label, {});
     // Beside the modes, but last on the keyboard's way through the window.
     cmdPrint = AddButton(&canvas_, "cmdPrint", "Print", {6360, 960, 1500, 345});
     cmdExit = AddButton(&canvas_, "cmdExit", "Exit", {7980, 960, 1500, 345});

@@ -19,6 +19,9 @@ MessageLine::MessageLine(QWidget* parent) : QLabel(parent) {
     // With a name of its own the label leaves announcing its text to this class.
     setAccessibleName(QStringLiteral("No message"));
     setTextFormat(Qt::PlainText);
+    // In a narrow window the line breaks.
+    setWordWrap(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setIndent(fontMetrics().averageCharWidth());
 }
 

@@ -35,7 +35,8 @@ class FormProceduresTest : public ::testing::Test {
     QWidget canvas_;
     QMenuBar menus_;
     FormState state_;
-    MainForm form_{canvas_, menus_};
+    QWidget footer_;
+    MainForm form_{canvas_, footer_, menus_};
     FormContext context_{form_, state_, module_};
     OrificeCalculations calculations_{context_};
     Warnings warnings_{context_};

@@ -293,7 +293,8 @@ QStringList ListEntryFaults(MainForm& form) {
 QStringList ContrastFaults(frmTarvix& window, bool strokesAreSolid) {
     QStringList faults;
     MainForm& form = window.form();
-    const QImage picture = form.canvas().grab().toImage();
+    const QWidget& whole = *window.centralWidget();
+    const QImage picture = window.centralWidget()->grab().toImage();
     for (const NamedControl* control : VisibleControls(form)) {
         const QRect area = ReadArea(*control);
         const bool isCovered =
@@ -301,7 +302,7 @@ QStringList ContrastFaults(frmTarvix& window, bool strokesAreSolid) {
         if (area.isEmpty() || isCovered) {
             continue;
         }
-        const QRect onCanvas(control->widget->mapTo(&form.canvas(), area.topLeft()), area.size());
+        const QRect onCanvas(control->widget->mapTo(&whole, area.topLeft()), area.size());
         const ColorCounts colors = CountColors(picture, onCanvas);
         const QColor background = MostFrequentColor(colors);
         // The selected text of the focused field has the desktop's own colors.

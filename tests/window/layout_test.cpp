@@ -83,7 +83,7 @@ TEST_F(LayoutTest, FitsOnASmallScreenUpToTenPoints) {
             QApplication::setFont(QFont(family, size));
             frmTarvix& window = Player().window();
             const QSize whole =
-                window.form().canvas().size() + QSize(0, window.menuBar()->sizeHint().height());
+                window.form().WholeSize() + QSize(0, window.menuBar()->sizeHint().height());
             EXPECT_LE(whole.width(), kScreenWidth) << family << size;
             EXPECT_LE(whole.height(), kScreenHeight - kTitleBar) << family << size;
         }

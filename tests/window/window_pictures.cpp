@@ -31,10 +31,7 @@ int main(int argc, char* argv[]) {
             std::fprintf(stderr, "%s\n", qPrintable(why));
             return 1;
         }
-        player.window().setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        player.window().resize(player.form().canvas().size() +
-                               QSize(0, player.window().menuBar()->height()));
-        QCoreApplication::processEvents();
+        player.ShowWhole();
         QString name = state.name;
         name.replace("; ", "-").replace(": ", "-").replace(", ", "-").replace(' ', '_');
         const QString file = QString("%1-%2.png").arg(++number, 3, 10, QLatin1Char('0')).arg(name);

@@ -198,7 +198,14 @@ QString StatePlayer::Play(const WindowState& state) {
             return state.name + ": " + why;
         }
     }
+    ShowWhole();
     return {};
+}
+
+void StatePlayer::ShowWhole() {
+    window().setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    window().resize(form().WholeSize() + QSize(0, window().menuBar()->sizeHint().height()));
+    QCoreApplication::processEvents();
 }
 
 }  // namespace tarvix::testing

@@ -35,6 +35,9 @@ class StatePlayer {
     // Returns the first action that the window refuses, or an empty text.
     QString Play(const WindowState& state);
 
+    // Makes the window as large as the form, however small the screen.
+    void ShowWhole();
+
     frmTarvix& window() { return player_.Window(); }
     MainForm& form() { return player_.Window().form(); }
     ScriptDesk& desk() { return player_.Desk(); }
