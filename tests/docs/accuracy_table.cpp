@@ -3,7 +3,7 @@
 //   expansion,KAPPA,BETA,DIFFERENTIAL PRESSURE / PRESSURE,ERROR OF Y AGAINST EPSILON %
 // CASE is the differential pressure: "normal" 100 inches of water, "high" a quarter of the
 // absolute pressure, the most that ISO 5167-2 allows for a gas.
-#include "calc/orifice_equation.h"
+#include "calc/equation_terms.h"
 #include "tests/docs/estimate_error.h"
 #include "tests/docs/iso5167.h"
 
