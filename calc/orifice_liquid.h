@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calc/equation_terms.h"
+#include "calc/orifice_equation.h"
 
 namespace tarvix {
 

@@ -70,6 +70,8 @@ check_contents() {
         /usr/share/man/man1/tarvix.1.gz /usr/share/doc/tarvix/copyright \
         /usr/share/doc/tarvix/changelog.gz /usr/share/doc/tarvix/method.md \
         /usr/share/doc/tarvix/accuracy.md /usr/share/doc/tarvix/accuracy.svg \
+        /usr/share/doc/tarvix/validation.md /usr/share/doc/tarvix/convergence.svg \
+        /usr/share/doc/tarvix/steam.svg \
         /usr/share/icons/hicolor/scalable/apps/tarvix.svg \
         /usr/share/icons/hicolor/48x48/apps/tarvix.png; do
         grep -qxF "$path" "$work/contents" || fail "the package lacks $path."

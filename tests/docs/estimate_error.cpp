@@ -27,26 +27,6 @@ double AirDensity(double pressurePsia, double tempR) {  // lb per cubic foot
     return pressurePsia * kAirMolarMass / (kGasConstant * tempR);
 }
 
-Outcome Solve(Fluid fluid, const MeteringRun& run) {
-    switch (fluid) {
-        case Fluid::Liquid:
-            return OrificeCalcLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
-        case Fluid::Gas:
-            return OrificeCalcGas(run, {.flowKind = FlowKind::Volume,
-                                        .correction = CompCorrection::None,
-                                        .pressurePsia = kPressurePsia,
-                                        .basePressurePsia = kBasePressurePsia,
-                                        .flowingTempR = kBaseTempR,
-                                        .baseTempR = kBaseTempR,
-                                        .baseSG = 1.0F});
-        case Fluid::Steam:
-            return OrificeCalcSteam(run,
-                                    {.pressurePsia = kPressurePsia,
-                                     .density = SaturatedSteamDensity(kGaugePressurePsi).density});
-    }
-    throw std::logic_error("unknown fluid");
-}
-
 double SolvedValue(Fluid fluid, const MeteringRun& run) {
     const Outcome outcome = Solve(fluid, run);
     if (!outcome.value) {
@@ -70,7 +50,9 @@ FluidData DataOf(Fluid fluid) {
             return {kWaterPoundPerFt3, 0,
                     kGallonM3 * kWaterPoundPerFt3 * kKgPerM3PerPoundPerFt3 / 60};
         case Fluid::Gas:  // standard cubic feet per hour
-            return {AirDensity(double{kPressurePsia}, double{kBaseTempR}), kAirExponent,
+        case Fluid::MonatomicGas:
+            return {AirDensity(double{kPressurePsia}, double{kBaseTempR}),
+                    fluid == Fluid::Gas ? kAirExponent : kMonatomicExponent,
                     AirDensity(double{kBasePressurePsia}, double{kBaseTempR}) * kKgPerPound /
                         kSecondsPerHour};
         case Fluid::Steam:  // pounds per hour
@@ -81,6 +63,27 @@ FluidData DataOf(Fluid fluid) {
 }
 
 }  // namespace
+
+Outcome Solve(Fluid fluid, const MeteringRun& run) {
+    switch (fluid) {
+        case Fluid::Liquid:
+            return OrificeCalcLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
+        case Fluid::Gas:
+        case Fluid::MonatomicGas:
+            return OrificeCalcGas(run, {.flowKind = FlowKind::Volume,
+                                        .correction = CompCorrection::None,
+                                        .pressurePsia = kPressurePsia,
+                                        .basePressurePsia = kBasePressurePsia,
+                                        .flowingTempR = kBaseTempR,
+                                        .baseTempR = kBaseTempR,
+                                        .baseSG = 1.0F});
+        case Fluid::Steam:
+            return OrificeCalcSteam(run,
+                                    {.pressurePsia = kPressurePsia,
+                                     .density = SaturatedSteamDensity(kGaugePressurePsi).density});
+    }
+    throw std::logic_error("unknown fluid");
+}
 
 Comparison Compare(const Point& point) {
     const auto beta = double{point.beta};
@@ -114,12 +117,17 @@ Comparison Compare(const Point& point) {
     run.beta = point.beta;
     result.estimate = SolvedValue(point.fluid, run);
 
+    run.flow = static_cast<float>(result.standard);
+    run.solveFor = SolveFor::DiffPressure;
+    result.solvedDiffPress = SolvedValue(point.fluid, run);
+
     run.solveFor = SolveFor::Beta;
     run.beta = 0;
-    run.flow = static_cast<float>(result.standard);
     result.solvedBeta = SolvedValue(point.fluid, run);
 
     result.flowErrorPercent = 100 * (result.estimate / result.standard - 1);
+    result.diffPressErrorPercent =
+        100 * (result.solvedDiffPress / double{point.diffPressInH2O} - 1);
     result.betaErrorPercent = 100 * (result.solvedBeta / beta - 1);
     return result;
 }

@@ -1,7 +1,7 @@
 // The worked examples of docs/method.md: every figure against an independent calculation in double
 // precision with the document's own constants, and against the program.
-#include "app/sheet/data_checks.h"
-#include "app/sheet/solve_sheet.h"
+#include "app/calculation.h"
+#include "app/data_checks.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
@@ -266,6 +266,20 @@ TEST_F(MethodExamples, GasBack) {
         h *= s;
     }
     EXPECT_EQ(steps.rows().size(), 4U);
+    EXPECT_EQ(steps.rows().back()[0], std::to_string(solved.steps));
+
+    // "In double precision ... the same steps end one earlier: step 44, h = 99.99950."
+    int doubleSteps = 1;
+    h = 50;
+    for (double s = 2; s <= 0.999999 || s >= 1.000001; ++doubleSteps) {
+        s = std::sqrt(target / (Expansion(0.5, h, p) * std::sqrt(h * p / tempR))) / 2.067;
+        if (s > 0.999999 && s < 1.000001) {
+            break;
+        }
+        h *= s;
+    }
+    EXPECT_EQ(doubleSteps, 44);
+    EXPECT_NEAR(h, 99.99950, 5e-6);
     ASSERT_TRUE(solved.value);
     EXPECT_NEAR(steps.Number(steps.rows().back()[0], 1), double{*solved.value}, 5.1e-6);
 }

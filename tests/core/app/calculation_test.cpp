@@ -1,5 +1,6 @@
 // One recalculation: from the texts of a sheet to the text of the result.
-#include "app/sheet/solve_sheet.h"
+#include "app/calculation.h"
+
 #include "app/sheets.h"
 #include "named_row.h"
 

@@ -1,5 +1,6 @@
 // What the equations of the three fluids share.
-#include "calc/equation_terms.h"
+#include "calc/orifice_equation.h"
+
 #include "outcomes.h"
 
 #include <cmath>

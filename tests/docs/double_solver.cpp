@@ -1,0 +1,129 @@
+#include "tests/docs/double_solver.h"
+
+#include "tests/core/reference_meter.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace tarvix::accuracy {
+
+namespace {
+
+constexpr double kAtmospherePsi = 14.7;
+constexpr double kRankine = 459.67;
+constexpr double kBaseTempR = 60 + kRankine;
+
+struct Meter {
+    testing::ReferenceMeter meter;
+    double flowPerUnit;  // the calculation unit's flow in one of the shown unit
+};
+
+double PressurePsia(const InputSheet& sheet, const UnitFactors& units) {
+    const double psi = ValueOfText(sheet.pf) * units.Of("press", sheet.pressUnit.text);
+    return sheet.absolutePressure ? psi : psi + kAtmospherePsi;
+}
+
+testing::ReferenceMeter GasMeter(const InputSheet& sheet, const UnitFactors& units,
+                                 double diameterIn) {
+    const double p = PressurePsia(sheet, units);
+    const double typed = ValueOfText(sheet.tf);
+    const double tempR = (sheet.degC ? 1.8 * typed + 32 : typed) + kRankine;
+    const double gravity = sheet.gasSGb.empty() ? 1 : ValueOfText(sheet.gasSGb);
+    const double ideal = 2.698825 * p * gravity / tempR;
+    double density = ideal;
+    if (sheet.compCorrection == CompCorrection::Zf) {
+        density = ideal / ValueOfText(sheet.zf);
+    } else if (sheet.compCorrection == CompCorrection::Density) {
+        density = ValueOfText(sheet.zf) * units.Of("density", sheet.zfDensityUnit.text);
+    }
+    if (sheet.flowKind == "M") {
+        return {358.927 / (39.6619322 / 519.67), std::sqrt(density), p, diameterIn};
+    }
+    const double zf = ideal / density;
+    return {218.468 * kBaseTempR / kAtmospherePsi, std::sqrt(p / (tempR * gravity * zf)), p,
+            diameterIn};
+}
+
+Meter MeterOf(const InputSheet& sheet, const UnitFactors& units) {
+    const double diameterIn = ValueOfText(sheet.pipeDiameter);
+    const double flowFactor = units.Of("flow " + sheet.fluidType, sheet.flowUnit.text) /
+                              units.Of("time", sheet.timeUnit.text);
+    if (sheet.fluidType == "L") {
+        const double base = sheet.flowKind == "M" ? 1 : ValueOfText(sheet.sgb);
+        return {{5.66646 / base, std::sqrt(ValueOfText(sheet.sgf)), 0, diameterIn}, flowFactor};
+    }
+    if (sheet.fluidType == "G") {
+        return {GasMeter(sheet, units, diameterIn), flowFactor * 60};
+    }
+    const double density = ValueOfText(sheet.density) * units.Of("density", sheet.densityUnit.text);
+    return {{358.927, std::sqrt(density), PressurePsia(sheet, units), diameterIn}, flowFactor * 60};
+}
+
+}  // namespace
+
+UnitFactors::UnitFactors(const std::string& path) {
+    std::ifstream stream(path);
+    std::string line;
+    std::getline(stream, line);  // the heading
+    while (std::getline(stream, line)) {
+        std::istringstream cells(line);
+        std::string list;
+        std::string position;
+        std::string text;
+        std::string kind;
+        std::string factor;
+        std::getline(cells, list, '\t');
+        std::getline(cells, position, '\t');
+        std::getline(cells, text, '\t');
+        std::getline(cells, kind, '\t');
+        std::getline(cells, factor, '\t');
+        factors_[{list, text}] = ValueOfText(factor);
+    }
+    if (factors_.empty()) {
+        throw std::runtime_error("no units in " + path);
+    }
+}
+
+double UnitFactors::Of(const std::string& list, std::string_view unit) const {
+    const auto found = factors_.find({list, std::string(unit)});
+    if (found == factors_.end()) {
+        throw std::runtime_error("no unit " + std::string(unit) + " in " + list);
+    }
+    return found->second;
+}
+
+double ExactResult(const InputSheet& sheet, const UnitFactors& units) {
+    const Meter m = MeterOf(sheet, units);
+    const double inches = units.Of("deltaP", sheet.deltaPUnit.text);
+    const auto flow = [&] { return ValueOfText(sheet.flow) * m.flowPerUnit; };
+    const auto h = [&] { return ValueOfText(sheet.deltaP) * inches; };
+    switch (sheet.mode.value()) {
+        case SolveFor::FlowRate:
+            return m.meter.Flow(ValueOfText(sheet.beta), h()) / m.flowPerUnit;
+        case SolveFor::DiffPressure:
+            return m.meter.DiffPressure(flow(), ValueOfText(sheet.beta)) / inches;
+        case SolveFor::Beta:
+            break;
+    }
+    return m.meter.Beta(flow(), h());
+}
+
+double ExactResult(InputSheet sheet, SolveFor mode, const UnitFactors& units) {
+    sheet.mode = mode;
+    return ExactResult(sheet, units);
+}
+
+double ValueOfText(std::string text) {
+    std::erase(text, ',');
+    char* end = nullptr;
+    const double value = std::strtod(text.c_str(), &end);
+    if (text.empty() || *end != '\0') {
+        throw std::runtime_error("no number: " + text);
+    }
+    return value;
+}
+
+}  // namespace tarvix::accuracy

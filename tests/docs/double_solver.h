@@ -1,0 +1,37 @@
+// The result of an input sheet once more, apart from the program: number texts by the C library,
+// unit factors by name from tests/data/units.tsv, the equations in double precision, and roots by
+// bisection instead of the program's steps.
+#pragma once
+
+#include "app/input_sheet.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tarvix::accuracy {
+
+class UnitFactors {
+  public:
+    // Reads the table; throws when it can't.
+    explicit UnitFactors(const std::string& path);
+
+    // By list ("press", "deltaP", "density", "time", "flow L", ...) and unit. Throws for another.
+    double Of(const std::string& list, std::string_view unit) const;
+
+  private:
+    std::map<std::pair<std::string, std::string>, double> factors_;
+};
+
+// What the sheet's result field should show, not rounded, in the sheet's units. A differential
+// pressure is the one below the peak of the flow curve. 0: there is no root.
+double ExactResult(const InputSheet& sheet, const UnitFactors& units);
+
+// The same for another mode than the sheet's.
+double ExactResult(InputSheet sheet, SolveFor mode, const UnitFactors& units);
+
+// The value of a number text of the US locale, with or without group separators.
+double ValueOfText(std::string text);
+
+}  // namespace tarvix::accuracy
