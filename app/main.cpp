@@ -1,9 +1,9 @@
-#include "app/frm_tarvix.h"
-#include "app/system_locale.h"
-#include "ui/frm_splash.h"
-#include "ui/qt_platform.h"
-#include "ui/window_host_qt.h"
-#include "ui/window_icon.h"
+#include "app/window/frm_tarvix.h"
+#include "app/window/system_locale.h"
+#include "ui/windows/frm_splash.h"
+#include "ui/windows/qt_platform.h"
+#include "ui/windows/window_host_qt.h"
+#include "ui/windows/window_icon.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // The calculator without its window: whole recalculations, the equations alone, and the gas
 // iteration beside the bare loop of its square roots and powers.
-#include "app/calculation.h"
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
+#include "app/sheet/solve_sheet.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"

@@ -1,8 +1,8 @@
 // A system without boxes or printer, for benchmarks.
 #pragma once
 
-#include "app/platform.h"
-#include "ui/window_host.h"
+#include "app/shared/platform.h"
+#include "ui/windows/window_host.h"
 
 #include <cstdlib>
 

@@ -1,8 +1,8 @@
 // One key press in a field to the new result painted: the calculator's window beside a bare window
 // whose text field is echoed into a second one.
-#include "app/frm_tarvix.h"
+#include "app/window/frm_tarvix.h"
 #include "bench/bench_desk.h"
-#include "ui/frm_splash.h"
+#include "ui/windows/frm_splash.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 // One report, composed and painted into a PDF in memory, as it is on its way to a printer.
 #include "bench/bench_desk.h"
-#include "report/page_painter.h"
-#include "report/report_page.h"
+#include "report/page/report_page.h"
+#include "report/printer/page_painter.h"
 
 #include <QBuffer>
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
 // The program's own start, splash included but for its wait, up to the painted main window.
-#include "app/frm_tarvix.h"
-#include "app/system_locale.h"
+#include "app/window/frm_tarvix.h"
+#include "app/window/system_locale.h"
 #include "bench/bench_desk.h"
 #include "bench/stop_after.h"
-#include "ui/frm_splash.h"
+#include "ui/windows/frm_splash.h"
 
 #include <memory>
 

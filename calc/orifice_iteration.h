@@ -6,7 +6,7 @@
 // steps, so that they also settle where the expansion factor bends the curve.
 #pragma once
 
-#include "calc/orifice_equation.h"
+#include "calc/equation_terms.h"
 
 #include <cmath>
 #include <string_view>

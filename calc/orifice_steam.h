@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calc/orifice_equation.h"
+#include "calc/equation_terms.h"
 
 namespace tarvix {
 

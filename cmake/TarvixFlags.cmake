@@ -14,8 +14,10 @@ if(TARVIX_SANITIZE OR TARVIX_FUZZ)
     set(TARVIX_DIVIDES_BY_ZERO -fno-sanitize=float-divide-by-zero)
 endif()
 
-# One interface target carries the language level and the warnings.
+# One interface target carries the language level, the warnings, and the folder from which every
+# include is written.
 add_library(tarvix_flags INTERFACE)
+target_include_directories(tarvix_flags INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_features(tarvix_flags INTERFACE cxx_std_20)
 
 if(MSVC)

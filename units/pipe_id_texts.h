@@ -1,7 +1,7 @@
 // The texts of the nominal size and pipe ID lists in inches, millimeters and centimeters.
 #pragma once
 
-#include "app/number_text.h"
+#include "numbers/number_text.h"
 #include "units/unit_tables.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 // Number locales as the systems of these countries have them.
 #pragma once
 
-#include "app/number_text.h"
+#include "numbers/number_text.h"
 
 namespace tarvix::testing {
 

@@ -1,7 +1,7 @@
 // What tests ask of an equation's outcome.
 #pragma once
 
-#include "calc/orifice_equation.h"
+#include "calc/equation_terms.h"
 
 #include <gtest/gtest.h>
 #include <string>

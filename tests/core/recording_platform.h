@@ -2,7 +2,7 @@
 // program into an exception that only tests know.
 #pragma once
 
-#include "app/platform.h"
+#include "app/shared/platform.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 // There and back through the texts of the fields, in every unit: what is shown as a flow, typed
 // back in, gives the differential pressure and the beta it came from, as far as its digits reach.
-#include "app/calculation.h"
+#include "app/sheet/solve_sheet.h"
 #include "app/sheets.h"
 
 #include <cmath>

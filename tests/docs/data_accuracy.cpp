@@ -6,7 +6,7 @@
 //   outside SIZE SCHEDULE MM                               pipes outside 50 mm to 1000 mm
 // CASE is the differential pressure: "normal" 100 inches of water, "high" a quarter of the
 // absolute pressure, the most that ISO 5167-2 allows for a gas. WITHIN: the limits of the standard.
-#include "calc/orifice_equation.h"
+#include "calc/equation_terms.h"
 #include "tests/docs/data_lines.h"
 #include "tests/docs/estimate_error.h"
 #include "tests/docs/iso5167.h"

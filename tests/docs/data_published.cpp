@@ -4,7 +4,7 @@
 //   example NAME VALUE                     water-like fluid through 50 mm in 73.66 mm, 17 kPa, kg/s
 //   annex TAPS BETA RE PUBLISHED OURS      discharge coefficients of ISO 5167-2:2003
 //   if97 WHAT PUBLISHED OURS               the release's own verification values
-#include "app/calculation.h"
+#include "app/sheet/solve_sheet.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
 #include "tests/docs/data_lines.h"

@@ -3,7 +3,7 @@
 // bisection instead of the program's steps.
 #pragma once
 
-#include "app/input_sheet.h"
+#include "app/sheet/input_sheet.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 // How far the program's estimate is from the full calculation of ISO 5167-2 at one point.
 #pragma once
 
-#include "calc/orifice_equation.h"
+#include "calc/equation_terms.h"
 
 namespace tarvix::accuracy {
 

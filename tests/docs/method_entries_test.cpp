@@ -1,6 +1,6 @@
 // What docs/method.md says of entries and messages against the program's checks.
-#include "app/calculation.h"
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
+#include "app/sheet/solve_sheet.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
 #include "tests/docs/document_figures.h"

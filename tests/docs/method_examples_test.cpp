@@ -1,7 +1,7 @@
 // The worked examples of docs/method.md: every figure against an independent calculation in double
 // precision with the document's own constants, and against the program.
-#include "app/calculation.h"
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
+#include "app/sheet/solve_sheet.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"

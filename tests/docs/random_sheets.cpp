@@ -1,7 +1,7 @@
 #include "tests/docs/random_sheets.h"
 
-#include "app/calculation.h"
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
+#include "app/sheet/solve_sheet.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
 #include "units/flow_units.h"

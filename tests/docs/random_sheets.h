@@ -1,7 +1,7 @@
 // Random metering runs as the window would hold them: number texts and a unit of each list.
 #pragma once
 
-#include "app/input_sheet.h"
+#include "app/sheet/input_sheet.h"
 #include "tests/docs/double_solver.h"
 
 #include <cstdint>

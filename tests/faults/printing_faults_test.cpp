@@ -1,10 +1,10 @@
 // A report that can't be printed loses nothing: the window, the customer lines and the way to print
 // are as they were, and the next report prints.
-#include "app/frm_tarvix.h"
-#include "report/report_printer.h"
+#include "app/window/frm_tarvix.h"
+#include "report/printer/report_printer.h"
 #include "tests/window_script/script_desk.h"
 #include "tests/window_script/window_state.h"
-#include "ui/frm_splash.h"
+#include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 // The clock that is set back, stopped or corrected while the splash waits for it.
-#include "app/module1.h"
-#include "ui/frm_splash.h"
+#include "app/shared/module1.h"
+#include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 // The checks and one whole calculation on random input sheets.
-#include "app/calculation.h"
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
+#include "app/sheet/solve_sheet.h"
 #include "tests/fuzz/sheets.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 // reports a broken property.
 #pragma once
 
-#include "app/module1.h"
-#include "app/number_text.h"
-#include "app/platform.h"
+#include "app/shared/module1.h"
+#include "app/shared/platform.h"
+#include "numbers/number_text.h"
 
 #include <bit>
 #include <cstdint>

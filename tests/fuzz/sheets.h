@@ -2,8 +2,8 @@
 // every text may be anything.
 #pragma once
 
-#include "app/input_sheet.h"
-#include "report/report_page.h"
+#include "app/sheet/input_sheet.h"
+#include "report/page/report_page.h"
 #include "tests/fuzz/fuzz_support.h"
 
 namespace tarvix::fuzz {

@@ -1,6 +1,6 @@
 // Every locale that the toolkit knows: what the program writes in it can be read and typed again.
-#include "app/module1.h"
-#include "app/system_locale.h"
+#include "app/shared/module1.h"
+#include "app/window/system_locale.h"
 #include "tests/core/recording_platform.h"
 
 #include <QDate>

@@ -1,7 +1,7 @@
 // The system's own locale, as the environment of the process names it. What is expected is named by
 // TARVIX_EXPECT_DECIMAL, TARVIX_EXPECT_MILLION (with "_" between the groups) and
 // TARVIX_EXPECT_GROUP (a code point); each environment is a run of its own.
-#include "app/system_locale.h"
+#include "app/window/system_locale.h"
 
 #include <QByteArray>
 #include <QString>

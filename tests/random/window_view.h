@@ -1,8 +1,8 @@
 // What a user sees of the main window after an action.
 #pragma once
 
-#include "app/frm_tarvix.h"
-#include "calc/orifice_equation.h"
+#include "app/window/frm_tarvix.h"
+#include "calc/equation_terms.h"
 #include "calc/orifice_gas.h"
 #include "tests/random/numbers.h"
 #include "tests/random/product_tables.h"

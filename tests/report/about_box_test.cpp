@@ -1,4 +1,4 @@
-#include "ui/about_box.h"
+#include "ui/windows/about_box.h"
 
 #include "tests/report/modal_driver.h"
 

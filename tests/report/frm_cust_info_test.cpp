@@ -1,5 +1,5 @@
 // The customer window, used as a person would: keys and clicks on the shown window.
-#include "ui/frm_cust_info.h"
+#include "ui/windows/frm_cust_info.h"
 
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"

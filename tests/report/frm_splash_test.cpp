@@ -1,5 +1,5 @@
 // The splash window under a clock that the test sets.
-#include "ui/frm_splash.h"
+#include "ui/windows/frm_splash.h"
 
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"

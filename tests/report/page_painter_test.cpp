@@ -1,5 +1,5 @@
 // The page on paper: painted into PDF files and read back with poppler's tools.
-#include "report/page_painter.h"
+#include "report/printer/page_painter.h"
 
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"

@@ -1,7 +1,7 @@
 // Reads a composed page back as rows of text.
 #pragma once
 
-#include "report/report_page.h"
+#include "report/page/report_page.h"
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "report/page_writer.h"
+#include "report/page/page_writer.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -5,9 +5,9 @@
 //                             standard input, and prints then
 //
 // Writes the message boxes that the user would see, one a line, and "going on" at the end.
-#include "report/report_printer.h"
+#include "report/printer/report_printer.h"
 #include "tests/report/sample_sheets.h"
-#include "ui/window_host_qt.h"
+#include "ui/windows/window_host_qt.h"
 
 #include <QApplication>
 #include <QPrinterInfo>

@@ -1,5 +1,5 @@
 // The lower half of the page: notes and footer.
-#include "report/report_page.h"
+#include "report/page/report_page.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
 #include "tests/report/page_rows.h"

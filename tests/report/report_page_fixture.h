@@ -1,7 +1,7 @@
 // Composes pages of the sample sheets for a customer, in American numbers.
 #pragma once
 
-#include "report/report_page.h"
+#include "report/page/report_page.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
 #include "tests/report/page_rows.h"

@@ -1,5 +1,5 @@
 // Printing without a printer: PDF files, the print dialog, what the user is told.
-#include "report/report_printer.h"
+#include "report/printer/report_printer.h"
 
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"

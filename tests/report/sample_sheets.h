@@ -1,7 +1,7 @@
 // What the main window shows after a solved run of each fluid, as the report gets it.
 #pragma once
 
-#include "report/report_page.h"
+#include "report/page/report_page.h"
 
 namespace tarvix::testing {
 

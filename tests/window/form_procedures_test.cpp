@@ -1,8 +1,8 @@
 // The form's procedures called directly: those that nothing in the program calls yet, and states
 // that no user can bring about.
-#include "app/frm_tarvix.h"
+#include "app/window/frm_tarvix.h"
 #include "tests/window_script/script_desk.h"
-#include "ui/frm_splash.h"
+#include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>

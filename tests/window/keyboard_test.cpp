@@ -1,8 +1,8 @@
 // Everything can be done without a mouse.
 #include "tests/window/shown_windows.h"
 #include "tests/window/window_states.h"
-#include "ui/about_box.h"
-#include "ui/frm_cust_info.h"
+#include "ui/windows/about_box.h"
+#include "ui/windows/frm_cust_info.h"
 
 #include <QApplication>
 #include <QMenuBar>

@@ -1,7 +1,7 @@
 #include "tests/window/layout_faults.h"
 
-#include "ui/frame_box.h"
-#include "ui/readable_palette.h"
+#include "ui/controls/frame_box.h"
+#include "ui/controls/readable_palette.h"
 
 #include <QHash>
 #include <QStyle>

@@ -2,7 +2,7 @@
 // columns that are nearly but not quite aligned, texts that can't be read on their background.
 #pragma once
 
-#include "app/frm_tarvix.h"
+#include "app/window/frm_tarvix.h"
 
 #include <QStringList>
 

@@ -3,7 +3,7 @@
 #include "tests/window/layout_faults.h"
 #include "tests/window/layout_fixtures.h"
 #include "tests/window/window_states.h"
-#include "ui/readable_palette.h"
+#include "ui/controls/readable_palette.h"
 
 #include <QApplication>
 #include <QMenu>

@@ -2,8 +2,8 @@
 // same on both sides, option discs as large as their texts and seen on every color, the icon.
 #include "tests/window/desktop_colors.h"
 #include "tests/window/layout_fixtures.h"
-#include "ui/readable_palette.h"
-#include "ui/window_icon.h"
+#include "ui/controls/readable_palette.h"
+#include "ui/windows/window_icon.h"
 
 #include <QTest>
 

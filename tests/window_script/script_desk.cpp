@@ -1,8 +1,8 @@
 #include "tests/window_script/script_desk.h"
 
-#include "report/report_printer.h"
-#include "ui/about_box.h"
-#include "ui/frm_cust_info.h"
+#include "report/printer/report_printer.h"
+#include "ui/windows/about_box.h"
+#include "ui/windows/frm_cust_info.h"
 
 #include <QPrinter>
 #include <QTime>

@@ -2,8 +2,8 @@
 // files.
 #pragma once
 
-#include "app/platform.h"
-#include "ui/window_host.h"
+#include "app/shared/platform.h"
+#include "ui/windows/window_host.h"
 
 #include <QString>
 #include <QStringList>

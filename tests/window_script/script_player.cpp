@@ -1,9 +1,9 @@
 #include "tests/window_script/script_player.h"
 
-#include "app/system_locale.h"
-#include "report/page_writer.h"
+#include "app/window/system_locale.h"
+#include "report/page/page_writer.h"
 #include "tests/window_script/window_state.h"
-#include "ui/frm_splash.h"
+#include "ui/windows/frm_splash.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 // Plays a script of user actions on the real main window and writes what a user would see.
 #pragma once
 
-#include "app/frm_tarvix.h"
+#include "app/window/frm_tarvix.h"
 #include "tests/window_script/script_desk.h"
 
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "ui/form/main_form.h"
 
 #include <QJsonObject>
 

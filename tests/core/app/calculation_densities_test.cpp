@@ -1,6 +1,6 @@
 // What follows from a density or a pressure before anything is solved: the gravity of a liquid, the
 // density of saturated steam, and the two warnings.
-#include "app/calculation.h"
+#include "app/sheet/solve_sheet.h"
 #include "app/sheets.h"
 #include "named_row.h"
 

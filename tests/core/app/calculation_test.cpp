@@ -1,6 +1,5 @@
 // One recalculation: from the texts of a sheet to the text of the result.
-#include "app/calculation.h"
-
+#include "app/sheet/solve_sheet.h"
 #include "app/sheets.h"
 #include "named_row.h"
 

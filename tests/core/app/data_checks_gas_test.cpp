@@ -1,5 +1,5 @@
 // The check of a gas's inputs.
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
 #include "app/sheets.h"
 #include "named_row.h"
 

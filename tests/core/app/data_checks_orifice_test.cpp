@@ -1,5 +1,5 @@
 // The check of flow rate, differential pressure and beta, and the standard range of beta.
-#include "app/data_checks.h"
+#include "app/sheet/data_checks.h"
 #include "app/sheets.h"
 #include "named_row.h"
 

@@ -1,6 +1,6 @@
 // The shared procedures: temperature, the three number scales, the key filter, the decimal
 // separator, and the two ways in which the program ends.
-#include "app/module1.h"
+#include "app/shared/module1.h"
 
 #include "locales.h"
 #include "named_row.h"

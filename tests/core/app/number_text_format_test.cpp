@@ -1,7 +1,7 @@
 // Writing numbers as text, and rounding their decimal form.
-#include "app/number_text.h"
 #include "locales.h"
 #include "named_row.h"
+#include "numbers/number_text.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The numeric test and reading numbers.
-#include "app/number_text.h"
 #include "locales.h"
 #include "named_row.h"
+#include "numbers/number_text.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

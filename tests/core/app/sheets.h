@@ -1,9 +1,9 @@
 // Complete input sheets of each fluid, to be spoiled or varied by tests.
 #pragma once
 
-#include "app/data_checks.h"
-#include "app/input_sheet.h"
-#include "app/module1.h"
+#include "app/shared/module1.h"
+#include "app/sheet/data_checks.h"
+#include "app/sheet/input_sheet.h"
 #include "locales.h"
 #include "named_row.h"
 #include "recording_platform.h"

@@ -1,4 +1,4 @@
-#include "app/window_place.h"
+#include "app/window/window_place.h"
 
 #include <gtest/gtest.h>
 

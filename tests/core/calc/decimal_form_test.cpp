@@ -1,5 +1,5 @@
 // The decimal digits of binary numbers, and rounding them.
-#include "calc/decimal_form.h"
+#include "numbers/decimal_form.h"
 
 #include "named_row.h"
 

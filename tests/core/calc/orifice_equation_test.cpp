@@ -1,6 +1,5 @@
 // What the equations of the three fluids share.
-#include "calc/orifice_equation.h"
-
+#include "calc/equation_terms.h"
 #include "outcomes.h"
 
 #include <cmath>

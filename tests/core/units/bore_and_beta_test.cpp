@@ -1,8 +1,8 @@
 // Bore and beta follow each other through the pipe's inside diameter.
 #include "units/bore_and_beta.h"
 
-#include "app/number_text.h"
 #include "locales.h"
+#include "numbers/number_text.h"
 #include "units/unit_tables.h"
 
 #include <gtest/gtest.h>

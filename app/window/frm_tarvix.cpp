@@ -1,0 +1,161 @@
+#include "app/window/frm_tarvix.h"
+
+#include "app/window/system_locale.h"
+#include "app/window/window_place.h"
+#include "ui/controls/readable_palette.h"
+#include "ui/form/input_reader.h"
+#include "ui/windows/logo_picture.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QEvent>
+#include <QLocale>
+#include <QScreen>
+#include <QStyle>
+
+namespace tarvix {
+
+frmTarvix::frmTarvix(Module1& module, WindowHost& host)
+    : module_(module),
+      host_(host),
+      form_(view_.canvas(), view_.footer(), *menuBar()),
+      context_{form_, state_, module_},
+      calculations_(context_),
+      warnings_(context_),
+      densities_(context_, calculations_),
+      numericFields_(context_, calculations_, densities_, warnings_),
+      boreAndBeta_(context_, calculations_),
+      unitBoxes_(context_, calculations_, densities_, warnings_, numericFields_),
+      flowUnitBoxes_(context_, calculations_),
+      pipeBoxes_(context_, warnings_, boreAndBeta_),
+      fluidOptions_(context_, calculations_, densities_, warnings_, numericFields_, flowUnitBoxes_),
+      modes_(context_, calculations_),
+      accessibleNames_(form_) {
+    setWindowTitle(QStringLiteral("Brindle Tarvix"));
+    setCentralWidget(&view_);
+    ApplyReadableColors();
+    ConnectMenusAndButtons();
+
+    // As designed, before any handler has run.
+    form_.optPgauge->setChecked(true);
+    form_.optDegF->setChecked(true);
+    form_.optSgUser->setChecked(true);
+    form_.optSaturated->setChecked(true);
+    form_.optSteamUser->setChecked(true);
+    accessibleNames_.Update();
+    form_.txtMaskNomSize->hide();
+    form_.fraZfCompWarning->hide();
+    form_.fraPlateThicknessWarning->hide();
+}
+
+frmTarvix::~frmTarvix() {
+    // The view is a member, not a child on the heap.
+    takeCentralWidget();
+}
+
+void frmTarvix::ConnectMenusAndButtons() {
+    QObject::connect(form_.cmdPrint, &QAbstractButton::clicked, this,
+                     [this] { PrintOrificeReport(); });
+    QObject::connect(form_.mnuPrint, &QAction::triggered, this, [this] { PrintOrificeReport(); });
+    QObject::connect(form_.cmdExit, &QAbstractButton::clicked, this,
+                     [this] { module_.ExitProgram(); });
+    QObject::connect(form_.mnuExit, &QAction::triggered, this, [this] { module_.ExitProgram(); });
+    QObject::connect(form_.mnuAbout, &QAction::triggered, this,
+                     [this] { host_.ShowAboutBox(*this); });
+}
+
+void frmTarvix::Form_Load() {
+    FitToScreen();
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const ScreenPoint place =
+        StartPlace(screen.width(), screen.height(), width(), height() + FrameHeight());
+    move(screen.topLeft() + QPoint(place.x, place.y));
+    state_.SuspendCalc = true;
+    module_.FluidType = "G";
+    pipeBoxes_.LoadcboPipeIDUnit();
+    unitBoxes_.LoadcboPressUnit();
+    unitBoxes_.LoadcboDeltaPUnit();
+    unitBoxes_.LoadcboDensityUnit();
+    pipeBoxes_.LoadcboNomSize();
+    pipeBoxes_.LoadcboPipeID();
+    logo_ = LoadLogo(module_.AppPath + std::string(kBrindleLogo), module_.platform());
+    ShowLogo();
+    SetBackColor(*form_.fraPlateThicknessWarning, BackColor::Yellow);
+    form_.optCompCorrNone->Select();
+    form_.optCalcBeta->Select();
+}
+
+void frmTarvix::Form_Activate() {
+    if (state_.SuspendCalc) {
+        form_.optGas->Select();
+    }
+}
+
+void frmTarvix::showEvent(QShowEvent* event) {
+    Form_Activate();
+    QMainWindow::showEvent(event);
+}
+
+void frmTarvix::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    switch (event->type()) {
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+            form_.PlaceControls();
+            ShowLogo();
+            FitToScreen();
+            break;
+        case QEvent::PaletteChange:
+            ApplyReadableColors();
+            break;
+        default:
+            break;
+    }
+}
+
+void frmTarvix::ApplyReadableColors() {
+    const QPalette colors = ReadablePalette(QGuiApplication::palette());
+    setPalette(colors);
+    form_.mnuFile->setPalette(colors);
+}
+
+// What a window manager adds above and below the window. It is not there before the window is
+// shown; what the toolkit gives windows within a window is about the same.
+int frmTarvix::FrameHeight() const {
+    return style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this) +
+           2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, this);
+}
+
+void frmTarvix::FitToScreen() {
+    const QSize whole = form_.WholeSize() + QSize(0, menuBar()->sizeHint().height());
+    const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, FrameHeight());
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    // The scroll bar for one direction must not take room away in the other.
+    const QSize scrolling(whole.height() > room.height() ? scrollBar : 0,
+                          whole.width() > room.width() ? scrollBar : 0);
+    setMaximumSize(whole + scrolling);
+    resize((whole + scrolling).boundedTo(room));
+}
+
+void frmTarvix::ShowLogo() {
+    constexpr int kMargin = 6;
+    if (!logo_.isNull()) {
+        const QSize card = form_.imgBrindleLogo->size() - QSize(2 * kMargin, 2 * kMargin);
+        form_.imgBrindleLogo->setPixmap(LogoPixmap(logo_, card, devicePixelRatioF()));
+    }
+}
+
+void frmTarvix::PrintOrificeReport() {
+    host_.ShowCustomerWindow(*this, module_);
+    constexpr int kDoNotPrint = 2;
+    if (module_.MsgResult == kDoNotPrint) {
+        return;
+    }
+    setCursor(Qt::BusyCursor);
+    ReportSheet sheet = ReadReportSheet(context_);
+    sheet.date = DateText(QDate::currentDate(), QLocale::system());
+    host_.PrintPage(*this, ComposeReport(sheet, module_), logo_);
+    unsetCursor();
+}
+
+}  // namespace tarvix

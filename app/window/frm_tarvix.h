@@ -1,0 +1,72 @@
+// The main window.
+//
+// It builds its form and the behaviours that own the form's handlers, and holds the start-up, the
+// menus and the buttons. One edit travels: control -> handler (a behaviour in ui/) ->
+// OrificeCalculations::DoOrificeCalculations -> checks and equation (pure, app/ and calc/) ->
+// result field or message line.
+#pragma once
+
+#include "app/window/mode_options.h"
+#include "ui/form/accessible_names.h"
+#include "ui/form/form_view.h"
+#include "ui/handlers/fluid_options.h"
+#include "ui/handlers/pipe_boxes.h"
+#include "ui/handlers/unit_boxes.h"
+#include "ui/windows/window_host.h"
+
+#include <QImage>
+#include <QMainWindow>
+
+namespace tarvix {
+
+class frmTarvix : public QMainWindow {
+  public:
+    // Builds the window. Form_Load is the caller's next step, then showing it.
+    frmTarvix(Module1& module, WindowHost& host);
+
+    frmTarvix(const frmTarvix&) = delete;
+    frmTarvix& operator=(const frmTarvix&) = delete;
+    ~frmTarvix() override;
+
+    // Places the window, fills the lists, loads the logo and selects the first mode.
+    void Form_Load();
+
+    MainForm& form() { return form_; }
+    const FormState& state() const { return state_; }
+    int calculationRuns() const { return calculations_.runs(); }
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    // Selects gas when the window is first shown, which ends the loading state.
+    void Form_Activate();
+    void ConnectMenusAndButtons();
+    void ShowLogo();
+    void ApplyReadableColors();
+    int FrameHeight() const;
+    void FitToScreen();
+    void PrintOrificeReport();
+
+    Module1& module_;
+    WindowHost& host_;
+    FormView view_;
+    FormState state_;
+    MainForm form_;
+    FormContext context_;
+    OrificeCalculations calculations_;
+    Warnings warnings_;
+    Densities densities_;
+    NumericFields numericFields_;
+    BoreAndBeta boreAndBeta_;
+    UnitBoxes unitBoxes_;
+    FlowUnitBoxes flowUnitBoxes_;
+    PipeBoxes pipeBoxes_;
+    FluidOptions fluidOptions_;
+    ModeOptions modes_;
+    AccessibleNames accessibleNames_;
+    QImage logo_;
+};
+
+}  // namespace tarvix

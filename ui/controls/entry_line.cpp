@@ -1,0 +1,71 @@
+#include "ui/controls/entry_line.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <utility>
+
+namespace tarvix {
+
+namespace {
+
+// The focus comes back from another window, the menu bar or the line's own menu.
+bool FocusComesBack(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+}  // namespace
+
+void EntryLine::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (FocusComesBack(event->reason())) {
+        return;
+    }
+    focusCameByThisPress_ = event->reason() == Qt::MouseFocusReason;
+    if (onGotFocus) {
+        onGotFocus();
+    }
+}
+
+void EntryLine::mousePressEvent(QMouseEvent* event) {
+    // The press that brings the focus leaves the whole text selected; the next one sets the caret.
+    if (std::exchange(focusCameByThisPress_, false)) {
+        if (event->button() == Qt::LeftButton) {
+            enteringPress_ = event->pos();
+        }
+        return;
+    }
+    QLineEdit::mousePressEvent(event);
+}
+
+void EntryLine::mouseMoveEvent(QMouseEvent* event) {
+    if (enteringPress_) {
+        // A hand that trembles does not select.
+        if ((event->pos() - *enteringPress_).manhattanLength() <
+            QApplication::startDragDistance()) {
+            return;
+        }
+        // Now the press counts, but not as one on the selected text, which would drag that.
+        deselect();
+        QMouseEvent press(QEvent::MouseButtonPress, *enteringPress_, mapToGlobal(*enteringPress_),
+                          Qt::LeftButton, event->buttons(), event->modifiers());
+        enteringPress_.reset();
+        QLineEdit::mousePressEvent(&press);
+    }
+    QLineEdit::mouseMoveEvent(event);
+}
+
+void EntryLine::mouseReleaseEvent(QMouseEvent* event) {
+    enteringPress_.reset();
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void EntryLine::keyPressEvent(QKeyEvent* event) {
+    focusCameByThisPress_ = false;
+    QLineEdit::keyPressEvent(event);
+}
+
+}  // namespace tarvix

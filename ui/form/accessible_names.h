@@ -1,0 +1,25 @@
+// What the main window tells screen readers and other helpers: a name for every control that makes
+// sense without the picture, with quantity and unit for a field.
+#pragma once
+
+#include "ui/form/main_form.h"
+
+namespace tarvix {
+
+class AccessibleNames {
+  public:
+    // Names the controls of the form. Fields and lists are named anew when a mode, an option or a
+    // unit has been chosen; so this is built after everything that handles a choice.
+    explicit AccessibleNames(MainForm& form);
+
+    // The fields and lists, as modes, options and units stand.
+    void Update();
+
+  private:
+    void NameFixedControls() const;
+    void NameOptions() const;
+
+    MainForm& form_;
+};
+
+}  // namespace tarvix

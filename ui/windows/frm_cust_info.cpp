@@ -1,0 +1,141 @@
+#include "ui/windows/frm_cust_info.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace tarvix {
+
+namespace {
+
+// The outcome of the window, left in Module1's MsgResult.
+constexpr int kPrint = 1;
+constexpr int kDoNotPrint = 2;
+
+// The width of the lines.
+constexpr int kEntryCharacters = 44;
+
+QString Shown(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+}  // namespace
+
+frmCustInfo::frmCustInfo(Module1& module, QWidget* parent)
+    : QDialog(parent),
+      Frame1(new QFrame(this)),
+      Label1(new QLabel("Customer", Frame1)),
+      txtCust1(new EntryLine(Frame1)),
+      txtCust2(new EntryLine(Frame1)),
+      Label2(new QLabel("Tag", Frame1)),
+      txtTag(new EntryLine(Frame1)),
+      cmdPrint(new QPushButton("Print", this)),
+      cmdClear(new QPushButton("Clear", this)),
+      cmdCancel(new QPushButton("Cancel", this)),
+      module_(module) {
+    setWindowTitle("Brindle Tarvix");
+    setModal(true);
+    NameControls();
+    LayOut();
+    ConnectHandlers();
+    Form_Load();
+}
+
+void frmCustInfo::NameControls() {
+    setObjectName("frmCustInfo");
+    Frame1->setObjectName("Frame1");
+    Label1->setObjectName("Label1");
+    txtCust1->setObjectName("txtCust1");
+    txtCust2->setObjectName("txtCust2");
+    Label2->setObjectName("Label2");
+    txtTag->setObjectName("txtTag");
+    cmdPrint->setObjectName("cmdPrint");
+    cmdClear->setObjectName("cmdClear");
+    cmdCancel->setObjectName("cmdCancel");
+
+    txtCust1->setAccessibleName("Customer");
+    txtCust2->setAccessibleName("Customer, second line");
+    txtTag->setAccessibleName("Tag");
+    cmdPrint->setAccessibleDescription("Prints the report with these lines");
+    cmdClear->setAccessibleDescription("Empties the three lines");
+    cmdCancel->setAccessibleDescription("Closes the window without printing");
+}
+
+void frmCustInfo::LayOut() {
+    Frame1->setFrameShape(QFrame::StyledPanel);
+    auto* entries = new QGridLayout(Frame1);
+    entries->addWidget(Label1, 0, 0);
+    entries->addWidget(txtCust1, 0, 1);
+    entries->addWidget(txtCust2, 1, 1);
+    entries->addWidget(Label2, 2, 0);
+    entries->addWidget(txtTag, 2, 1);
+    entries->setColumnStretch(1, 1);
+    const int blank = fontMetrics().horizontalAdvance('x');
+    entries->setHorizontalSpacing(2 * blank);
+    entries->setContentsMargins(2 * blank, 2 * blank, 2 * blank, 2 * blank);
+    txtCust1->setMinimumWidth(kEntryCharacters * fontMetrics().averageCharWidth());
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdPrint);
+    buttons->addWidget(cmdClear);
+    buttons->addWidget(cmdCancel);
+    cmdPrint->setDefault(true);
+    txtCust1->setFocus();
+
+    auto* window = new QVBoxLayout(this);
+    window->addWidget(Frame1);
+    window->addSpacing(blank);
+    window->addLayout(buttons);
+    window->setSizeConstraint(QLayout::SetMinimumSize);
+}
+
+void frmCustInfo::ConnectHandlers() {
+    txtCust1->onGotFocus = [this] { txtCust1_GotFocus(); };
+    txtCust2->onGotFocus = [this] { txtCust2_GotFocus(); };
+    txtTag->onGotFocus = [this] { txtTag_GotFocus(); };
+    connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
+    connect(cmdClear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
+    connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+}
+
+void frmCustInfo::Form_Load() {
+    txtCust1->setText(Shown(module_.CustLine1));
+    txtCust2->setText(Shown(module_.CustLine2));
+    txtTag->setText(Shown(module_.TagText));
+    // However the window is closed, nothing is printed unless Print was pressed.
+    module_.MsgResult = kDoNotPrint;
+}
+
+void frmCustInfo::cmdPrint_Click() {
+    module_.CustLine1 = txtCust1->text().toStdString();
+    module_.CustLine2 = txtCust2->text().toStdString();
+    module_.TagText = txtTag->text().toStdString();
+    module_.MsgResult = kPrint;
+    accept();
+}
+
+void frmCustInfo::cmdClear_Click() {
+    txtCust1->setText("");
+    txtCust2->setText("");
+    txtTag->setText("");
+}
+
+void frmCustInfo::cmdCancel_Click() {
+    module_.MsgResult = kDoNotPrint;
+    reject();
+}
+
+void frmCustInfo::txtCust1_GotFocus() {
+    txtCust1->selectAll();
+}
+
+void frmCustInfo::txtCust2_GotFocus() {
+    txtCust2->selectAll();
+}
+
+void frmCustInfo::txtTag_GotFocus() {
+    txtTag->selectAll();
+}
+
+}  // namespace tarvix

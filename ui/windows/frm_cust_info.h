@@ -1,0 +1,45 @@
+// The customer window: asks, before a report is printed, who it is for and for the tag.
+#pragma once
+
+#include "app/shared/module1.h"
+#include "ui/controls/entry_line.h"
+
+#include <QDialog>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+
+namespace tarvix {
+
+class frmCustInfo : public QDialog {
+  public:
+    // Shows what `module` holds of earlier reports. Its MsgResult is 1 after Print, else 2.
+    explicit frmCustInfo(Module1& module, QWidget* parent = nullptr);
+
+    void Form_Load();
+    void cmdPrint_Click();
+    void cmdClear_Click();
+    void cmdCancel_Click();
+    void txtCust1_GotFocus();
+    void txtCust2_GotFocus();
+    void txtTag_GotFocus();
+
+    QFrame* const Frame1;
+    QLabel* const Label1;
+    EntryLine* const txtCust1;
+    EntryLine* const txtCust2;
+    QLabel* const Label2;
+    EntryLine* const txtTag;
+    QPushButton* const cmdPrint;
+    QPushButton* const cmdClear;
+    QPushButton* const cmdCancel;
+
+  private:
+    void NameControls();
+    void LayOut();
+    void ConnectHandlers();
+
+    Module1& module_;
+};
+
+}  // namespace tarvix

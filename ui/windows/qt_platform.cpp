@@ -1,0 +1,69 @@
+#include "ui/windows/qt_platform.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTime>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace tarvix {
+
+namespace {
+
+QMessageBox::Icon IconOf(BoxStyle style) {
+    switch (style) {
+        case BoxStyle::Critical:
+            return QMessageBox::Critical;
+        case BoxStyle::Exclamation:
+            return QMessageBox::Warning;
+        case BoxStyle::Information:
+            break;
+    }
+    return QMessageBox::Information;
+}
+
+// Carriage returns belong to the line breaks of the text and are not shown.
+QString Displayed(const std::string& text) {
+    return QString::fromStdString(text).remove(QLatin1Char('\r'));
+}
+
+}  // namespace
+
+int QtPlatform::ShowMessageBox(const MessageBoxRequest& request) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(QString::fromStdString(request.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(Displayed(request.text));
+    box.setIcon(IconOf(request.style));
+    const bool canCancel = request.buttons == BoxButtons::OkCancel;
+    box.setStandardButtons(canCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+    box.setDefaultButton(QMessageBox::Ok);
+    const int answer = box.exec();
+    return canCancel && answer != QMessageBox::Ok ? kAnswerCancel : kAnswerOk;
+}
+
+std::optional<std::string> QtPlatform::ShowInputBox(const InputBoxRequest& request) {
+    bool confirmed = false;
+    const QString answer =
+        QInputDialog::getText(QApplication::activeWindow(), QString::fromStdString(request.title),
+                              QString::fromStdString(request.prompt), QLineEdit::Normal,
+                              QString::fromStdString(request.defaultAnswer), &confirmed);
+    return confirmed ? std::optional(answer.toStdString()) : std::nullopt;
+}
+
+int QtPlatform::CurrentSecond() {
+    return QTime::currentTime().second();
+}
+
+void QtPlatform::EndProgram(int exitStatus) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    // No destructor of an object that a handler is still using runs.
+    std::fflush(nullptr);
+    std::_Exit(exitStatus);
+}
+
+}  // namespace tarvix
