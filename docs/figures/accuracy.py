@@ -164,17 +164,21 @@ def small_pipes(data):
 
 
 def outside(data):
-    sizes = {}
-    for size, schedule, mm in data.lines("outside"):
+    sizes, counts = {}, {}
+    for size, count, schedule, mm in data.lines("outside"):
         sizes.setdefault(size, []).append((schedule, float(mm)))
-    whole = [s for s in sizes if max(mm for _, mm in sizes[s]) < 46]
-    whole = [s for s in whole if s in ("1/2", "3/4", "1", "1-1/2")]
-    lines = [f"- all of the sizes {', '.join(whole)} (the largest "
-             f"{max(mm for s in whole for _, mm in sizes[s]):.1f} mm);"]
+        counts[size] = int(count)
+    whole = [s for s in sizes if len(sizes[s]) == counts[s]]
+    lines = []
+    for name, chosen in (("small", [s for s in whole if sizes[s][0][1] < 50]),
+                         ("large", [s for s in whole if sizes[s][0][1] > 50])):
+        extreme = (max if name == "small" else min)(mm for s in chosen for _, mm in sizes[s])
+        lines.append(f"- every pipe of {', '.join(chosen)} inch (the "
+                     f"{'largest' if name == 'small' else 'smallest'} {extreme:.1f} mm);")
     for size in sizes:
         if size not in whole:
-            lines.append(f"- {size} inch: " + ", ".join(f"{schedule} ({mm:.1f} mm)"
-                                                        for schedule, mm in sizes[size]) + ";")
+            lines.append(f"- of the size {size} inch: " + ", ".join(
+                f"{schedule} ({mm:.1f} mm)" for schedule, mm in sizes[size]) + ";")
     return "\n".join(lines)[:-1] + "."
 
 

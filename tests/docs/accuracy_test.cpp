@@ -97,6 +97,32 @@ TEST(Accuracy, LiquidBetaErrorIsTheFlowErrorSeenThroughTheEquation) {
     });
 }
 
+// The flow of a liquid goes with the root of the differential pressure.
+TEST(Accuracy, LiquidDiffPressureErrorIsTheFlowErrorSquared) {
+    ForEachPoint(Fluid::Liquid, 100.0F, [](const Point& point) {
+        const Comparison c = Compare(point);
+        const double flow = 1 + c.flowErrorPercent / 100;
+        EXPECT_NEAR((1 + c.diffPressErrorPercent / 100) * flow * flow, 1, 1e-6);
+    });
+}
+
+// The differential pressure that is solved carries the standard's flow, whatever the gas.
+TEST(Accuracy, SolvedDiffPressureCarriesTheStandardsFlow) {
+    for (const Fluid fluid : {Fluid::Gas, Fluid::MonatomicGas, Fluid::Steam}) {
+        for (const float h : {100.0F, kHigh}) {
+            ForEachPoint(fluid, h, [&](const Point& point) {
+                const Comparison c = Compare(point);
+                MeteringRun run;
+                run.solveFor = SolveFor::FlowRate;
+                run.pipeDiameterIn = point.pipeDiameterIn;
+                run.diffPressInH2O = static_cast<float>(c.solvedDiffPress);
+                run.beta = point.beta;
+                EXPECT_NEAR(double{Solve(fluid, run).value.value()} / c.standard, 1, 3e-6);
+            });
+        }
+    }
+}
+
 // For small errors the error of beta is -(1 - beta^4) / 2 times that of the flow, for all fluids.
 TEST(Accuracy, BetaErrorIsAboutHalfOfTheFlowError) {
     for (const Fluid fluid : {Fluid::Liquid, Fluid::Gas, Fluid::Steam}) {
@@ -204,7 +230,7 @@ TEST(AccuracyDocument, ReynoldsFormulas) {
     const double perInchAndCentipoise = std::acos(-1.0) * kMetersPerInch * 1e-3;
 
     const double poundPerHour = kKgPerPound / 3600;
-    EXPECT_NEAR(figures.Number("W, lb/h"), 4 * poundPerHour / perInchAndCentipoise, 0.005);
+    EXPECT_NEAR(figures.Number("qm, lb/h"), 4 * poundPerHour / perInchAndCentipoise, 0.005);
 
     const double gallonM3 = 231 * std::pow(kMetersPerInch, 3);
     const double gpmOfWater = gallonM3 * 62.366 * kKgPerM3PerPoundPerFt3 / 60;

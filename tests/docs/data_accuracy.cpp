@@ -3,7 +3,8 @@
 //   small FLUID CASE PIPE BETA RE FLOW DP BETA             the formula carried on to smaller pipes
 //   expansion KAPPA BETA DP/P ERROR                        of Y against epsilon
 //   water PIPE INH2O BETA RE WITHIN FLOW DP BETA           water of 1 cP
-//   outside SIZE SCHEDULE MM                               pipes outside 50 mm to 1000 mm
+//   outside SIZE OF SCHEDULE MM                            pipes outside 50 mm to 1000 mm; OF: the
+//                                                          schedules that the size has
 // CASE is the differential pressure: "normal" 100 inches of water, "high" a quarter of the
 // absolute pressure, the most that ISO 5167-2 allows for a gas. WITHIN: the limits of the standard.
 #include "calc/equation_terms.h"
@@ -136,10 +137,12 @@ void PrintSmallPipes() {
         PrintPoints("small", kSmallPipes, fluid, caseName, h, false);
     });
     for (const NominalSize& size : kNominalSizes) {
-        for (const PipeSchedule& schedule : SchedulesOf(size.value)) {
+        const auto schedules = SchedulesOf(size.value);
+        for (const PipeSchedule& schedule : schedules) {
             const double mm = std::stod(std::string(schedule.insideDiameter)) * 25.4;
             if (mm < 50 || mm > 1000) {
-                std::printf("outside\t%s\t%s\t%.2f\n", size.text.data(), schedule.text.data(), mm);
+                std::printf("outside\t%s\t%zu\t%s\t%.2f\n", size.text.data(), schedules.size(),
+                            schedule.text.data(), mm);
             }
         }
     }

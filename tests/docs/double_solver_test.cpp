@@ -1,0 +1,83 @@
+// The second solver on the worked examples of docs/method.md, whose figures are worked out by hand,
+// and what it makes of texts and units.
+#include "tests/docs/double_solver.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace tarvix::accuracy {
+
+namespace {
+
+class DoubleSolver : public ::testing::Test {
+  protected:
+    static InputSheet SheetOf(const char* fluid, SolveFor mode) {
+        InputSheet sheet;
+        sheet.fluidType = fluid;
+        sheet.mode = mode;
+        sheet.flowKind = "V";
+        sheet.deltaPUnit = {"Inches Water", 0};  // the solver takes no factor from the sheet
+        sheet.pressUnit = {"PSI", 0};
+        sheet.densityUnit = {"lb/cubic foot", 0};
+        sheet.pipeDiameter = "4.026";
+        sheet.deltaP = "100";
+        sheet.beta = "0.5";
+        return sheet;
+    }
+
+    UnitFactors units_{TARVIX_UNITS};
+};
+
+}  // namespace
+
+TEST_F(DoubleSolver, LiquidExample) {
+    InputSheet sheet = SheetOf("L", SolveFor::FlowRate);
+    sheet.flowUnit = {"Gallons", 0};
+    sheet.timeUnit = {"Minute", 0};
+    sheet.sgf = "1";
+    sheet.sgb = "1";
+    EXPECT_NEAR(ExactResult(sheet, units_), 142.2869, 5e-5);
+    sheet.flow = "142.3";
+    EXPECT_NEAR(ExactResult(sheet, SolveFor::Beta, units_), 0.5000215, 5e-8);
+    EXPECT_NEAR(ExactResult(sheet, SolveFor::DiffPressure, units_), 100.0184, 5e-5);
+    sheet.timeUnit = {"Hour", 0};
+    EXPECT_NEAR(ExactResult(sheet, units_), 142.2869 * 60, 3e-3);
+}
+
+TEST_F(DoubleSolver, GasExample) {
+    InputSheet sheet = SheetOf("G", SolveFor::FlowRate);
+    sheet.flowUnit = {"Standard Cubic Feet", 0};
+    sheet.timeUnit = {"Day", 0};
+    sheet.pipeDiameter = "2.067";
+    sheet.pf = "100";
+    sheet.tf = "60";
+    sheet.gasSGb = "1";
+    EXPECT_NEAR(ExactResult(sheet, units_), 570361.3, 0.06);
+    sheet.absolutePressure = true;
+    sheet.pf = "114.7";
+    sheet.degC = true;
+    sheet.tf = "15.5555556";
+    EXPECT_NEAR(ExactResult(sheet, units_), 570361.3, 0.06);
+}
+
+TEST_F(DoubleSolver, SteamExample) {
+    InputSheet sheet = SheetOf("S", SolveFor::FlowRate);
+    sheet.flowKind = "M";
+    sheet.flowUnit = {"Pounds", 0};
+    sheet.timeUnit = {"Hour", 0};
+    sheet.pf = "100";
+    sheet.density = "0.25704";
+    EXPECT_NEAR(ExactResult(sheet, units_), 4521.639, 5e-4);
+    sheet.flow = "7,000";
+    EXPECT_NEAR(ExactResult(sheet, SolveFor::Beta, units_), 0.6094046, 3e-7);
+}
+
+TEST_F(DoubleSolver, WhatIsNoNumberAndNoUnit) {
+    EXPECT_EQ(ValueOfText("1,234.5"), 1234.5);
+    EXPECT_THROW(ValueOfText("12x"), std::runtime_error);
+    EXPECT_THROW(ValueOfText(""), std::runtime_error);
+    EXPECT_THROW((void)units_.Of("press", "furlong"), std::runtime_error);
+    EXPECT_THROW(UnitFactors("no such file"), std::runtime_error);
+}
+
+}  // namespace tarvix::accuracy
