@@ -61,11 +61,14 @@ def main():
         for path in stale:
             print(f"{path.relative_to(PROJECT)} is not what make-figures.py makes; run it and "
                   "commit the result", file=sys.stderr)
-    typed = [fault for path in wanted if path.suffix == ".md" and path.parent == DOCS
-             for fault in text.typed_percentages(path.name, wanted[path])]
-    for fault in typed:
+    faults = []
+    for path in wanted:
+        if path.suffix == ".md" and path.parent == DOCS:
+            faults += text.typed_percentages(path.name, wanted[path])
+            faults += text.untrue_quotes(path.name, wanted[path], PROJECT.glob("ui/**/about_box.cpp"))
+    for fault in faults:
         print(fault, file=sys.stderr)
-    return 1 if typed or (stale and arguments.check) else 0
+    return 1 if faults or (stale and arguments.check) else 0
 
 
 if __name__ == "__main__":

@@ -92,3 +92,14 @@ def typed_percentages(name, document):
     for number, line in enumerate(rest.splitlines(), 1):
         if re.search(r"\d ?(%|percent)", line) and not line.startswith(">"):
             yield f"docs/{name}: a typed percentage, made and tested by nothing: {line.strip()}"
+
+
+def untrue_quotes(name, document, sources):
+    """Quotations ("> ...") that are not among the texts of these sources."""
+    texts = " ".join(" ".join(re.findall(r'"([^"]*)"', source.read_text(encoding="utf-8")))
+                     for source in sources)
+    known = " ".join(texts.split())
+    for quote in re.findall(r"(?:^>.*\n)+", document, flags=re.MULTILINE):
+        words = " ".join(quote.replace(">", " ").split())
+        if words not in known:
+            yield f"docs/{name}: quotes what the About window does not say: {words}"
