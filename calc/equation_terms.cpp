@@ -1,5 +1,6 @@
 #include "calc/equation_terms.h"
 
+#include "numbers/arithmetic.h"
 #include "numbers/decimal_form.h"
 
 namespace tarvix {

@@ -25,10 +25,16 @@ if(MSVC)
     target_compile_options(tarvix_flags INTERFACE /W4 /utf-8 /fp:strict
         $<$<BOOL:${TARVIX_WERROR}>:/WX>)
 else()
+    # A fused multiply-add would skip the rounding to single that the equations ask for.
+    include(CheckCXXCompilerFlag)
+    check_cxx_compiler_flag(-ffp-contract=off TARVIX_CAN_REFUSE_CONTRACTION)
+    if(NOT TARVIX_CAN_REFUSE_CONTRACTION)
+        message(FATAL_ERROR "This compiler can't be told to leave multiply and add apart"
+            " (-ffp-contract=off); results would differ between machines.")
+    endif()
     target_compile_options(tarvix_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wdouble-promotion
         $<$<BOOL:${TARVIX_WERROR}>:-Werror>
-        # A fused multiply-add would skip the rounding to single that the equations ask for.
         -ffp-contract=off
         # GCC 12 reports overlaps in std::string's own + at -O3 that are not there (GCC bug 105329).
         $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)

@@ -1,5 +1,7 @@
 #include "numbers/decimal_form.h"
 
+#include "numbers/arithmetic.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
