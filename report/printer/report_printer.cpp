@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 #include <QPageSize>
@@ -108,6 +109,23 @@ QPageSize PaperOf(const QPrinterInfo& printer) {
     return paper;
 }
 
+// Lets the user choose where the page goes on a system without a printer; false when they don't
+// want it printed.
+bool ChoosePrinter(QPrinter& printer, QWidget& owner) {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    QPrintDialog dialog(&printer, &owner);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
+    return dialog.exec() == QDialog::Accepted;
+#else
+    // The system's own dialog knows printers alone, and the toolkit doesn't show it without one.
+    const QString file = QFileDialog::getSaveFileName(
+        &owner, "Print to File", QString("%1.pdf").arg(kDocumentName), "PDF (*.pdf)");
+    printer.setOutputFileName(file);
+    return !file.isEmpty();
+#endif
+}
+
 QString NameOf(const QPrinter& printer) {
     return printer.outputFormat() == QPrinter::PdfFormat
                ? QDir::toNativeSeparators(printer.outputFileName())
@@ -151,13 +169,8 @@ void PrintReport(QWidget& owner, Platform& platform, const ReportPage& page, con
     QPrinter printer(defaultPrinter, QPrinter::HighResolution);
     // The toolkit starts with A4, whatever paper the printer holds.
     printer.setPageSize(PaperOf(defaultPrinter));
-    if (defaultPrinter.isNull()) {
-        QPrintDialog dialog(&printer, &owner);
-        dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-        dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
-        if (dialog.exec() != QDialog::Accepted) {
-            return;
-        }
+    if (defaultPrinter.isNull() && !ChoosePrinter(printer, owner)) {
+        return;
     }
     const PrintOutcome outcome = PrintReportOn(printer, page, logo);
     if (outcome.status != PrintOutcome::Status::Printed) {
