@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Proves the Windows program under Wine.
+#
+# check-windows.sh           a few minutes: the calculator's tests and the bits of its results; where
+#                            Qt for Windows is built already (build-qt.sh), the whole program as well,
+#                            with a part of the scenarios and a few random sessions
+# check-windows.sh --full    all of it; builds Qt where it is not there
+#
+# Pictures and printed pages are left in build/windows/pictures.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
+# shellcheck source=packaging/scripts/common.sh
+source "$here/../scripts/common.sh"
+# shellcheck source=packaging/windows/common.sh
+source "$here/common.sh"
+
+root=$(project_root)
+out=$root/build/windows
+tests=$root/tests/windows
+full=${1:-}
+
+# Debian has the sources of GoogleTest, not its library for Windows.
+build_googletest() {
+    local build=$out/googletest-build
+    [ ! -f "$out/googletest/lib/libgtest.a" ] || return 0
+    say "Building GoogleTest for Windows"
+    mkdir -p "$build"
+    {
+        cmake -S /usr/src/googletest -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+            "-DCMAKE_TOOLCHAIN_FILE=$here/toolchain.cmake" \
+            "-DCMAKE_INSTALL_PREFIX=$out/googletest" &&
+            cmake --build "$build" --target install
+    } >"$build.log" 2>&1 || { tail -n 40 "$build.log" >&2; fail "GoogleTest could not be built."; }
+}
+
+# The same program for this machine, to compare with.
+build_for_here() {
+    cmake --preset "$1" >"$out/here.log" 2>&1 || { cat "$out/here.log" >&2; fail "no preset $1."; }
+    cmake --build --preset "$1" --target "$2" -- --quiet || fail "$2 could not be built."
+}
+
+check_core() {
+    local build=$1
+    say "The calculator under Wine"
+    build_for_here core result_bits
+    build_windows "$build" core_tests report_tests docs_tests result_bits
+    "$tests/core_under_wine.py" "$root/build/core/bin/result_bits" "$build/bin/result_bits.exe" \
+        "$build"/bin/{core,report,docs}_tests.exe
+}
+
+check_window() {
+    local build=$1 sample=() sessions=(--sessions 2 --actions 150)
+    say "The whole program under Wine"
+    build_for_here dev window_script
+    build_windows "$build" window_script system_locale_tests
+    if [ "$full" = --full ]; then
+        sessions=(--sessions 30 --actions 200)
+    else
+        sample=(--every 8)
+    fi
+    "$tests/window_under_wine.py" "${sample[@]}" "${sessions[@]}" \
+        "$root/build/dev/bin/window_script" "$build/bin/window_script.exe" \
+        "$build/bin/system_locale_tests.exe"
+    "$tests/program_under_wine.py" "$out/Tarvix" "$out/pictures"
+    "$tests/installer_under_wine.py" "$out"/tarvix-*-setup.exe "$out/Tarvix"
+}
+
+install_packages windows
+use_compiler_cache
+mkdir -p "$out"
+build_googletest
+if [ "$full" != --full ] && ! qt=$("$here/build-qt.sh" --find); then
+    configure_windows "$out/core" -DTARVIX_BUILD_WINDOW=OFF "-DCMAKE_PREFIX_PATH=$out/googletest"
+    check_core "$out/core"
+    say "NOT CHECKED: the window on Windows, for Qt for Windows is not built on this machine." \
+        "packaging/windows/make-windows.sh builds it, once."
+    exit 0
+fi
+
+"$here/make-windows.sh"
+qt=$("$here/build-qt.sh" --find)
+mapfile -t options < <(qt_options "$qt")
+options[0]+=";$out/googletest"
+configure_windows "$out/program" "${options[@]}" -DTARVIX_BUILD_TESTS=ON
+check_core "$out/program"
+check_window "$out/program"

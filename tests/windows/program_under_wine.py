@@ -1,0 +1,252 @@
+#!/usr/bin/python3
+"""The Windows program as it is handed on, under Wine on a real X server: started, driven by keys
+through a run of each fluid, printed through Windows' print system; and what goes wrong around it.
+
+    program_under_wine.py PROGRAM_FOLDER PLAYER PICTURES
+
+PLAYER is this machine's script player, which rehearses every run and says what the page must say; the
+results beside the runs are worked out by hand. Pictures of the window and the pages are left in the
+folder PICTURES. Exit status 77: the desktop can't be set up here.
+"""
+
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import windows_desk
+from rehearsal import Rehearsal
+from windows_desk import TITLE, wait_until
+
+SKIPPED = 77
+LOGOS = ("BrindleLogo.jpg", "VeltraneLogo.jpg")
+CUSTOMER = ("Northfield", "Unit 4", "FE-4102")
+# A folder as a user may have it: blanks, letters that no single code page has.
+AWKWARD_FOLDER = "Meßblende Ω 測定 (2)"
+DATE = re.compile(r"^\d\d \S+ \d{4}\b")
+
+program_folder = pathlib.Path()
+player = ""
+pictures = pathlib.Path()
+
+
+def in_locale(text, locale):
+    """A text with numbers as they are written in the United States, in the locale."""
+    return text if locale == "en_US" else text.translate(str.maketrans(",.", ".,"))
+
+
+def words(line):
+    return " ".join(line.split())
+
+
+class Runs:
+    """The runs, each with the line of the page that is worked out by hand."""
+
+    @staticmethod
+    def liquid(run, locale):
+        # Water in a 2 inch pipe: E = 0.6 / sqrt(1 - 0.5^4) = 0.619677,
+        # Q = 5.66646 E 0.25 x 2.067^2 sqrt(100) = 37.506 gallons a minute
+        run.tab_to("optGas")
+        run.press("{Left}")
+        run.type_into("txtSGf", "1")
+        run.tab_to("optCalcBeta")
+        run.press("{Left}", "{Left}")
+        run.type_into("txtSGb", "1")
+        run.type_into("txtDeltaP", "100")
+        run.type_into("txtBeta", in_locale("0.5", locale))
+        return "Flow Rate 37.51 Gallons/Minute"
+
+    @staticmethod
+    def gas(run, locale):
+        # Air at 60 Deg F and 100 psi gauge in a 2 inch pipe: E = 0.619677,
+        # Y = 1 - (0.41 + 0.35 x 0.0625) (100 / (27.707 x 114.7)) / 1.3 = 0.989546,
+        # Q = 218.468 E Y 0.25 x 2.067^2 (519.67 / 14.7) sqrt(100 x 114.7 / 519.67) an hour, 24 of
+        # which are 570361.
+        run.press("{Left}", "{Left}")
+        run.type_into("txtTf", "60")
+        run.type_into("txtPf", "100")
+        run.type_into("txtGasSGb", "1")
+        run.type_into("txtDeltaP", "100")
+        run.type_into("txtBeta", in_locale("0.5", locale))
+        return "Flow Rate 570,361.00 Standard Cubic Feet/Day"
+
+    @staticmethod
+    def steam(run, locale):
+        # Saturated at 100 psi gauge: 0.25704 lb per cubic foot in the table.
+        # Q = 358.927 x 0.619677 x 0.989546 x 0.25 x 2.067^2 sqrt(100 x 0.25704) = 1191.87 an hour
+        run.tab_to("optGas")
+        run.press("{Right}")
+        run.tab_to("optSteamUser")
+        run.press("{Left}")
+        run.type_into("txtPf", "100")
+        run.tab_to("optCalcBeta")
+        run.press("{Left}", "{Left}")
+        run.type_into("txtDeltaP", "100")
+        run.type_into("txtBeta", in_locale("0.5", locale))
+        return "Flow Rate 1,192.00 Pounds/Hour"
+
+
+class WindowsCase(unittest.TestCase):
+    printers = True
+
+    @classmethod
+    def setUpClass(cls):
+        cls.scratch = tempfile.TemporaryDirectory(prefix="tarvix-windows-")
+        cls.addClassCleanup(cls.scratch.cleanup)
+        cls.place = pathlib.Path(cls.scratch.name)
+        cls.desk = windows_desk.WindowsDesk(cls.place, printers=cls.printers)
+        cls.addClassCleanup(cls.desk.stop)
+
+    def setUp(self):
+        self.process = None
+        self.addCleanup(self.end_program)
+
+    def end_program(self):
+        if self.process is not None and self.process.poll() is None:
+            self.process.kill()
+        if self.process is not None:
+            self.process.wait()
+
+    def start(self, folder=None):
+        self.process = self.desk.wine.popen((folder or program_folder) / "tarvix.exe",
+                                            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                            stderr=subprocess.DEVNULL)
+        return self.process
+
+    def start_to_main_window(self, folder=None):
+        return self.desk.wait_for_window(process=self.start(folder))
+
+    def picture(self, name):
+        self.desk.desk.take_picture(pictures / f"{name}.png")
+
+    def leave(self):
+        """By the menu, with the question answered."""
+        self.desk.desk.press("alt+f")
+        self.desk.desk.press("x")
+        self.desk.wait_for_window("Program Termination")
+        self.desk.desk.press("Return")
+        self.assertEqual(self.process.wait(windows_desk.desks.PATIENCE), 0)
+
+
+class Journey(WindowsCase):
+    def print_page(self, main_window):
+        self.desk.desk.press("ctrl+p")
+        self.desk.wait_for_window(other_than=main_window)
+        for number, line in enumerate(CUSTOMER):
+            if number:
+                self.desk.desk.press("Tab")
+            self.desk.desk.write(line)
+        self.desk.desk.press("Return")
+        return self.desk.next_page()
+
+    def run_through(self, fluid, locale):
+        rehearsal = Rehearsal(player, locale)
+        by_hand = in_locale(getattr(Runs, fluid)(rehearsal, locale), locale)
+        expected = [words(line) for line in rehearsal.page(CUSTOMER) if line.strip()]
+        self.assertIn(by_hand, expected)
+
+        self.desk.wine.set_locale(locale)
+        main_window = self.start_to_main_window()
+        self.desk.press_all(rehearsal.keys)
+        self.picture(f"{fluid}-{locale}")
+        file = self.print_page(main_window)
+        shutil.copy(file, pictures / f"{fluid}-{locale}.pdf")
+        text = subprocess.run(["pdftotext", "-layout", str(file), "-"], capture_output=True,
+                              encoding="utf-8", check=True).stdout
+        printed = [words(line) for line in text.replace("\f", "").splitlines() if line.strip()]
+        # The month's name is the system's own.
+        self.assertEqual([DATE.sub("DATE", line) for line in printed],
+                         [DATE.sub("DATE", line) for line in expected])
+        self.leave()
+
+    def test_runs(self):
+        for locale in ("en_US", "de_DE"):
+            for fluid in ("liquid", "gas", "steam"):
+                with self.subTest(fluid=fluid, locale=locale):
+                    self.run_through(fluid, locale)
+                self.end_program()
+
+
+class Surroundings(WindowsCase):
+    """What goes wrong around the program: the same boxes as on Linux."""
+
+    printers = False
+
+    def copy_of_program(self, name):
+        folder = self.place / name
+        shutil.copytree(program_folder, folder)
+        return folder
+
+    def expect_box(self, text):
+        self.desk.wait_for_window(process=self.process)
+        copied = self.desk.copy()
+        self.assertEqual([line for line in copied.splitlines() if line.strip("- ")][:2],
+                         [TITLE, text])
+
+    def test_missing_logo(self):
+        folder = self.copy_of_program("no logo")
+        for logo in LOGOS:
+            with self.subTest(logo):
+                (folder / logo).rename(folder / "elsewhere")
+                self.start(folder)
+                path = "Z:" + str(folder / logo).replace("/", "\\")
+                self.expect_box(f"Run-time error: File not found: {path}")
+                self.picture(f"missing-{logo}")
+                self.desk.desk.press("Return")
+                self.assertEqual(self.process.wait(windows_desk.desks.PATIENCE), 1)
+                (folder / "elsewhere").rename(folder / logo)
+
+    def test_awkward_folder_that_is_read_only(self):
+        folder = self.copy_of_program(AWKWARD_FOLDER)
+        before = sorted(path.name for path in folder.rglob("*"))
+        for path in (*folder.rglob("*"), folder):
+            path.chmod(path.stat().st_mode & ~0o222)
+        self.start_to_main_window(folder)
+        self.leave()
+        self.assertEqual(sorted(path.name for path in folder.rglob("*")), before)
+        folder.chmod(0o755)
+
+    def test_no_printer(self):
+        rehearsal = Rehearsal(player, "en_US")
+        Runs.liquid(rehearsal, "en_US")
+        main_window = self.start_to_main_window()
+        self.desk.press_all(rehearsal.keys)
+        self.desk.desk.press("ctrl+p")
+        customer_window = self.desk.wait_for_window(other_than=main_window)
+        self.desk.desk.press("Return")
+        # Some window asks where to print; cancelled, nothing is printed and the program goes on.
+        wait_until("a dialog", lambda: self.desk.desk.xdotool("getactivewindow") not in
+                   (main_window, customer_window, ""))
+        self.picture("no-printer")
+        self.desk.desk.press("Escape")
+        wait_until("the main window again",
+                   lambda: self.desk.desk.xdotool("getactivewindow") == main_window)
+        self.leave()
+
+
+def main():
+    global program_folder, player, pictures
+    if len(sys.argv) < 4:
+        print(__doc__, file=sys.stderr)
+        return 2
+    program_folder, player, pictures = (pathlib.Path(argument).absolute()
+                                        for argument in sys.argv[1:4])
+    pictures.mkdir(parents=True, exist_ok=True)
+    try:
+        with tempfile.TemporaryDirectory(prefix="tarvix-windows-") as folder, \
+                windows_desk.windows_desk(folder):
+            pass
+    except (windows_desk.desks.CannotRun, windows_desk.print_journey.CannotRun,
+            windows_desk.windows.CannotRun) as reason:
+        print(f"SKIPPED: the program under Wine: {reason}")
+        return SKIPPED
+    result = unittest.main(argv=[sys.argv[0], *sys.argv[4:]], exit=False, verbosity=2,
+                           warnings="ignore").result
+    return 0 if result.wasSuccessful() else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,47 @@
+"""What a run of the program by keys must lead to: the script player of this machine plays it first."""
+
+import json
+import os
+import subprocess
+
+
+class Rehearsal:
+    """A run by keys. The player says where the focus goes, so that a field is found by its name, and
+    what the page says in the end."""
+
+    def __init__(self, player, locale):
+        self.player = player
+        self.first = [f"locale {locale}"]
+        self.keys = []
+
+    def play(self, *more):
+        lines = [*self.first, *(f"keys {key}" for key in self.keys), *more, "state"]
+        done = subprocess.run([self.player], input="\n".join(lines) + "\n", capture_output=True,
+                              text=True, encoding="utf-8", check=True,
+                              env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+        answers = [json.loads(line) for line in done.stdout.splitlines()]
+        assert all("controls" in answer for answer in answers), answers[:-1]
+        return answers[-1]
+
+    def tab_to(self, name):
+        start = len(self.keys)
+        while self.play()["focus"] != name:
+            self.keys.append("{Tab}")
+            assert len(self.keys) < start + 40, f"no way by Tab to {name}"
+
+    def press(self, *keys):
+        self.keys += keys
+
+    def type_into(self, name, text):
+        self.tab_to(name)
+        self.press(*text)
+
+    def text(self, name):
+        return self.play()["controls"][name]["text"]
+
+    def page(self, customer):
+        """The lines of the page that printing gives now."""
+        lines = self.play("printer page.pdf", f"customer {'|'.join(customer)}", "answer ok",
+                          "click mnuPrint")["page_lines"]
+        assert len(lines) == 1, lines
+        return lines[0]

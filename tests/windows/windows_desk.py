@@ -1,0 +1,113 @@
+"""A Windows desktop of the tests' own: an X server with a window manager, a print system, and Wine on
+them. Programs are driven by keys and seen from outside: their windows, the clipboard, the pages that
+reach the printer."""
+
+import contextlib
+import pathlib
+import re
+import subprocess
+import sys
+
+TESTS = pathlib.Path(__file__).resolve().parent.parent
+sys.path[:0] = [str(TESTS / "journeys"), str(TESTS / "report")]
+import desk as desks  # noqa: E402  (found by the line above)
+import print_journey  # noqa: E402
+import wine as windows  # noqa: E402
+
+wait_until = desks.wait_until
+TITLE = "Brindle Tarvix"
+# What the script player calls keys, and what X calls them.
+KEYS = {"{Tab}": "Tab", "{Left}": "Left", "{Right}": "Right", "{Enter}": "Return",
+        ",": "comma", ".": "period"}
+
+
+class WindowsDesk:
+    """`printers`: with a default printer, or without any."""
+
+    def __init__(self, folder, printers=True):
+        folder = pathlib.Path(folder)
+        self.system = self.printer = self.wine = None
+        (folder / "desk").mkdir()
+        (folder / "windows").mkdir()
+        (folder / "print").mkdir()
+        folder.chmod(0o755)
+        self.desk = desks.Desk(folder / "desk")
+        try:
+            extra = {"DISPLAY": self.desk.environment["DISPLAY"]}
+            if printers:
+                self.system = print_journey.PrintSystem(folder / "print")
+                self.printer = print_journey.NetworkPrinter()
+                self.system.add_printer(self.printer.port)
+                extra |= {name: self.system.environment[name]
+                          for name in ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")}
+            self.wine = windows.Wine(folder / "windows", extra)
+        except BaseException:
+            self.stop()
+            raise
+        self.pages = folder / "print"
+
+    def stop(self):
+        for part in (self.wine, self.desk, self.system):
+            if part is not None:
+                part.stop()
+        if self.printer is not None:
+            self.printer.close()
+
+    # Windows, seen from outside.
+
+    def windows(self, title=TITLE):
+        return self.desk.xdotool("search", "--onlyvisible", "--name", f"^{re.escape(title)}$").split()
+
+    def has_frame(self, window):
+        extents = subprocess.run(["xprop", "-id", window, "_NET_FRAME_EXTENTS"], text=True,
+                                 env=self.desk.environment, capture_output=True, check=False).stdout
+        return any(number != "0" for number in re.findall(r"\d+", extents))
+
+    def wait_for_window(self, title=TITLE, process=None, other_than=None):
+        """The window of this title that has a frame (the splash has none) and the keyboard."""
+        def look():
+            assert process is None or process.poll() is None, "the program ended"
+            active = self.desk.xdotool("getactivewindow")
+            if active == other_than or active not in self.windows(title):
+                return None
+            return active if self.has_frame(active) else None
+        return wait_until(f"a window '{title}'", look)
+
+    # Hands.
+
+    def press_all(self, keys):
+        """Presses keys in the script player's notation, one after the other."""
+        self.desk.press(*[KEYS.get(key, key) for key in keys])
+
+    def copy(self):
+        """What the program copies: of a message box its texts, of a field what is selected."""
+        subprocess.run(["xclip", "-selection", "clipboard"], env=self.desk.environment,
+                       input=b"nothing copied", timeout=desks.PATIENCE, check=True)
+
+        def look():
+            self.desk.press("ctrl+c")
+            found = subprocess.run(
+                ["xclip", "-selection", "clipboard", "-o", "-t", "UTF8_STRING"], timeout=20,
+                env=self.desk.environment, capture_output=True, check=False).stdout.decode()
+            return found if found != "nothing copied" else None
+        return wait_until("the program copies", look).replace("\r", "")
+
+    # Pages.
+
+    def next_page(self):
+        """The file of the page that comes next to the printer."""
+        wait_until(f"a page at the printer; the server's log ends:\n{self.system.log()}",
+                   lambda: self.printer.pages)
+        data = self.printer.pages.pop(0)
+        file = self.pages / "page.pdf"
+        file.write_bytes(data[data.index(b"%PDF"):])
+        return file
+
+
+@contextlib.contextmanager
+def windows_desk(folder, **options):
+    desk = WindowsDesk(folder, **options)
+    try:
+        yield desk
+    finally:
+        desk.stop()
