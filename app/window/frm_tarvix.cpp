@@ -4,7 +4,6 @@
 #include "app/window/window_place.h"
 #include "ui/controls/readable_palette.h"
 #include "ui/form/input_reader.h"
-#include "ui/windows/logo_picture.h"
 
 #include <QApplication>
 #include <QDate>
@@ -78,7 +77,7 @@ void frmTarvix::Form_Load() {
     unitBoxes_.LoadcboDensityUnit();
     pipeBoxes_.LoadcboNomSize();
     pipeBoxes_.LoadcboPipeID();
-    logo_ = LoadLogo(module_.AppPath + std::string(kBrindleLogo), module_.platform());
+    logo_.emplace(module_.AppPath + std::string(kBrindleLogo), module_.platform());
     ShowLogo();
     SetBackColor(*form_.fraPlateThicknessWarning, BackColor::Yellow);
     form_.optCompCorrNone->Select();
@@ -139,9 +138,9 @@ void frmTarvix::FitToScreen() {
 
 void frmTarvix::ShowLogo() {
     constexpr int kMargin = 6;
-    if (!logo_.isNull()) {
+    if (logo_) {
         const QSize card = form_.imgBrindleLogo->size() - QSize(2 * kMargin, 2 * kMargin);
-        form_.imgBrindleLogo->setPixmap(LogoPixmap(logo_, card, devicePixelRatioF()));
+        form_.imgBrindleLogo->setPixmap(logo_->Pixmap(card, devicePixelRatioF()));
     }
 }
 
@@ -154,7 +153,7 @@ void frmTarvix::PrintOrificeReport() {
     setCursor(Qt::BusyCursor);
     ReportSheet sheet = ReadReportSheet(context_);
     sheet.date = DateText(QDate::currentDate(), QLocale::system());
-    host_.PrintPage(*this, ComposeReport(sheet, module_), logo_);
+    host_.PrintPage(*this, ComposeReport(sheet, module_), logo_->Picture());
     unsetCursor();
 }
 

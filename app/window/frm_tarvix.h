@@ -12,10 +12,12 @@
 #include "ui/handlers/fluid_options.h"
 #include "ui/handlers/pipe_boxes.h"
 #include "ui/handlers/unit_boxes.h"
+#include "ui/windows/logo_picture.h"
 #include "ui/windows/window_host.h"
 
-#include <QImage>
 #include <QMainWindow>
+
+#include <optional>
 
 namespace tarvix {
 
@@ -66,7 +68,7 @@ class frmTarvix : public QMainWindow {
     FluidOptions fluidOptions_;
     ModeOptions modes_;
     AccessibleNames accessibleNames_;
-    QImage logo_;
+    std::optional<Logo> logo_;  // from Form_Load on
 };
 
 }  // namespace tarvix

@@ -58,9 +58,11 @@ none_of "shellcheck finds nothing" bash -c '! shellcheck -x -S warning "$@"' - "
 for logo in BrindleLogo VeltraneLogo; do
     # JFIF: unit (1 is dots per inch) and density across and down, at 13 bytes from the start.
     read -r -a density < <(od -An -tu1 -j 13 -N 5 "packaging/logos/$logo.jpg")
-    [ "${density[*]}" = "1 0 200 0 200" ] || fault "$logo.jpg is not at 200 dots per inch"
+    [ "${density[*]}" = "1 2 88 2 88" ] || fault "$logo.jpg is not at 600 dots per inch"
     size=$(identify -format '%wx%h' "packaging/logos/$logo.jpg")
-    [ "$size" = 424x106 ] || fault "$logo.jpg is not 424 x 106 dots but $size"
+    [ "$size" = 1272x318 ] || fault "$logo.jpg is not 1272 x 318 dots but $size"
+    sampling=$(identify -format '%[jpeg:sampling-factor]' "packaging/logos/$logo.jpg")
+    [ "$sampling" = 1x1,1x1,1x1 ] || fault "$logo.jpg has coarser colours than dots: $sampling"
 done
 
 [ "$faults" -eq 0 ] || fail "$faults house rules are broken."

@@ -112,6 +112,22 @@ QRectF LogoPlace(const QImage& logo) {
     return {0, 0, logo.width() * twipsPerPixelX, logo.height() * twipsPerPixelY};
 }
 
+// The logo with the paper's own white around its ink: what a JPEG makes of white would be printed
+// as a speckled halo.
+QImage OnWhite(const QImage& logo) {
+    constexpr int kNearlyWhite = 240;
+    QImage picture = logo.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb dot = picture.pixel(x, y);
+            if (std::min({qRed(dot), qGreen(dot), qBlue(dot)}) >= kNearlyWhite) {
+                picture.setPixel(x, y, qRgb(255, 255, 255));
+            }
+        }
+    }
+    return picture;
+}
+
 }  // namespace
 
 bool PaintReport(QPagedPaintDevice& device, const ReportPage& page, const QImage& logo) {
@@ -122,6 +138,7 @@ bool PaintReport(QPagedPaintDevice& device, const ReportPage& page, const QImage
     }
     painter.setLayoutDirection(Qt::LeftToRight);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::LosslessImageRendering);
     painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
     painter.translate(paper.leftMargin() - paper.unprintableLeft,
                       paper.topMargin() - paper.unprintableTop);
@@ -129,7 +146,7 @@ bool PaintReport(QPagedPaintDevice& device, const ReportPage& page, const QImage
     painter.scale(scale, scale);
 
     if (!logo.isNull()) {
-        painter.drawImage(LogoPlace(logo), logo);
+        painter.drawImage(LogoPlace(logo), OnWhite(logo));
     }
     for (const ReportLine& line : page.lines) {
         if (!line.text.empty()) {

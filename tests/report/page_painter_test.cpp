@@ -198,6 +198,49 @@ TEST_F(PagePainterTest, LogoStandsAtTheCornerAtItsOwnSize) {
     EXPECT_NEAR(place.height(), 36 * 2, 2);
 }
 
+// The logo that is installed: 1272 x 318 dots at 600 dots per inch are 152.64 x 38.16 points.
+class PrintedLogoTest : public PagePainterTest {
+  protected:
+    void SetUp() override {
+        PagePainterTest::SetUp();
+        ASSERT_TRUE(logo_.load(TARVIX_LOGOS "/BrindleLogo.jpg"));
+    }
+};
+
+TEST_F(PrintedLogoTest, KeepsEveryDotAndIsWhiteWhereThereIsNoInk) {
+    ASSERT_TRUE(Paint(GasSheet(), QPageSize::Letter));
+    EXPECT_EQ(PicturesOf(File()), QStringList{"1272x318 at 600"});
+    const QImage printed = PictureIn(File());
+    ASSERT_EQ(printed.size(), logo_.size());
+    int white = 0;
+    for (int y = 0; y < printed.height(); ++y) {
+        for (int x = 0; x < printed.width(); ++x) {
+            const QRgb dot = printed.pixel(x, y);
+            const int lightest = std::min({qRed(dot), qGreen(dot), qBlue(dot)});
+            white += lightest == 255 ? 1 : 0;
+            // Ink is what it was, dot by dot; the rest is white.
+            ASSERT_TRUE(lightest == 255 || (dot == logo_.pixel(x, y) && lightest < 240))
+                << x << ", " << y << ": " << std::hex << dot;
+        }
+    }
+    // Two thirds of the drawing are white.
+    EXPECT_NEAR(white, printed.width() * printed.height() * 0.67, 4000);
+}
+
+TEST_F(PrintedLogoTest, InkBeginsAtTheTextsCornerAndStaysClearOfTheTitle) {
+    ASSERT_TRUE(Paint(GasSheet(), QPageSize::Letter));
+    constexpr double kDots = 288.0 / 72;  // a point
+    const QImage top = PictureOfPage(File(), 288).copy(0, 0, 2448, 500);
+    const QRect blue = BoundsOf(top, QColor(0x0b, 0x3f, 0x73));
+    EXPECT_NEAR(blue.left(), 36.72 * kDots, 1.5);
+    EXPECT_NEAR(blue.top(), 35.64 * kDots, 1.5);
+    // The drawing is 618 x 136 of the picture's 640 x 160 units.
+    EXPECT_NEAR(blue.width(), 152.64 * 618 / 640 * kDots, 2);
+    EXPECT_NEAR(blue.height(), 38.16 * 136 / 160 * kDots, 2);
+    // The title's capitals begin about 42.8 points below the corner: ten points of air.
+    EXPECT_GT(BoundsOf(top, Qt::black).top() - blue.bottom(), 9 * kDots);
+}
+
 TEST_F(PagePainterTest, BlanksOfGroupedDigitsAreAsWideAsACharacter) {
     Module1 french(platform_, kFrance);
     ReportSheet sheet = LiquidSheet();

@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
@@ -124,6 +125,12 @@ QStringList PicturesOf(const QString& file) {
     return pictures;
 }
 
+QImage PictureIn(const QString& file) {
+    const QTemporaryDir folder;
+    OutputOf("pdfimages", {"-png", file, folder.filePath("picture")});
+    return QImage(folder.filePath("picture-000.png"));
+}
+
 QImage PictureOfPage(const QString& file, int dotsPerInch) {
     return QImage::fromData(OutputOf(
         "pdftoppm", {"-r", QString::number(dotsPerInch), "-f", "1", "-l", "1", "-png", file}));
@@ -134,10 +141,10 @@ QRect BoundsOf(const QImage& picture, const QColor& color) {
     QRect bounds;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            const QColor pixel = picture.pixelColor(x, y);
-            if (std::abs(pixel.red() - color.red()) < kNearly &&
-                std::abs(pixel.green() - color.green()) < kNearly &&
-                std::abs(pixel.blue() - color.blue()) < kNearly) {
+            const QRgb pixel = picture.pixel(x, y);
+            if (std::abs(qRed(pixel) - color.red()) < kNearly &&
+                std::abs(qGreen(pixel) - color.green()) < kNearly &&
+                std::abs(qBlue(pixel) - color.blue()) < kNearly) {
                 bounds |= QRect(x, y, 1, 1);
             }
         }

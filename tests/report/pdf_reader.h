@@ -43,6 +43,9 @@ QStringList FontsOf(const QString& file);
 // The pictures on the page, each as "WIDTHxHEIGHT at DPI".
 QStringList PicturesOf(const QString& file);
 
+// The first picture as the file holds it, dot by dot.
+QImage PictureIn(const QString& file);
+
 // The first page as a picture.
 QImage PictureOfPage(const QString& file, int dotsPerInch);
 

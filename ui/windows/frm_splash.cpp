@@ -147,8 +147,8 @@ void frmSplash::Form_Activate() {
 }
 
 void frmSplash::ShowLogo(QLabel& label, std::string_view fileName) {
-    const QImage logo = LoadLogo(module_.AppPath + std::string(fileName), module_.platform());
-    label.setPixmap(LogoPixmap(logo, kLogoBox, devicePixelRatioF()));
+    const Logo logo(module_.AppPath + std::string(fileName), module_.platform());
+    label.setPixmap(logo.Pixmap(kLogoBox, devicePixelRatioF()));
 }
 
 void frmSplash::RepaintAtOnce() {
