@@ -173,6 +173,5 @@ def readme_blocks(data):
     return {"how good": (
         f"Flow, differential pressure and beta of a liquid are within {liquid} of ISO 5167-2 (gas and "
         f"steam: {others}) at beta 0.15 to 0.67 and Reynolds numbers from 1e5 up, "
-        f"[worse below](docs/accuracy.md). {runs} random runs agree with a second solver within "
-        f"{tiny(largest)} ([validation](docs/validation.md)). "
-        "[Do not use it when](docs/method.md#when-not-to-use-it).")}
+        f"[worse below](docs/accuracy.md); {runs} random runs agree with a second solver within "
+        f"{tiny(largest)} ([validation](docs/validation.md)).")}

@@ -123,9 +123,9 @@ void PrintCoefficients() {
     const double reynolds =
         4 * 0.124431876 / (std::numbers::pi * kDiameterMm / 1000 * 1.85861753095e-5);
     const struct {
-        const char* taps;
+        const char* taps = nullptr;
         iso5167::TapSpacing spacing;
-        double published;
+        double published = 0;
     } arrangements[] = {
         {"corner", iso5167::kCornerTaps, 0.6000085121444034},
         {"D and D/2", iso5167::kDAndHalfDTaps, 0.5988219225153976},
