@@ -35,11 +35,14 @@ class Expectation:
         self.line = line
         self.path = path
         self.value = value
+        self.lines = []  # of a page
 
     def problem(self, state):
         """None when the expectation holds in this state, else what is wrong."""
         if self.path == "boxes":
             return self._boxes_problem(state)
+        if self.path == "page":
+            return self._page_problem(state)
         if self.path in COUNTS or self.path == "focus":
             if self.path not in state:
                 return f"the state has no {self.path}"
@@ -56,6 +59,25 @@ class Expectation:
         if found == self.value and isinstance(found, bool) == isinstance(self.value, bool):
             return None
         return f"{self.path}: expected {show(self.value)}, found {show(found)}"
+
+    def _page_problem(self, state):
+        """The lines stand on the page one right after the other."""
+        pages = state.get("page_lines", [])
+        if self.value > len(pages):
+            return f"page {self.value}: there are {len(pages)} pages"
+        page = pages[self.value - 1]
+        most = 0
+        for start in range(len(page)):
+            same = 0
+            while same < len(self.lines) and page[start + same:start + same + 1] == \
+                    self.lines[same:same + 1]:
+                same += 1
+            if same == len(self.lines):
+                return None
+            if same >= most:
+                most, place = same, start + same
+        found = show(page[place]) if most and place < len(page) else "no such line"
+        return f"page {self.value}: expected {show(self.lines[most])}, found {found}"
 
     def _boxes_problem(self, state):
         if "boxes" not in state:
@@ -104,12 +126,12 @@ def parse_value(path, text):
             unknown = sorted(set(box) - set(BOX_KEYS))
             if unknown:
                 raise NotationError(f"a box has no {', '.join(unknown)}")
-    elif path in COUNTS:
+    elif path in COUNTS or path == "page":
         if isinstance(value, bool) or not isinstance(value, int):
             raise NotationError(f"{path} needs a whole number")
-    elif path == "focus":
+    elif path in ("focus", "line"):
         if not isinstance(value, str):
-            raise NotationError("focus needs a text")
+            raise NotationError(f"{path} needs a text")
     elif not PROPERTY_PATH.fullmatch(path):
         raise NotationError(f"neither NAME.PROPERTY nor a part of the state: {path}")
     return value
@@ -142,6 +164,10 @@ def parse_script(text):
                     raise NotationError("an expectation is a path and a JSON value")
                 value = parse_value(parts[0], parts[1])
                 last.expectations.append(Expectation(number, parts[0], value))
+            elif line.startswith("#| "):
+                if last is None or not last.expectations or last.expectations[-1].path != "page":
+                    raise NotationError("a page's line must follow #= page N")
+                last.expectations[-1].lines.append(parse_value("line", line[3:]))
             elif line == "#! refused" or line in [f"#! ended {how}" for how in ENDINGS]:
                 if command is None or last is not None:
                     raise NotationError(f"{line} must follow the command that it is about")
@@ -155,6 +181,9 @@ def parse_script(text):
                 raise NotationError(f"unknown notation: {line}")
         except NotationError as error:
             raise NotationError(f"{number}: {error}") from error
+    for expectation in [e for answer in answers for e in answer.expectations]:
+        if expectation.path == "page" and (expectation.value < 1 or not expectation.lines):
+            raise NotationError(f"{expectation.line}: page needs a number from 1 and lines")
     if not any(answer.expectations or answer.kind != "state" for answer in answers):
         raise NotationError("1: a scenario without any expectation")
     return answers

@@ -27,6 +27,7 @@ STATE = {
                "default": "0"}],
     "calculations": 3,
     "pages": 0,
+    "page_lines": [["", "Title", "", "Tag: "], ["Tag: ", "Beta"]],
     "focus": "txtFlow",
 }
 
@@ -129,6 +130,19 @@ class RunnerTest(unittest.TestCase):
         self.assert_red('state\n#= boxes [{"title": "Pipe"}]\n', "title of box 1")
         self.assert_red('state\n#= boxes [{"text": "Enter a Pipe ID"}]\n', "text of box 1")
         self.assert_red('state\n#= boxes [{"titel": "Pipe ID"}]\n', "a box has no titel")
+
+    def test_page(self):
+        self.assert_green('state\n#= page 1\n#| "Title"\n#| ""\n#| "Tag: "\n'
+                          '#= page 2\n#| "Beta"\n')
+        self.assert_red('state\n#= page 1\n#| "Title"\n#| "Tag: "\n',
+                        'page 1: expected "Tag: ", found ""')
+        self.assert_red('state\n#= page 1\n#| "Tag:"\n', 'expected "Tag:", found no such line')
+        self.assert_red('state\n#= page 2\n#| "Beta"\n#| ""\n', 'expected "", found no such')
+        self.assert_red('state\n#= page 3\n#| "Beta"\n', "there are 2 pages")
+        self.assert_red('state\n#= page 1\n', "from 1 and lines")
+        self.assert_red('state\n#= page 0\n#| "Beta"\n', "from 1 and lines")
+        self.assert_red('state\n#| "Beta"\n', "must follow #= page N")
+        self.assert_red('state\n#= page 1\n#| Beta\n', "not a JSON value")
 
     def test_refusal_that_was_not_expected(self):
         self.assert_red("click optGas\nstate\n#= calculations 3\n", "expected a state, found",
