@@ -7,13 +7,27 @@
 #include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include <array>
+#include <csignal>
+#include <future>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace tarvix {
 
@@ -35,6 +49,94 @@ class FilePrinterDesk : public ScriptDesk {
     PrintOutcome outcome;
 };
 
+#ifdef Q_OS_UNIX
+
+// While it lives, no file of this process grows beyond a few bytes.
+class FullDisk {
+  public:
+    FullDisk() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &usual_);
+        rlimit few = usual_;
+        few.rlim_cur = 4096;
+        setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &usual_); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit usual_{};
+};
+
+// A pipe with a name, which stands for every device that is no file. Whoever waits at it goes on
+// after a while when nothing is written.
+class Pipe {
+  public:
+    explicit Pipe(const QString& name) : name_(name) {
+        std::signal(SIGPIPE, SIG_IGN);
+        const QByteArray path = QFile::encodeName(name_);
+        EXPECT_EQ(mkfifo(path.constData(), 0600), 0);
+        end_ = open(path.constData(), O_RDONLY | O_NONBLOCK);
+        EXPECT_GE(end_, 0);
+    }
+    ~Pipe() {
+        if (end_ >= 0) {
+            close(end_);
+        }
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+
+    QString name() const { return name_; }
+
+    bool IsThere() const {
+        struct stat status {};
+        return stat(QFile::encodeName(name_).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+    }
+
+#ifdef F_SETPIPE_SZ
+    void HoldLessThanAPage() const {
+        EXPECT_GT(fcntl(end_, F_SETPIPE_SZ, 4096), 0);
+    }
+#endif
+
+    std::future<QByteArray> ReadAll() {
+        return std::async(std::launch::async, [this] {
+            QByteArray all;
+            std::array<char, 4096> some{};
+            while (SomethingComes()) {
+                const auto count = read(end_, some.data(), some.size());
+                if (count <= 0) {
+                    break;
+                }
+                all.append(some.data(), static_cast<qsizetype>(count));
+            }
+            return all;
+        });
+    }
+
+    std::future<QByteArray> CloseAtTheFirstByte() {
+        return std::async(std::launch::async, [this] {
+            SomethingComes();
+            close(std::exchange(end_, -1));
+            return QByteArray();
+        });
+    }
+
+  private:
+    bool SomethingComes() const {
+        constexpr int kLongestWaitMs = 10'000;
+        pollfd end{end_, POLLIN, 0};
+        return poll(&end, 1, kLongestWaitMs) > 0;
+    }
+
+    QString name_;
+    int end_ = -1;
+};
+
+#endif
+
 class PrintingFault : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -54,26 +156,31 @@ class PrintingFault : public ::testing::Test {
 
     QByteArray State() { return QJsonDocument(ControlStates(window_.form())).toJson(); }
 
-    // Prints to `file`, which fails; then to a good one.
-    void ExpectNothingLost(const QString& file) {
-        const QByteArray before = State();
+    void Print(const QString& file) {
+        before_ = State();
         desk_.file = file;
         desk_.TypeIntoCustomerWindow({"Somebody", "Somewhere", "FT-101"});
         window_.form().cmdPrint->click();
+    }
+
+    // After a Print that could not be; the next one is.
+    void ExpectFailedAndNothingLost() {
         EXPECT_EQ(desk_.outcome.status, PrintOutcome::Status::Failed);
-        EXPECT_EQ(State(), before);
+        EXPECT_EQ(State(), before_);
         EXPECT_EQ(module_.CustLine1, "Somebody");
         EXPECT_EQ(module_.CustLine2, "Somewhere");
         EXPECT_EQ(module_.TagText, "FT-101");
 
-        desk_.file = folder_.filePath("good.pdf");
+        const QTemporaryDir good;
+        desk_.file = good.filePath("good.pdf");
         window_.form().cmdPrint->click();
         EXPECT_EQ(desk_.outcome.status, PrintOutcome::Status::Printed);
         EXPECT_GT(QFileInfo(desk_.file).size(), 1000);
-        EXPECT_EQ(State(), before);
+        EXPECT_EQ(State(), before_);
     }
 
     QTemporaryDir folder_;
+    QByteArray before_;
     FilePrinterDesk desk_;
     Module1 module_{desk_, NumberLocale{}};
     frmTarvix window_{module_, desk_};
@@ -81,20 +188,58 @@ class PrintingFault : public ::testing::Test {
 
 }  // namespace
 
-TEST_F(PrintingFault, FullDisk) {
-    if (!QFileInfo::exists("/dev/full")) {
-        GTEST_SKIP() << "this system has no /dev/full";
+#ifdef Q_OS_UNIX
+
+TEST_F(PrintingFault, FullDiskLeavesTheOldFile) {
+    const QString name = folder_.filePath("old.pdf");
+    QFile old(name);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("what was printed before");
+    old.close();
+    {
+        const FullDisk full;
+        Print(name);
     }
-    ExpectNothingLost("/dev/full");
-    EXPECT_FALSE(QFileInfo("/dev/full").isFile()) << "the device was replaced";
+    ExpectFailedAndNothingLost();
+    ASSERT_TRUE(old.open(QIODevice::ReadOnly));
+    EXPECT_EQ(old.readAll(), "what was printed before");
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{"old.pdf"});
 }
 
+TEST_F(PrintingFault, PipeIsWrittenToNotReplaced) {
+    Pipe pipe(folder_.filePath("pipe"));
+    std::future<QByteArray> read = pipe.ReadAll();
+    Print(pipe.name());
+    EXPECT_EQ(desk_.outcome.status, PrintOutcome::Status::Printed);
+    const QByteArray pdf = read.get();
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    EXPECT_TRUE(pdf.trimmed().endsWith("%%EOF"));
+    EXPECT_TRUE(pipe.IsThere());
+}
+
+#ifdef F_SETPIPE_SZ
+
+TEST_F(PrintingFault, PipeThatIsClosedInTheMiddle) {
+    Pipe pipe(folder_.filePath("pipe"));
+    pipe.HoldLessThanAPage();
+    std::future<QByteArray> read = pipe.CloseAtTheFirstByte();
+    Print(pipe.name());
+    ExpectFailedAndNothingLost();
+    read.get();
+    EXPECT_TRUE(pipe.IsThere());
+}
+
+#endif
+#endif
+
 TEST_F(PrintingFault, FolderThatIsGone) {
-    ExpectNothingLost(folder_.filePath("gone/page.pdf"));
+    Print(folder_.filePath("gone/page.pdf"));
+    ExpectFailedAndNothingLost();
 }
 
 TEST_F(PrintingFault, FolderInPlaceOfTheFile) {
-    ExpectNothingLost(folder_.path());
+    Print(folder_.path());
+    ExpectFailedAndNothingLost();
 }
 
 }  // namespace tarvix

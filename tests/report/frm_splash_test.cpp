@@ -13,15 +13,19 @@
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace tarvix::testing {
 namespace {
 
-// Shows the seconds of a list, one for each look; the last one from then on.
+// Shows the seconds of a list, one for each look; the last one from then on. Who looks at it for
+// ever is thrown out.
 class ListedClock : public RecordingPlatform {
   public:
     int CurrentSecond() override {
-        ++looks;
+        if (++looks > kMostLooks) {
+            throw std::runtime_error("the splash waits for ever");
+        }
         if (onLook) {
             onLook();
         }
@@ -32,6 +36,7 @@ class ListedClock : public RecordingPlatform {
         return second;
     }
 
+    static constexpr int kMostLooks = 1000;
     std::deque<int> seconds{0, 3};
     int looks = 0;
     std::function<void()> onLook;
