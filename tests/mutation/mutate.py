@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
-"""Measures the strength of the core's tests: spoils the source in one place, runs the tests, and
-counts the mutants that no test notices.
+"""Measures the strength of the tests: spoils the source in one place, runs the tests that should
+wake there, and counts the mutants that no test notices.
 
 Works on copies of the tree below the build folder and never touches the work tree. A mutant that
 does not compile is replaced by another one. The sample depends on the seed and the sources alone.
+The part `core` is what knows no window toolkit, `window` the rest of the program.
 
-    tests/mutation/mutate.py --build /tmp/mutation            # the usual run
+    tests/mutation/mutate.py --build /tmp/mutation            # the usual run of the core
+    tests/mutation/mutate.py --build /tmp/mutation --part window
     tests/mutation/mutate.py --build /tmp/mutation --files calc/orifice_gas.cpp --count 1000
     tests/mutation/mutate.py --list --count 20                # show mutants, run nothing
 
@@ -33,33 +35,62 @@ import operators
 ROOT = Path(__file__).resolve().parents[2]
 EXPLAINED = Path(__file__).resolve().parent / "README.md"
 
-# The toolkit-free sources and the tests that judge them.
-ROOMS = {
-    "numbers": "core_tests",
-    "calc": "core_tests",
-    "units": "core_tests",
-    "app/shared": "core_tests",
-    "app/sheet": "core_tests",
-    "report/page": "report_tests",
+# What is no source of the program.
+OTHER_FOLDERS = ("build", "bench", "packaging", "tests")
+# The program's entry is judged by the journeys, which a machine may skip.
+NOT_JUDGED = ("main.cpp",)
+
+
+def gtest(*more):
+    return ["{binary}", "--gtest_fail_fast", "--gtest_brief=1", *more]
+
+
+def sessions(locale):
+    return [sys.executable, "{tree}/tests/reference/random_sessions.py", "--player", "{binary}",
+            "--sessions", "4", "--locale", locale]
+
+
+# For each part the steps of its judgement, the likeliest to notice first: what is built, and what
+# is then run on it.
+STEPS = {
+    "core": [("core_tests", gtest()), ("report_tests", gtest())],
+    "window": [
+        ("window_script", sessions("en_US")),
+        ("report_window_tests", gtest()),
+        ("window_tests", gtest("--gtest_filter=-Fonts/*")),
+        ("fault_tests", gtest()),
+        ("window_script", [sys.executable, "{tree}/tests/scenarios/run_scenarios.py",
+                           "--fail-fast", "{binary}", "{tree}/tests/scenarios"]),
+        ("locale_tests", gtest()),
+        ("window_tests", gtest("--gtest_filter=Fonts/*")),
+    ],
 }
+CONFIGURATION = {"core": ["-DTARVIX_BUILD_WINDOW=OFF"], "window": []}
 
 BUILD_SECONDS = 3600
-TEST_SECONDS = 120
+TEST_SECONDS = 300
 
 
-def core_files(root):
-    """The sources of the tarvix_core target and their headers, with the tests of their room."""
-    files = {}
-    for room, tests in ROOMS.items():
-        listed = re.findall(r"\b(\w+)\.cpp", (root / room / "CMakeLists.txt").read_text())
-        for name in listed:
-            for suffix in (".cpp", ".h"):
-                if (root / room / (name + suffix)).exists():
-                    files[f"{room}/{name}{suffix}"] = tests
-    # Headers without a source of their own.
-    for header in ("app/sheet/input_sheet.h", "calc/orifice_iteration.h"):
-        if (root / header).exists():
-            files[header] = ROOMS[header.rpartition("/")[0]]
+def needs_toolkit(root, name, known):
+    """Whether the file, or one that it includes, however far down, names a class of the toolkit."""
+    if name not in known:
+        text = (root / name).read_text()
+        known[name] = re.search(r"\bQ[A-Z]\w", text) is not None
+        for quoted in re.findall(r'^#include "(.*)"', text, re.M):
+            if (root / quoted).is_file() and needs_toolkit(root, quoted, known):
+                known[name] = True
+    return known[name]
+
+
+def files_of(root, part):
+    """The sources of the part; of the core, where nothing is compiled for long, its headers too."""
+    known, files = {}, []
+    suffixes = ("cpp", "h") if part == "core" else ("cpp",)
+    for path in sorted(p for suffix in suffixes for p in root.rglob("*." + suffix)):
+        name = path.relative_to(root).as_posix()
+        if name.split("/")[0] not in OTHER_FOLDERS and path.name not in NOT_JUDGED and \
+                needs_toolkit(root, name, known) == (part == "window"):
+            files.append(name)
     return files
 
 
@@ -92,13 +123,14 @@ def sample(root, files, count, seed):
 class Worker:
     """A copy of the tree with its own build."""
 
-    def __init__(self, folder, root, targets):
+    def __init__(self, folder, root, part, configuration):
         folder = folder.resolve()
         self.tree = folder / "tree"
         self.build = folder / "build"
-        self.targets = sorted(set(targets))
+        self.steps = STEPS[part]
         # What one copy has compiled, the other finds in the cache.
-        self.environment = {**os.environ, "CCACHE_BASEDIR": str(folder)}
+        self.environment = {**os.environ, "CCACHE_BASEDIR": str(folder),
+                            "QT_QPA_PLATFORM": "offscreen"}
         if self.tree.exists():
             shutil.rmtree(self.tree)
         # New files, so that objects of an interrupted run are not taken for those of these sources.
@@ -109,15 +141,16 @@ class Worker:
         configure = ["cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja",
                      "-DCMAKE_BUILD_TYPE=None",
                      "-DCMAKE_CXX_FLAGS=-O0 -Werror=double-promotion",
-                     "-DTARVIX_BUILD_WINDOW=OFF", "-DTARVIX_BUILD_BENCH=OFF",
+                     *CONFIGURATION[part], *[f"-D{setting}" for setting in configuration],
+                     "-DTARVIX_BUILD_BENCH=OFF",
                      "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
         if shutil.which("ccache"):
             configure.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
         subprocess.run(configure, check=True, stdout=subprocess.DEVNULL)
-        for target in self.targets:
+        for target, command in self.steps:
             if not self._compiles(target):
                 sys.exit(f"the unspoiled tree does not build: {target}")
-            if not self._passes(target):
+            if not self._passes(target, command):
                 sys.exit(f"the unspoiled tree fails its tests: {target}")
 
     def _run(self, command, seconds):
@@ -138,19 +171,23 @@ class Worker:
         # A second time, for a compiler that was ended from outside.
         return any(self._run(command, BUILD_SECONDS) == 0 for _ in range(2))
 
-    def _passes(self, target):
+    def _passes(self, target, command):
         binary = next(p for p in self.build.rglob(target) if p.is_file() and os.access(p, os.X_OK))
-        return self._run([binary, "--gtest_fail_fast", "--gtest_brief=1"], TEST_SECONDS) == 0
+        places = {"binary": binary, "tree": self.tree}
+        return self._run([part.format(**places) for part in command], TEST_SECONDS) == 0
 
-    def judge(self, mutant, target):
+    def judge(self, mutant):
         """'killed', 'survived' or 'unbuildable'."""
         path = self.tree / mutant.file
         original = path.read_text()
         path.write_text(mutant.apply(original))
         try:
-            if not self._compiles(target):
-                return "unbuildable"
-            return "survived" if self._passes(target) else "killed"
+            for target, command in self.steps:
+                if not self._compiles(target):
+                    return "unbuildable"
+                if not self._passes(target, command):
+                    return "killed"
+            return "survived"
         finally:
             path.write_text(original)
 
@@ -161,9 +198,7 @@ class Verdicts:
 
     def __init__(self, folder, root, files):
         digest = hashlib.sha256()
-        judged_by = sorted(root.glob("tests/core/**/*.*")) + sorted(root.glob("tests/report/*.*")) \
-            + sorted(root.glob("tests/data/*"))
-        for path in sorted(root / name for name in files) + judged_by:
+        for path in sorted(root / name for name in files) + sorted(root.glob("tests/**/*.*")):
             digest.update(path.read_bytes())
         self.path = folder / "verdicts" / (digest.hexdigest()[:16] + ".json")
         self.known = json.loads(self.path.read_text()) if self.path.exists() else {}
@@ -187,16 +222,16 @@ def explained_survivors():
 def run(arguments, files, chosen, spare, verdicts):
     workers = queue.Queue()
     print(f"building {arguments.jobs} copies of the tree ...", flush=True)
-    targets = [files[name] for name in files]
     for i in range(arguments.jobs):
-        workers.put(Worker(arguments.build / f"worker{i}", arguments.source, targets))
+        workers.put(Worker(arguments.build / f"{arguments.part}{i}", arguments.source,
+                           arguments.part, arguments.cmake))
 
     def judge(mutant):
         if verdicts.of(mutant):
             return mutant, verdicts.of(mutant)
         worker = workers.get()
         try:
-            return mutant, worker.judge(mutant, files[mutant.file])
+            return mutant, worker.judge(mutant)
         finally:
             workers.put(worker)
 
@@ -245,19 +280,22 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--source", type=Path, default=ROOT, help="the tree to copy")
     parser.add_argument("--build", type=Path, default=ROOT / "build" / "mutation")
+    parser.add_argument("--part", choices=sorted(STEPS), default="core")
     parser.add_argument("--count", type=int, default=400, help="mutants to judge")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--files", nargs="+", help="only these files, such as calc/orifice_gas.cpp")
+    parser.add_argument("--cmake", nargs="+", default=[], metavar="NAME=VALUE",
+                        help="settings of the build, such as CMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold")
     parser.add_argument("--list", action="store_true", help="print the mutants, run nothing")
     arguments = parser.parse_args()
 
-    files = core_files(arguments.source)
+    files = files_of(arguments.source, arguments.part)
     if arguments.files:
         unknown = set(arguments.files) - set(files)
         if unknown:
-            parser.error("not a file of the core: " + ", ".join(sorted(unknown)))
-        files = {name: files[name] for name in arguments.files}
+            parser.error(f"no file of the part {arguments.part}: " + ", ".join(sorted(unknown)))
+        files = arguments.files
     chosen, spare = sample(arguments.source, files, arguments.count, arguments.seed)
     if arguments.list:
         for mutant in chosen:

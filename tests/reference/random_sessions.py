@@ -67,6 +67,14 @@ def compare_states(number, program, model):
     for key in ("boxes", "calculations", "pages"):
         if program[key] != model[key]:
             return Difference(number, key, program[key], model[key])
+    for shown, expected in zip(program.get("page_lines", []), model.get("page_lines", [])):
+        # The last line begins with the date.
+        for line in range(max(len(shown), len(expected))):
+            same = shown[line:line + 1] == expected[line:line + 1]
+            if not same and not (line == len(expected) - 1 and len(shown) == len(expected)
+                                 and shown[line].endswith(expected[line])):
+                return Difference(number, "page line", shown[line:line + 1],
+                                  expected[line:line + 1])
     if model["focus"] is not None and program["focus"] != model["focus"]:
         return Difference(number, "focus", program["focus"], model["focus"])
     return None

@@ -25,7 +25,7 @@ class Calculator(Controls):
         self.base_sg = 0.0
         self.boxes = []
         self.calculations = 0
-        self.pages = 0
+        self.pages = []
 
     # --- reading ---------------------------------------------------------------------------------
 

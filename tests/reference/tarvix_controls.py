@@ -81,6 +81,10 @@ SELECTED_AT_START = ("optPgauge", "optDegF", "optSgUser", "optSaturated", "optSt
 # Labels: name -> (frame around it, caption).
 LABELS = {
     "lblMsg": (None, None),
+    "lblNomSize": ("fraPipe", "Nominal Size"),
+    "lblPipeID": ("fraPipe", "Pipe ID"),
+    "lblBeta": ("fraBeta", "Beta = (Orifice Diameter) / (Pipe Diamter)"),
+    "lblGasSGb": ("fraGasSG", "Base"),
     "lbl1PlateThicknessWarning": ("fraPlateThicknessWarning", "Orifice plate deflection"),
     "lbl2PlateThicknessWarning": ("fraPlateThicknessWarning", "should be checked."),
     "lblPf": ("fraPress", "Operating Pressure"),
@@ -96,8 +100,8 @@ LABELS = {
     "lbl2ZfCompWarning": ("fraZfCompWarning", "may result in erroneous computations."),
 }
 
-BUTTONS = {"cmdPrint": "Print", "cmdExit": "Exit", "mnuPrint": "&Print", "mnuExit": "E&xit",
-           "mnuAbout": "&About"}
+BUTTONS = {"cmdPrint": "Print", "cmdExit": "Exit", "mnuFile": "&File", "mnuPrint": "&Print",
+           "mnuExit": "E&xit", "mnuAbout": "&About"}
 
 
 class Control:
@@ -146,6 +150,7 @@ class Controls:
             self.all[name] = Control("label", parent, caption)
         for name, caption in BUTTONS.items():
             self.all[name] = Control("button", None, caption)
+        self.all["tabOrifice"] = Control("frame", None, "&Measurement Orifice")
         self.all["txtMaskNomSize"] = Control("mask", "fraPipe")
         self.focus = None  # None: not known, the toolkit decides
 
@@ -238,4 +243,6 @@ class Controls:
             report.update(caption=control.caption, backcolor=control.backcolor)
         elif control.kind == "button":
             report.update(caption=control.caption)
+        elif control.kind == "mask":
+            report.update(text=control.text)
         return {key: value for key, value in report.items() if value is not None}

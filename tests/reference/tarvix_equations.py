@@ -10,7 +10,7 @@ import math
 from dataclasses import dataclass
 
 from tarvix_numbers import power, quotient, root, round_to_5, single
-from tarvix_pipes_steam import STEAM_TABLE
+from tarvix_tables import STEAM_TABLE
 
 CD = single(0.6)
 CD_SQUARED = single(0.36)

@@ -143,12 +143,13 @@ class Model:
         self.window.answers.append(("text", text) if kind == "text" else (kind.strip(), None))
 
     def do_customer(self, rest):
-        self.window.customer_typed = tuple(rest.split("|"))
+        self.window.customer_typed = (rest.split("|") + ["", ""])[:3]
 
     def do_printer(self, rest):
-        pass
+        self.window.printer = rest.strip() != ""
 
-    do_picture = do_printer
+    def do_picture(self, rest):
+        pass
 
     # --- state -----------------------------------------------------------------------------------
 
@@ -156,9 +157,11 @@ class Model:
         window = self.window
         report = {
             "controls": {name: window.state_of(name) for name in window.all},
-            "boxes": window.boxes, "calculations": window.calculations, "pages": window.pages,
-            "focus": window.focus}
-        window.boxes, window.calculations, window.pages = [], 0, 0
+            "boxes": window.boxes, "calculations": window.calculations,
+            "pages": len(window.pages), "focus": window.focus}
+        if window.pages:
+            report["page_lines"] = window.pages
+        window.boxes, window.calculations, window.pages = [], 0, []
         return report
 
     def with_state_again(self, report):

@@ -1,77 +1,42 @@
-"""Unit lists, nominal sizes and fluid defaults for the reference model.
+"""The product's tables for the reference model, read from their copies in tests/data, and what a
+change of fluid selects.
 
-Every entry is (shown text, factor) or (shown text, kind, factor), the factor as the text that the
-product holds.
+Units are (shown text, factor), flow units (shown text, kind, factor), the factor as the text that
+the product holds.
 """
 
-PRESSURE_UNITS = (
-    ("PSI", "1"),
-    ("kg/cm2", "14.22334"),
-    ("kPa", "0.1450378"),
-    ("bar", "14.5039"),
-    ("mm of Mercury", "0.019324"),
-    ("Pa", "0.0001450377"),
-    ("mbar", "0.0145038"),
-    ("inches of W.C", "0.0361011"),
-)
+import csv
+from pathlib import Path
 
-DELTA_P_UNITS = (
-    ("Inches Water", "1"),
-    ("Inches of Mercury", "13.5962"),
-    ("PSI", "27.7"),
-    ("mm of Water", "0.03937"),
-    ("mm of Mercury", "0.53528"),
-    ("bar", "401.75"),
-    ("mbar", "0.40175"),
-    ("kPa", "4.0175"),
-    ("Pa", "4017.5"),
-)
+DATA = Path(__file__).resolve().parent.parent / "data"
 
-DENSITY_UNITS = (
-    ("lb/cubic foot", "1"),
-    ("kg/cubic meter", "0.06242798"),
-)
 
-LENGTH_UNITS = (
-    ("Inches", "1"),
-    ("Millimeters", "0.03937008"),
-    ("Centimeters", "0.3937008"),
-)
+def _rows(name):
+    with open(DATA / name, encoding="utf-8", newline="") as file:
+        return list(csv.reader(file, delimiter="\t", quoting=csv.QUOTE_NONE))[1:]
 
-FLOW_UNITS = {
-    "L": (
-        ("Gallons", "V", "1"),
-        ("Imperial Gallons", "V", "1.20095"),
-        ("Barrels", "V", "42"),
-        ("Dekaliters", "V", "2.64172"),
-        ("Liters", "V", "0.264172"),
-        ("Cubic Meters ", "V", "264.172"),
-        ("Grams", "M", "0.000264717"),
-        ("Kilograms", "M", "0.2647168"),
-        ("Tons", "M", "240.147"),
-        ("Pounds", "M", "0.120074"),
-        ("Metric Tons", "M", "264.762"),
-        ("Long Tons", "M", "268.965"),
-        ("Cubic Centimeters", "V", "0.000264172"),
-    ),
-    "S": (
-        ("Pounds", "M", "1"),
-        ("Kilograms", "M", "2.204614"),
-    ),
-    "G": (
-        ("Standard Cubic Feet", "V", "1"),
-        ("Pounds", "M", "13.10249"),
-        ("Kilograms", "M", "28.88056"),
-        ("Standard Cubic Meters", "V", "35.31466"),
-    ),
-}
 
-TIME_UNITS = (
-    ("Minute", "1"),
-    ("Hour", "60"),
-    ("Day", "1440"),
-    ("Second", "0.0166667"),
-)
+def _grouped(rows):
+    """Rows by their first column, without it and the position."""
+    groups = {}
+    for key, _, *rest in rows:
+        groups.setdefault(key, []).append(tuple(rest))
+    return groups
+
+
+_UNITS = _grouped(_rows("units.tsv"))
+
+
+def _units(name):
+    return tuple((text, factor) for text, _, factor in _UNITS[name])
+
+
+PRESSURE_UNITS = _units("press")
+DELTA_P_UNITS = _units("deltaP")
+DENSITY_UNITS = _units("density")
+LENGTH_UNITS = _units("length")
+TIME_UNITS = _units("time")
+FLOW_UNITS = {fluid: tuple(_UNITS["flow " + fluid]) for fluid in "LSG"}
 
 # Flow unit and time unit that a change of fluid selects.
 FLUID_DEFAULTS = {
@@ -80,9 +45,11 @@ FLUID_DEFAULTS = {
     "G": ("Standard Cubic Feet", "Day"),
 }
 
-# Nominal sizes as shown in inches; the first six have another text for their value.
-NOMINAL_SIZES = (
-    ("1/2", "0.5"), ("3/4", "0.75"), ("1", "1"), ("1-1/2", "1.5"), ("2", "2"), ("2-1/2", "2.5"),
-) + tuple((size, size) for size in (
-    "3", "4", "5", "6", "8", "10", "12", "14", "16", "18", "20", "22", "24", "26", "30", "34",
-    "36", "42"))
+# As shown in inches, and as the product holds it.
+NOMINAL_SIZES = tuple((shown, value) for _, shown, value in _rows("nominal_sizes.tsv"))
+
+# Schedule and inside diameter in inches of each nominal size.
+PIPE_SCHEDULES = _grouped(_rows("pipe_schedules.tsv"))
+
+# Saturated steam: gauge pressure in psi, density in lb per cubic foot.
+STEAM_TABLE = tuple((int(psig), density) for psig, density in _rows("steam_table.tsv"))

@@ -6,10 +6,10 @@ from tarvix_checks import RESULT_FIELDS, Calculator
 from tarvix_controls import GREEN, OPTION_GREY, WINDOW_COLOUR, YELLOW
 from tarvix_numbers import (
     format_entry, format_number, is_numeric, local_decimal, read_double, read_single, single)
-from tarvix_pipes_steam import PIPE_SCHEDULES
+from tarvix_report import page_lines
 from tarvix_tables import (
     DELTA_P_UNITS, DENSITY_UNITS, FLOW_UNITS, FLUID_DEFAULTS, LENGTH_UNITS, NOMINAL_SIZES,
-    PRESSURE_UNITS, TIME_UNITS)
+    PIPE_SCHEDULES, PRESSURE_UNITS, TIME_UNITS)
 
 LINE_END = "\n\r"
 BETA_LIMIT = single(0.95)
@@ -27,7 +27,8 @@ class MainWindow(Calculator):
     def __init__(self, locale):
         super().__init__(locale)
         self.answers = []
-        self.customer = ("", "", "")
+        self.customer = ["", "", ""]
+        self.printer = False
 
     # --- boxes -----------------------------------------------------------------------------------
 
@@ -302,7 +303,8 @@ class MainWindow(Calculator):
             return
         if lines is not None:
             self.customer = lines
-        self.pages += 1
+        if self.printer:
+            self.pages.append(page_lines(self))
 
     mnuPrint_Click = cmdPrint_Click
 

@@ -11,7 +11,6 @@ from tarvix_equations import steam_density  # noqa: E402
 from tarvix_numbers import (  # noqa: E402
     format_entry, format_limit, format_number, format_result, is_numeric, local_decimal,
     number_locale, read_single, round_to_5, single)
-from tarvix_pipes_steam import PIPE_SCHEDULES, STEAM_TABLE  # noqa: E402
 from tarvix_tables import (  # noqa: E402
     DENSITY_UNITS, FLOW_UNITS, LENGTH_UNITS, NOMINAL_SIZES, PRESSURE_UNITS)
 

@@ -273,6 +273,7 @@ def main(arguments=None):
     parser.add_argument("--platform", default="offscreen",
                         help="Qt platform to play on; 'keep' leaves the environment's choice")
     parser.add_argument("--timeout", type=float, default=120, help="seconds for one scenario")
+    parser.add_argument("--fail-fast", action="store_true", help="stop at the first that fails")
     parser.add_argument("player", help="the window script player")
     parser.add_argument("places", nargs="+", metavar="FILE_OR_FOLDER")
     options = parser.parse_args(arguments)
@@ -288,6 +289,8 @@ def main(arguments=None):
         for line, text in sorted(problems, key=lambda problem: problem[0]):
             print(f"{script}:{line}: {text}")
         failed += bool(problems)
+        if failed and options.fail_fast:
+            break
     if not played:
         print("no scenarios found", file=sys.stderr)
         return 2
