@@ -36,7 +36,7 @@ ROOT = Path(__file__).resolve().parents[2]
 EXPLAINED = Path(__file__).resolve().parent / "README.md"
 
 # What is no source of the program.
-OTHER_FOLDERS = ("build", "bench", "packaging", "tests")
+OTHER_FOLDERS = ("bench", "build", "docs", "packaging", "tests")
 # The program's entry is judged by the journeys, which a machine may skip.
 NOT_JUDGED = ("main.cpp",)
 
