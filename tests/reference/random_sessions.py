@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Plays random sessions on the program and on the reference model and compares them.
+"""Plays random sessions on the program and on the reference model and compares them; what needs no
+model is held against the program's states alone (invariants.py).
 
     random_sessions.py --player build/tests/window_script/window_script
                        [--seed N] [--sessions N] [--actions N] [--locale en_US|de_DE] [--jobs N]
@@ -20,8 +21,10 @@ from concurrent.futures import ThreadPoolExecutor
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
+from invariants import Step, broken, refused_changes_nothing  # noqa: E402
 from session_generator import Generator  # noqa: E402
 from tarvix_model import Model, Undefined  # noqa: E402
+from walks import walks  # noqa: E402
 
 PLAYER_SECONDS = 300
 
@@ -80,6 +83,15 @@ def compare_states(number, program, model):
     return None
 
 
+def broken_invariant(number, action, before, shown, refused, locale):
+    if before is not None and refused == len(action):
+        fault = refused_changes_nothing(before, shown)
+        if fault:
+            return Difference(number, "refused_changes_nothing", fault, "")
+    found = broken(Step(action, before, shown, locale))
+    return Difference(number, found[0], found[1], "it holds") if found else None
+
+
 def resolve_focus(number, model, name):
     """Takes over where the Tab key went: to something that it may go to."""
     model.resolve_focus(name)
@@ -100,7 +112,10 @@ def compare(lines, written, failure):
     """Plays the script on a model along what the program wrote; the first difference or None."""
     model = Model()
     answers = iter(written)
+    before, action, refused = None, [], 0
     for number, line in enumerate(lines, 1):
+        if line != "state":
+            action.append(line)
         try:
             expected = model.play(line)
         except Undefined:
@@ -117,10 +132,13 @@ def compare(lines, written, failure):
                 if difference:
                     return difference
                 expected = model.with_state_again(expected)
-            difference = compare_states(number, shown, expected)
+            difference = compare_states(number, shown, expected) or broken_invariant(
+                number, action, before, shown, refused, model.window.locale)
             if difference:
                 return difference
+            before, action, refused = shown, [], 0
         elif kind_of(shown) == "refused":
+            refused += 1
             if shown["refused"].split()[:2] != expected["refused"].split()[:2]:
                 return Difference(number, "refused", shown["refused"], expected["refused"])
         elif shown != expected:
@@ -145,13 +163,16 @@ class Comparer:
         return Generator(random.Random(seed), self.options.locale, page).session(
             self.options.actions)
 
+    def walks(self):
+        return walks(self.options.locale, os.path.join(self.folder, "page.pdf"))
+
     def difference_of(self, actions):
         lines = script_of(actions)
         written, failure = run_player(self.options.player, lines, self.environment)
         return compare(lines, written, failure)
 
     def check(self, seed):
-        actions = self.actions_of(seed)
+        actions = self.walks()[seed] if self.options.walks else self.actions_of(seed)
         return seed, actions, self.difference_of(actions)
 
     def minimised(self, actions, found):
@@ -196,7 +217,9 @@ def report(comparer, seed, actions, difference):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--player", required=True)
-    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--seed", type=int, default=1, help="0: a fresh one")
+    parser.add_argument("--walks", action="store_true",
+                        help="not at random: every entry, option and limit (walks.py)")
     parser.add_argument("--sessions", type=int, default=20)
     parser.add_argument("--actions", type=int, default=200)
     parser.add_argument("--locale", default="en_US")
@@ -205,10 +228,16 @@ def main():
                         help="report every session that differs")
     parser.add_argument("--display", action="store_true", help="use the display, not `offscreen`")
     options = parser.parse_args()
+    if options.seed == 0:
+        options.seed = random.SystemRandom().randrange(1, 10 ** 9)
+        print(f"--seed {options.seed} --locale {options.locale}", flush=True)
     differing = played = 0
     with tempfile.TemporaryDirectory() as folder, ThreadPoolExecutor(options.jobs) as pool:
         comparer = Comparer(options, folder)
         seeds = range(options.seed, options.seed + options.sessions)
+        if options.walks:
+            seeds = range(len(comparer.walks()))
+            options.sessions = len(seeds)
         for seed, actions, difference in pool.map(comparer.check, seeds):
             played += len(actions)
             if difference:
