@@ -160,7 +160,7 @@ void PrintLowPressure(const Way& way) {
 void PrintBands() {
     for (const int percent : {1, 25, 50, 60}) {
         const testing::ReferenceMeter meter(1, 1, double{kPressurePsia}, double{kDiameterIn});
-        const double h = percent / 100.0 * double{kPressurePsia} * kInchesPerPsi;
+        const auto h = double{InchesOf(percent / 100.0, double{kPressurePsia})};
         std::printf("band\t%.2f\t%.6f\t%.6f\n", percent / 100.0,
                     1e-4 / (1 - meter.DiffPressureContraction(0.5, h)),
                     1e-4 / (1 - meter.BetaContraction(0.5, h)));

@@ -77,7 +77,7 @@ TEST_F(DoubleSolver, WhatIsNoNumberAndNoUnit) {
     EXPECT_THROW(ValueOfText("12x"), std::runtime_error);
     EXPECT_THROW(ValueOfText(""), std::runtime_error);
     EXPECT_THROW((void)units_.Of("press", "furlong"), std::runtime_error);
-    EXPECT_THROW(UnitFactors("no such file"), std::runtime_error);
+    EXPECT_THROW({ const UnitFactors none("no such file"); }, std::runtime_error);
 }
 
 }  // namespace tarvix::accuracy
