@@ -72,7 +72,8 @@ def entries(data):
         f"Deg C and 101.325 kPa holds {plain(cost['standard against normal cubic meter'], 1)} more.",
         "- **dp/p** is never judged by the program. The flow of a gas rises with it up to the dp/p "
         f"of the table in [validation.md](validation.md#differential-pressure) "
-        f"({', '.join(f'{f} at beta {b}' for b, f in data.lines('peak'))}) and falls again from there.",
+        f"({', '.join(f'{f} at beta {b}' for b, f in data.lines('peak') if b in ('0.10', '0.50', '0.75'))}) "
+        "and falls again from there.",
         "- A **diameter typed in centimeters** has 2 decimals: up to "
         f"{plain(cost['pipe in centimeters, 0.622 in'], 1)} of flow in a 1/2 inch pipe, "
         f"{plain(cost['pipe in centimeters, 2.067 in'], 1)} in a 2 inch one.",
@@ -104,7 +105,7 @@ def convergence(data):
         "an empty field and silence for steam. So steam's empty field does not mean that beta is "
         "above 1.",
         f"- The differential pressure is found up to a dp/p of {min(gas):.2f} to {max(gas):.2f} (gas) "
-        f"and {min(steam):.2f} to {max(steam):.2f} (steam), least at beta 0.75, most at 0.2. Beyond, "
+        f"and {min(steam):.2f} to {max(steam):.2f} (steam) at betas of 0.75 to 0.10. Beyond, "
         "the message is \"Unable to resolve\", or the value shown is another root.",
         "- Every search for a differential pressure starts at 50 inches of water. At an absolute "
         f"pressure below {min(n for n, _ in low):.2f} to {max(n for n, _ in low):.2f} psia (by beta) "

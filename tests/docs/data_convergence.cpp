@@ -168,7 +168,7 @@ void PrintBands() {
 }
 
 void PrintPeaks() {
-    for (const float beta : {0.1F, 0.5F, 0.67F, 0.75F}) {
+    for (const float beta : {0.1F, 0.2F, 0.3F, 0.4F, 0.5F, 0.6F, 0.67F, 0.75F}) {
         float largest = 0;
         int peak = 0;
         for (int percent = 1; percent <= 200; ++percent) {
