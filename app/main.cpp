@@ -21,13 +21,13 @@ int main(int argc, char* argv[]) {
     tarvix::WindowHostQt host(platform);
     std::unique_ptr<tarvix::frmTarvix> mainWindow;
 
-    tarvix::frmSplash splash(module, {.loadMainWindow =
-                                          [&] {
-                                              mainWindow =
-                                                  std::make_unique<tarvix::frmTarvix>(module, host);
-                                              mainWindow->Form_Load();
-                                          },
-                                      .showMainWindow = [&] { mainWindow->show(); }});
+    // The main window is built while the splash waits, so that it appears as soon as the wait is
+    // over.
+    tarvix::frmSplash splash(
+        module,
+        {.loadMainWindow = [&] { mainWindow->Form_Load(); },
+         .showMainWindow = [&] { mainWindow->show(); },
+         .whileWaiting = [&] { mainWindow = std::make_unique<tarvix::frmTarvix>(module, host); }});
     splash.Form_Load();
     splash.show();
     return QApplication::exec();

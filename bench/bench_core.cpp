@@ -27,6 +27,7 @@ class NoPlatform : public Platform {
         std::abort();
     }
     int CurrentSecond() override { std::abort(); }
+    void SleepUntilNextSecond() override { std::abort(); }
     [[noreturn]] void EndProgram(int /*exitStatus*/) override { std::abort(); }
 };
 

@@ -13,17 +13,18 @@ int main(int argc, char* argv[]) {
     tarvix::Module1 module(desk, tarvix::SystemNumberLocale());
     std::unique_ptr<tarvix::frmTarvix> mainWindow;
     tarvix::frmSplash splash(
-        module, {.loadMainWindow =
-                     [&] {
-                         mainWindow = std::make_unique<tarvix::frmTarvix>(module, desk);
-                         mainWindow->Form_Load();
-                         tarvix::StopAfterFirstPaint(*mainWindow, QApplication::arguments());
-                     },
-                 .showMainWindow =
-                     [&] {
-                         mainWindow->show();
-                         mainWindow->form().txtPf->setFocus();
-                     }});
+        module,
+        {.loadMainWindow =
+             [&] {
+                 mainWindow->Form_Load();
+                 tarvix::StopAfterFirstPaint(*mainWindow, QApplication::arguments());
+             },
+         .showMainWindow =
+             [&] {
+                 mainWindow->show();
+                 mainWindow->form().txtPf->setFocus();
+             },
+         .whileWaiting = [&] { mainWindow = std::make_unique<tarvix::frmTarvix>(module, desk); }});
     splash.Form_Load();
     splash.show();
     return QApplication::exec();

@@ -45,6 +45,10 @@ class Platform {
     // The seconds field, 0 to 59, of the current local time.
     virtual int CurrentSecond() = 0;
 
+    // Sleeps until the clock goes on to its next full second, as near as the system can; handles no
+    // events.
+    virtual void SleepUntilNextSecond() = 0;
+
     // Ends the program at once with this exit status; no window is left, no handler runs on.
     [[noreturn]] virtual void EndProgram(int exitStatus) = 0;
 };

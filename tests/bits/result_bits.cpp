@@ -35,6 +35,7 @@ class SilentPlatform : public Platform {
         return std::nullopt;
     }
     int CurrentSecond() override { return 0; }
+    void SleepUntilNextSecond() override {}
     [[noreturn]] void EndProgram(int exitStatus) override { std::exit(exitStatus); }
 };
 

@@ -24,6 +24,7 @@ class RecordingPlatform : public Platform {
         return std::nullopt;
     }
     int CurrentSecond() override { return 0; }
+    void SleepUntilNextSecond() override {}
     [[noreturn]] void EndProgram(int exitStatus) override { throw ProgramEnded{exitStatus}; }
 
     std::vector<MessageBoxRequest> boxes;

@@ -84,6 +84,7 @@ class FuzzPlatform : public Platform {
         return request.defaultAnswer;
     }
     int CurrentSecond() override { return 0; }
+    void SleepUntilNextSecond() override {}
     [[noreturn]] void EndProgram(int /*exitStatus*/) override { throw ProgramEnded(); }
 };
 

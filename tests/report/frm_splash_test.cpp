@@ -3,9 +3,10 @@
 
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
+#include "ui/windows/qt_platform.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QDateTime>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTest>
@@ -36,8 +37,11 @@ class ListedClock : public RecordingPlatform {
         return second;
     }
 
+    void SleepUntilNextSecond() override { ++sleeps; }
+
     static constexpr int kMostLooks = 1000;
     std::deque<int> seconds{0, 3};
+    int sleeps = 0;
     int looks = 0;
     std::function<void()> onLook;
 };
@@ -173,18 +177,19 @@ TEST_F(SplashTest, HandlesNoEventsDuringTheWait) {
 }
 
 TEST_F(SplashTest, SleepsBetweenTwoLooks) {
-    QElapsedTimer waiting;
-    clock_.seconds = {10};
-    clock_.onLook = [&] {
-        if (!waiting.isValid()) {
-            waiting.start();
-        } else if (waiting.elapsed() >= 100) {
-            clock_.seconds = {13};
-        }
-    };
+    clock_.seconds = {10, 10, 11, 12, 13};
     Run();
-    EXPECT_LE(clock_.looks, 60);  // a loop without sleep makes many thousands
-    EXPECT_GE(clock_.looks, 3);   // and a long sleep would show the splash for too long
+    EXPECT_EQ(clock_.looks, 5);
+    EXPECT_EQ(clock_.sleeps, 3);  // none before the first look of the wait, none after the last
+}
+
+TEST_F(SplashTest, BuildsTheMainWindowWithinTheWait) {
+    clock_.seconds = {10, 10, 13};
+    frmSplash splash(module_,
+                     {[this] { steps_ << "load"; }, [this] { steps_ << "show"; },
+                      [this] { steps_ << QString("build on look %1").arg(clock_.looks); }});
+    splash.Form_Activate();
+    EXPECT_EQ(steps_, (QStringList{"build on look 1", "load", "show"}));
 }
 
 TEST_F(SplashTest, CloseRequestDoesNotStopTheStart) {
@@ -225,6 +230,13 @@ TEST_F(SplashTest, FormLoadTakesTheProgramsOwnFolder) {
     splash_.Form_Load();
     EXPECT_EQ(module_.AppPath, AppPathOf(QCoreApplication::applicationDirPath()));
     EXPECT_TRUE(QFile::exists(QString::fromStdString(module_.AppPath)));
+}
+
+TEST(SplashClockTest, TheSleepEndsInALaterSecond) {
+    QtPlatform platform;
+    const qint64 before = QDateTime::currentSecsSinceEpoch();
+    platform.SleepUntilNextSecond();
+    EXPECT_GT(QDateTime::currentSecsSinceEpoch(), before);
 }
 
 TEST(AppPathTest, EndsInTheSystemsSeparator) {

@@ -34,6 +34,7 @@ class PrintingPlatform : public Platform {
         return std::nullopt;
     }
     int CurrentSecond() override { return 0; }
+    void SleepUntilNextSecond() override {}
     [[noreturn]] void EndProgram(int exitStatus) override { std::exit(exitStatus); }
 };
 

@@ -44,6 +44,7 @@ class ScriptDesk : public Platform, public WindowHost {
     int ShowMessageBox(const MessageBoxRequest& request) override;
     std::optional<std::string> ShowInputBox(const InputBoxRequest& request) override;
     int CurrentSecond() override;
+    void SleepUntilNextSecond() override {}
     [[noreturn]] void EndProgram(int exitStatus) override;
 
     void ShowAboutBox(QWidget& owner) override;

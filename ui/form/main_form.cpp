@@ -140,7 +140,11 @@ double MainForm::PixelsPerTwipX() const {
             control.kind == ControlKind::Label || control.kind == ControlKind::Option ||
             control.kind == ControlKind::Button || control.kind == ControlKind::ComboBox;
         if (showsText && control.place.width > 0 && control.widget != lblCompCorr) {
-            const double needed = control.widget->sizeHint().width() + 1;
+            // A label needs no more than its text, which is quicker to measure than to lay out.
+            const auto* label = qobject_cast<const QLabel*>(control.widget);
+            const double needed =
+                1 + (label != nullptr ? std::ceil(metrics.horizontalAdvance(label->text()))
+                                      : control.widget->sizeHint().width());
             scale = std::max(scale, needed / control.place.width);
         }
     }

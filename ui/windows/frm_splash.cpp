@@ -24,8 +24,7 @@ namespace tarvix {
 
 namespace {
 
-constexpr int kWaitSeconds = 3;            // by the seconds field of the clock
-constexpr unsigned long kLookEveryMs = 5;  // the wait sleeps between two looks at the clock
+constexpr int kWaitSeconds = 3;  // by the seconds field of the clock
 
 // A window system that shows a new window later than that gets the wait without it.
 constexpr int kExposedWithinMs = 1000;
@@ -39,10 +38,11 @@ constexpr const char* kFixedAppPath = "/opt/Tarvix/";
 constexpr QSize kLogoBox(240, 60);
 constexpr int kMargin = 32;
 
-QFont SplashFont(const QString& family, double scale, bool bold, const QFont& base) {
+QFont SplashFont(const QString& family, double scale, bool bold, const QFont& base,
+                 const QStringList& families) {
     QFont font = base;
     // Asking for a family that is not there costs a search through all fonts.
-    if (QFontDatabase::hasFamily(family)) {
+    if (families.contains(family)) {
         font.setFamily(family);
     }
     font.setPointSizeF(scale * QFontInfo(base).pointSizeF());
@@ -96,8 +96,9 @@ void frmSplash::LayOut() {
     setFrameStyle(QFrame::Box | QFrame::Plain);
 
     const QFont base = font();
-    Label1->setFont(SplashFont("Microsoft Sans Serif", 3.2, true, base));
-    Label2->setFont(SplashFont("MS Sans Serif", 1.1, false, base));
+    const QStringList families = QFontDatabase::families();
+    Label1->setFont(SplashFont("Microsoft Sans Serif", 3.2, true, base, families));
+    Label2->setFont(SplashFont("MS Sans Serif", 1.1, false, base, families));
     imgBrindleLogo->setFixedSize(kLogoBox);
     imgVeltraneLogo->setFixedSize(kLogoBox);
     imgVeltraneLogo->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -167,8 +168,9 @@ void frmSplash::Wait() const {
     // Compares only the seconds field: when the minute rolls over, the wait ends early.
     Platform& platform = module_.platform();
     const int start = platform.CurrentSecond();
+    handOver_.whileWaiting();
     while (std::abs(platform.CurrentSecond() - start) < kWaitSeconds) {
-        QThread::msleep(kLookEveryMs);
+        platform.SleepUntilNextSecond();
     }
 }
 

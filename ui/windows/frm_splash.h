@@ -20,10 +20,11 @@ std::string AppPathOf(const QString& folder);
 class frmSplash : public QFrame {
   public:
     // What the splash hands over to: the main window is loaded while the splash still shows, and
-    // shown when it is gone.
+    // shown when it is gone. What takes time and shows nothing may be done while the splash waits.
     struct HandOver {
         std::function<void()> loadMainWindow;
         std::function<void()> showMainWindow;
+        std::function<void()> whileWaiting = [] {};
     };
 
     // Builds the window. Form_Load is the caller's next step, then showing it; the rest happens

@@ -1,8 +1,10 @@
 #include "ui/windows/qt_platform.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QThread>
 #include <QTime>
 
 #include <cstdio>
@@ -55,6 +57,12 @@ std::optional<std::string> QtPlatform::ShowInputBox(const InputBoxRequest& reque
 
 int QtPlatform::CurrentSecond() {
     return QTime::currentTime().second();
+}
+
+void QtPlatform::SleepUntilNextSecond() {
+    // Every time zone is a whole number of seconds away from UTC, which costs no look into one.
+    const qint64 sinceSecond = QDateTime::currentMSecsSinceEpoch() % 1000;
+    QThread::msleep(static_cast<unsigned long>(1000 - sinceSecond));
 }
 
 void QtPlatform::EndProgram(int exitStatus) {

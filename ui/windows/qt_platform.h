@@ -10,6 +10,7 @@ class QtPlatform : public Platform {
     int ShowMessageBox(const MessageBoxRequest& request) override;
     std::optional<std::string> ShowInputBox(const InputBoxRequest& request) override;
     int CurrentSecond() override;
+    void SleepUntilNextSecond() override;
     [[noreturn]] void EndProgram(int exitStatus) override;
 };
 
