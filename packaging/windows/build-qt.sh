@@ -95,14 +95,18 @@ build_qt() {
         { tail -n 40 "$folder/install.log" >&2; fail "Qt could not be installed."; }
     cp -r "$folder/source/LICENSES" "$folder/stage$neutral_prefix/"
     cp "$folder/source/debian/copyright" "$folder/stage$neutral_prefix/LICENSES/copyright"
-    # Whoever hands on a program with this Qt hands on its source as well.
-    mkdir "$folder/stage$neutral_prefix/source"
-    mv "$folder"/qt6-base_* "$folder/stage$neutral_prefix/source/"
+}
+
+# Whoever hands on a program with this Qt hands on its source as well.
+keep_sources() {
+    mkdir "$1/kept-source"
+    mv "$1"/qt6-base_* "$1/kept-source/"
+    mv -T "$1/kept-source" "$2/source"
 }
 
 version=$(qt_version)
 kept=$(qt_folder "$version")
-if [ -d "$kept" ]; then
+if [ -d "$kept/source" ]; then
     say "$kept"
     exit 0
 fi
@@ -112,11 +116,14 @@ host_cmake=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake
 mkdir -p "$cache"
 work=$(mktemp -d "$cache/building-qt.XXXXXX")
 trap 'rm -rf "$work"' EXIT
-if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER+set}" ]; then use_compiler_cache; fi
+use_compiler_cache
 export CMAKE_C_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER:-}
 say "Fetching the sources of Qt $version"
 fetch_sources "$work" "$version"
-build_qt "$work"
-# In one step, so that a folder of this name is always a whole one.
-mv -T "$work/stage$neutral_prefix" "$kept"
+# In single steps, so that a folder of this name always holds a whole Qt, and its sources a whole one.
+if [ ! -d "$kept" ]; then
+    build_qt "$work"
+    mv -T "$work/stage$neutral_prefix" "$kept"
+fi
+keep_sources "$work" "$kept"
 say "$kept"

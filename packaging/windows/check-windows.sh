@@ -44,8 +44,13 @@ check_core() {
     say "The calculator under Wine"
     build_for_here core result_bits
     build_windows "$build" core_tests report_tests docs_tests result_bits
-    "$tests/core_under_wine.py" "$root/build/core/bin/result_bits" "$build/bin/result_bits.exe" \
+    prove "$tests/core_under_wine.py" "$root/build/core/bin/result_bits" "$build/bin/result_bits.exe" \
         "$build"/bin/{core,report,docs}_tests.exe
+}
+
+# A proof that says "skipped" is none.
+prove() {
+    "$@" || fail "$(basename "$1") ended with exit status $? (77: something that it needs is missing)."
 }
 
 check_window() {
@@ -58,11 +63,11 @@ check_window() {
     else
         sample=(--every 8)
     fi
-    "$tests/window_under_wine.py" "${sample[@]}" "${sessions[@]}" \
+    prove "$tests/window_under_wine.py" "${sample[@]}" "${sessions[@]}" \
         "$root/build/dev/bin/window_script" "$build/bin/window_script.exe" \
         "$build/bin/system_locale_tests.exe"
-    "$tests/program_under_wine.py" "$out/Tarvix" "$out/pictures"
-    "$tests/installer_under_wine.py" "$out"/tarvix-*-setup.exe "$out/Tarvix"
+    prove "$tests/program_under_wine.py" "$out/Tarvix" "$root/build/dev/bin/window_script" "$out/pictures"
+    prove "$tests/installer_under_wine.py" "$out"/tarvix-*-setup.exe "$out/Tarvix"
 }
 
 install_packages windows

@@ -53,7 +53,7 @@ class Runs:
         run.press("{Left}")
         run.type_into("txtSGf", "1")
         run.tab_to("optCalcBeta")
-        run.press("{Left}", "{Left}")
+        run.press("{Left}")
         run.type_into("txtSGb", "1")
         run.type_into("txtDeltaP", "100")
         run.type_into("txtBeta", in_locale("0.5", locale))
@@ -65,7 +65,7 @@ class Runs:
         # Y = 1 - (0.41 + 0.35 x 0.0625) (100 / (27.707 x 114.7)) / 1.3 = 0.989546,
         # Q = 218.468 E Y 0.25 x 2.067^2 (519.67 / 14.7) sqrt(100 x 114.7 / 519.67) an hour, 24 of
         # which are 570361.
-        run.press("{Left}", "{Left}")
+        run.press("{Left}")
         run.type_into("txtTf", "60")
         run.type_into("txtPf", "100")
         run.type_into("txtGasSGb", "1")
@@ -83,7 +83,7 @@ class Runs:
         run.press("{Left}")
         run.type_into("txtPf", "100")
         run.tab_to("optCalcBeta")
-        run.press("{Left}", "{Left}")
+        run.press("{Left}")
         run.type_into("txtDeltaP", "100")
         run.type_into("txtBeta", in_locale("0.5", locale))
         return "Flow Rate 1,192.00 Pounds/Hour"
