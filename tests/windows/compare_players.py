@@ -25,8 +25,9 @@ PLACE = {"left", "top", "width", "height"}
 
 
 def play(player, lines, folder):
-    done = subprocess.run([player], input="\n".join(lines) + "\n", capture_output=True, text=True,
-                          encoding="utf-8", cwd=folder, timeout=PLAYER_SECONDS, check=False,
+    done = subprocess.run([os.path.abspath(player)], input="\n".join(lines) + "\n",
+                          capture_output=True, text=True, encoding="utf-8", cwd=folder,
+                          timeout=PLAYER_SECONDS, check=False,
                           env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
     return [json.loads(line) for line in done.stdout.splitlines()], done.returncode
 
