@@ -3,6 +3,7 @@
 import json
 import os
 import subprocess
+import tempfile
 
 
 class Rehearsal:
@@ -10,15 +11,16 @@ class Rehearsal:
     what the page says in the end."""
 
     def __init__(self, player, locale):
-        self.player = player
+        self.player = os.path.abspath(player)
         self.first = [f"locale {locale}"]
         self.keys = []
 
     def play(self, *more):
         lines = [*self.first, *(f"keys {key}" for key in self.keys), *more, "state"]
-        done = subprocess.run([self.player], input="\n".join(lines) + "\n", capture_output=True,
-                              text=True, encoding="utf-8", check=True,
-                              env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+        with tempfile.TemporaryDirectory(prefix="rehearsal-") as folder:
+            done = subprocess.run([self.player], input="\n".join(lines) + "\n", text=True,
+                                  encoding="utf-8", capture_output=True, check=True, cwd=folder,
+                                  env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
         answers = [json.loads(line) for line in done.stdout.splitlines()]
         assert all("controls" in answer for answer in answers), answers[:-1]
         return answers[-1]
