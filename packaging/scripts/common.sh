@@ -61,20 +61,62 @@ missing_packages() {
 install_packages() {
     local wanted missing
     if ! command -v dpkg-query >/dev/null 2>&1; then
-        say "No Debian package tools here: the packages named in packaging/debian-packages.txt are" \
-            "taken to be installed."
+        need_tools
         return 0
     fi
     mapfile -t wanted < <(packages_for "$1")
     [ "${#wanted[@]}" -gt 0 ] || fail "no packages found for '$1'."
     mapfile -t missing < <(missing_packages "${wanted[@]}")
     [ "${#missing[@]}" -gt 0 ] || return 0
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null 2>&1; then
+        fail "packages are missing, and there is no sudo to install them. As root: apt-get install" \
+            "${missing[*]}"
+    fi
     say "Installing ${#missing[@]} Debian packages: ${missing[*]}"
-    as_root apt-get -qq -o DPkg::Lock::Timeout=300 update ||
-        fail "apt-get update did not work (see above)."
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0 \
-        -o DPkg::Lock::Timeout=300 install --no-install-recommends "${missing[@]}" </dev/null ||
-        fail "apt-get install did not work (see above)."
+    apt_get update
+    apt_get -y install --no-install-recommends "${missing[@]}"
+}
+
+# Where packages are not Debian's, those that are needed to begin with are asked for by their tools.
+need_tools() {
+    local tool
+    for tool in cmake c++ ninja; do
+        command -v "$tool" >/dev/null 2>&1 ||
+            fail "there is no $tool here, and no apt to install it. Install what" \
+                "packaging/debian-packages.txt names, as your system calls it, then try again."
+    done
+}
+
+# apt-get, silent but for one line that says what to do when it does not work.
+apt_get() {
+    local log=build/apt.log
+    mkdir -p build
+    as_root env DEBIAN_FRONTEND=noninteractive LC_ALL=C apt-get -qq -o Dpkg::Use-Pty=0 \
+        -o DPkg::Lock::Timeout=300 -o APT::Update::Error-Mode=any "$@" \
+        </dev/null >"$log" 2>&1 && return 0
+    if disk_is_full || grep -qE "No space left|enough free space" "$log"; then
+        fail "the disk is full: the packages do not fit. Make room on it (df -h), then try again."
+    elif grep -qE 'Unable to locate package|has no installation candidate|unmet dep' "$log"; then
+        fail "the package source of this system lacks what is needed; it is made for Debian 12." \
+            "On another system, install what packaging/debian-packages.txt names by hand. See $log."
+    elif grep -qE 'resolving|resolve|[Cc]onnect|Failed to fetch|timed out|unreachable' "$log"; then
+        fail "the package source cannot be reached. Connect this machine to the network (or install" \
+            "what packaging/debian-packages.txt names), then try again. See $log."
+    fi
+    fail "apt-get $1 did not work: $(grep -m 1 '^E:' "$log" || tail -n 1 "$log"). See $log."
+}
+
+# Whether less than 20 MB are left for this folder or for the system's packages.
+disk_is_full() {
+    df -P -k . /var | awk 'NR > 1 && $4 < 20480 { full = 1 } END { exit !full }'
+}
+
+# Ends after a build that did not work, with the reason where it is the disk.
+fail_build() {
+    if disk_is_full; then
+        fail "the disk is full: the build does not fit. Make room on it (df -h), then try again."
+    fi
+    fail "$1"
 }
 
 # Lets the compiler cache help where there is one.

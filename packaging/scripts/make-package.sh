@@ -29,7 +29,8 @@ export CXXFLAGS LDFLAGS
 
 umask 022
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
-    -DTARVIX_BUILD_TESTS=OFF -DTARVIX_BUILD_BENCH=OFF >"$build/configure.log" ||
+    -DTARVIX_BUILD_TESTS=OFF -DTARVIX_BUILD_BENCH=OFF -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+    -DTARVIX_WERROR="${TARVIX_WERROR:-OFF}" >"$build/configure.log" ||
     { cat "$build/configure.log" >&2; fail "CMake could not configure the package's build."; }
 cmake --build "$build" -- --quiet || fail "the package's build failed (see above)."
 (cd "$build" && cpack -G DEB >"$build/cpack.log" 2>&1) ||

@@ -5,6 +5,8 @@
 set -euo pipefail
 # shellcheck source=packaging/scripts/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../scripts/common.sh"
+# shellcheck source=packaging/scripts/window.sh
+source "$(dirname "${BASH_SOURCE[0]}")/../scripts/window.sh"
 root=$(project_root)
 cd "$root"
 
@@ -45,8 +47,10 @@ check_data_files() {
 }
 
 # Two builds in folders of different names, at different times, under another umask and time zone.
+# Without precompiled headers and optimized, the compiler sees most; there are no warnings.
 check_two_builds() {
     local first second
+    export TARVIX_WERROR=ON
     first=$(CCACHE_DISABLE=1 packaging/scripts/make-package.sh "$work/one" | tail -n 1)
     second=$(umask 077 && CCACHE_DISABLE=1 TZ=Asia/Tokyo LC_ALL=C \
         packaging/scripts/make-package.sh "$work/another-folder" | tail -n 1)
@@ -91,21 +95,8 @@ system_files() {
     find /usr /etc /opt -xdev -not -path '*cache*' | sort
 }
 
-# Prints the main window's number once it is on the screen. The splash before it has the same title,
-# but asks the window manager for no frame.
-find_main_window() {
-    local window
-    for window in $(xdotool search --onlyvisible --name '^Brindle Tarvix$' 2>/dev/null); do
-        if ! xprop -id "$window" _NET_WM_WINDOW_TYPE | grep -qE 'SPLASH|OVERRIDE'; then
-            say "$window"
-            return 0
-        fi
-    done
-    return 1
-}
-
 check_installed() {
-    local window home command deadline status=0
+    local window home command status=0
     if dpkg-query --show tarvix >/dev/null 2>&1; then
         fail "a package tarvix is installed already; remove it to run this check."
     fi
@@ -122,13 +113,7 @@ check_installed() {
     (cd / && HOME=$home XDG_RUNTIME_DIR=$work/runtime QT_QPA_PLATFORM=xcb \
         exec dbus-run-session -- sh -c "exec $command") &
     program_pid=$!
-    deadline=$((SECONDS + seconds_to_wait))
-    until window=$(find_main_window); do
-        [ -d "/proc/$program_pid" ] || fail "the program ended before its main window appeared."
-        [ "$SECONDS" -lt "$deadline" ] ||
-            fail "the main window did not appear within $seconds_to_wait seconds."
-        sleep 0.1
-    done
+    window=$(wait_for_main_window "$program_pid" "$seconds_to_wait")
     say "Started by '$command': its main window is there."
     import -window "$window" "$work/installed-window.png"
     xdotool windowactivate --sync "$window" key alt+F4

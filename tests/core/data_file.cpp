@@ -22,7 +22,7 @@ DataRow SplitAtTabs(const std::string& line) {
 }  // namespace
 
 std::vector<DataRow> ReadDataFile(const std::string& name) {
-    std::ifstream file(std::string(TARVIX_TEST_DATA) + "/" + name);
+    std::ifstream file(TARVIX_TEST_DATA "/" + name);
     std::string line;
     if (!std::getline(file, line)) {
         ADD_FAILURE() << "cannot read " << name;
