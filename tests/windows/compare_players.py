@@ -12,6 +12,7 @@ import json
 import os
 import pathlib
 import random
+import re
 import subprocess
 import sys
 import tempfile
@@ -22,6 +23,8 @@ from session_generator import Generator  # noqa: E402  (found by the line above)
 PLAYER_SECONDS = 600
 # Where a frame lies follows from the font.
 PLACE = {"left", "top", "width", "height"}
+# The last line of a page; the month's name is the system's.
+DATE = re.compile(r"^\d\d \S+ \d{4} +(?=Web site)")
 
 
 def play(player, lines, folder):
@@ -29,7 +32,12 @@ def play(player, lines, folder):
                           capture_output=True, text=True, encoding="utf-8", cwd=folder,
                           timeout=PLAYER_SECONDS, check=False,
                           env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-    return [json.loads(line) for line in done.stdout.splitlines()], done.returncode
+    states = [json.loads(line) for line in done.stdout.splitlines()]
+    for state in states:
+        if "page_lines" in state:
+            state["page_lines"] = [[DATE.sub("DATE ", line) for line in page]
+                                   for page in state["page_lines"]]
+    return states, done.returncode
 
 
 def differences(one, other, path=""):
