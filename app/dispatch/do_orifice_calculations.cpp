@@ -6,57 +6,73 @@
 
 namespace tarvix {
 
-void OrificeCalculations::CalculateUnlessSuspended() {
-    if (!context_.state.SuspendCalc) {
-        DoOrificeCalculations();
+namespace {
+
+void StandardBetaRangeCheck(const FormContext& context) {
+    Module1& module = context.module;
+    if (IsBetaOutsideStandardRange(context.form.txtBeta->Text(), module.locale())) {
+        module.MsgText = kBetaRangeWarning;
+        ShowMessage(context, module.MsgText, BackColor::Yellow);
     }
 }
 
-void OrificeCalculations::DoOrificeCalculations() {
-    ++runs_;
-    Module1& module = context_.module;
-    EnablePrinting(false);
+NumericField& ResultField(const FormContext& context, SolveFor mode) {
+    switch (mode) {
+        case SolveFor::FlowRate:
+            return *context.form.txtFlow;
+        case SolveFor::DiffPressure:
+            return *context.form.txtDeltaP;
+        case SolveFor::Beta:
+            break;
+    }
+    return *context.form.txtBeta;
+}
 
-    const InputSheet sheet = ReadInputSheet(context_);
+}  // namespace
+
+void CalculateUnlessSuspended(const FormContext& context) {
+    if (!context.state.SuspendCalc) {
+        DoOrificeCalculations(context);
+    }
+}
+
+void DoOrificeCalculations(const FormContext& context) {
+    ++context.state.calculationRuns;
+    Module1& module = context.module;
+    EnablePrinting(context, false);
+
+    const InputSheet sheet = ReadInputSheet(context);
     const int ok = CheckInputs(sheet, module);
-    ShowMessage(module.MsgText, BackColor::Yellow);
+    ShowMessage(context, module.MsgText, BackColor::Yellow);
     if (ok != kDataGood) {
-        ClearResult();
+        ClearResult(context);
         return;
     }
 
     const CalculationResult result = CalculateResult(sheet, module);
-    NumericField& field = ResultField(*sheet.mode);
+    NumericField& field = ResultField(context, *sheet.mode);
     field.SetText("");
     if (!result.message.empty()) {
-        ShowMessage(result.message, BackColor::Red);
+        ShowMessage(context, result.message, BackColor::Red);
     } else if (!result.text.empty()) {
         field.SetText(result.text);
         // Writing the result may have refused it: its own field knows a limit, too.
-        EnablePrinting(field.Text() == result.text);
+        EnablePrinting(context, field.Text() == result.text);
     }
-    StandardBetaRangeCheck();
+    StandardBetaRangeCheck(context);
 }
 
-void OrificeCalculations::StandardBetaRangeCheck() {
-    Module1& module = context_.module;
-    if (IsBetaOutsideStandardRange(context_.form.txtBeta->Text(), module.locale())) {
-        module.MsgText = kBetaRangeWarning;
-        ShowMessage(module.MsgText, BackColor::Yellow);
-    }
+void ShowMessage(const FormContext& context, const std::string& message, BackColor color) {
+    context.form.lblMsg->Show(message, color);
 }
 
-void OrificeCalculations::ShowMessage(const std::string& message, BackColor color) {
-    context_.form.lblMsg->Show(message, color);
+void EnablePrinting(const FormContext& context, bool enabled) {
+    context.form.cmdPrint->setEnabled(enabled);
+    context.form.mnuPrint->setEnabled(enabled);
 }
 
-void OrificeCalculations::EnablePrinting(bool enabled) {
-    context_.form.cmdPrint->setEnabled(enabled);
-    context_.form.mnuPrint->setEnabled(enabled);
-}
-
-void OrificeCalculations::ClearResult() {
-    const MainForm& form = context_.form;
+void ClearResult(const FormContext& context) {
+    const MainForm& form = context.form;
     if (form.optCalcFR->Value()) {
         form.txtFlow->SetText("");
     } else if (form.optCalcDP->Value()) {
@@ -68,18 +84,6 @@ void OrificeCalculations::ClearResult() {
         form.txtDeltaP->SetText("");
         form.txtBeta->SetText("");
     }
-}
-
-NumericField& OrificeCalculations::ResultField(SolveFor mode) const {
-    switch (mode) {
-        case SolveFor::FlowRate:
-            return *context_.form.txtFlow;
-        case SolveFor::DiffPressure:
-            return *context_.form.txtDeltaP;
-        case SolveFor::Beta:
-            break;
-    }
-    return *context_.form.txtBeta;
 }
 
 }  // namespace tarvix

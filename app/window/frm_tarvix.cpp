@@ -1,9 +1,16 @@
 #include "app/window/frm_tarvix.h"
 
+#include "app/window/mode_options.h"
 #include "app/window/system_locale.h"
 #include "app/window/window_place.h"
 #include "ui/controls/readable_palette.h"
 #include "ui/form/input_reader.h"
+#include "ui/handlers/bore_and_beta_fields.h"
+#include "ui/handlers/flow_unit_boxes.h"
+#include "ui/handlers/fluid_options.h"
+#include "ui/handlers/numeric_fields.h"
+#include "ui/handlers/pipe_boxes.h"
+#include "ui/handlers/unit_boxes.h"
 
 #include <QApplication>
 #include <QDate>
@@ -19,21 +26,11 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       host_(host),
       form_(view_.canvas(), view_.footer(), *menuBar()),
       context_{form_, state_, module_},
-      calculations_(context_),
-      warnings_(context_),
-      densities_(context_, calculations_),
-      numericFields_(context_, calculations_, densities_, warnings_),
-      boreAndBeta_(context_, calculations_),
-      unitBoxes_(context_, calculations_, densities_, warnings_, numericFields_),
-      flowUnitBoxes_(context_, calculations_),
-      pipeBoxes_(context_, warnings_, boreAndBeta_),
-      fluidOptions_(context_, calculations_, densities_, warnings_, numericFields_, flowUnitBoxes_),
-      modes_(context_, calculations_),
       accessibleNames_(form_) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
     setCentralWidget(&view_);
     ApplyReadableColors();
-    ConnectMenusAndButtons();
+    ConnectHandlers();
 
     // As designed, before any handler has run.
     form_.optPgauge->setChecked(true);
@@ -52,15 +49,39 @@ frmTarvix::~frmTarvix() {
     takeCentralWidget();
 }
 
-void frmTarvix::ConnectMenusAndButtons() {
-    QObject::connect(form_.cmdPrint, &QAbstractButton::clicked, this,
-                     [this] { PrintOrificeReport(); });
-    QObject::connect(form_.mnuPrint, &QAction::triggered, this, [this] { PrintOrificeReport(); });
-    QObject::connect(form_.cmdExit, &QAbstractButton::clicked, this,
-                     [this] { module_.ExitProgram(); });
-    QObject::connect(form_.mnuExit, &QAction::triggered, this, [this] { module_.ExitProgram(); });
-    QObject::connect(form_.mnuAbout, &QAction::triggered, this,
-                     [this] { host_.ShowAboutBox(*this); });
+void frmTarvix::ConnectHandlers() {
+    ConnectNumericFields(context_);
+    ConnectBoreAndBeta(context_);
+    ConnectUnitBoxes(context_);
+    ConnectFlowUnitBoxes(context_);
+    ConnectPipeBoxes(context_);
+    ConnectFluidOptions(context_);
+    ConnectModeOptions(context_);
+    QObject::connect(form_.cmdPrint, &QAbstractButton::clicked, this, &frmTarvix::cmdPrint_Click);
+    QObject::connect(form_.cmdExit, &QAbstractButton::clicked, this, &frmTarvix::cmdExit_Click);
+    QObject::connect(form_.mnuPrint, &QAction::triggered, this, &frmTarvix::mnuPrint_Click);
+    QObject::connect(form_.mnuExit, &QAction::triggered, this, &frmTarvix::mnuExit_Click);
+    QObject::connect(form_.mnuAbout, &QAction::triggered, this, &frmTarvix::mnuAbout_Click);
+}
+
+void frmTarvix::cmdPrint_Click() {
+    PrintOrificeReport();
+}
+
+void frmTarvix::cmdExit_Click() {
+    module_.ExitProgram();
+}
+
+void frmTarvix::mnuPrint_Click() {
+    PrintOrificeReport();
+}
+
+void frmTarvix::mnuExit_Click() {
+    module_.ExitProgram();
+}
+
+void frmTarvix::mnuAbout_Click() {
+    host_.ShowAboutBox(*this);
 }
 
 void frmTarvix::Form_Load() {
@@ -71,12 +92,12 @@ void frmTarvix::Form_Load() {
     move(screen.topLeft() + QPoint(place.x, place.y));
     state_.SuspendCalc = true;
     module_.FluidType = "G";
-    pipeBoxes_.LoadcboPipeIDUnit();
-    unitBoxes_.LoadcboPressUnit();
-    unitBoxes_.LoadcboDeltaPUnit();
-    unitBoxes_.LoadcboDensityUnit();
-    pipeBoxes_.LoadcboNomSize();
-    pipeBoxes_.LoadcboPipeID();
+    LoadcboPipeIDUnit(context_);
+    LoadcboPressUnit(context_);
+    LoadcboDeltaPUnit(context_);
+    LoadcboDensityUnit(context_);
+    LoadcboNomSize(context_);
+    LoadcboPipeID(context_);
     logo_.emplace(module_.AppPath + std::string(kBrindleLogo), module_.platform());
     ShowLogo();
     SetBackColor(*form_.fraPlateThicknessWarning, BackColor::Yellow);

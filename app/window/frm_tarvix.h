@@ -1,17 +1,13 @@
 // The main window.
 //
-// It builds its form and the behaviours that own the form's handlers, and holds the start-up, the
-// menus and the buttons. One edit travels: control -> handler (a behaviour in ui/) ->
-// OrificeCalculations::DoOrificeCalculations -> checks and equation (pure, app/ and calc/) ->
-// result field or message line.
+// It builds its form, links the controls with their handlers, and holds the start-up, the menus and
+// the buttons. One edit travels: control -> handler (ui/handlers/) -> DoOrificeCalculations ->
+// checks and equation (pure, app/sheet/ and calc/) -> result field or message line.
 #pragma once
 
-#include "app/window/mode_options.h"
 #include "ui/form/accessible_names.h"
+#include "ui/form/form_state.h"
 #include "ui/form/form_view.h"
-#include "ui/handlers/fluid_options.h"
-#include "ui/handlers/pipe_boxes.h"
-#include "ui/handlers/unit_boxes.h"
 #include "ui/windows/logo_picture.h"
 #include "ui/windows/window_host.h"
 
@@ -35,7 +31,7 @@ class frmTarvix : public QMainWindow {
 
     MainForm& form() { return form_; }
     const FormState& state() const { return state_; }
-    int calculationRuns() const { return calculations_.runs(); }
+    int calculationRuns() const { return state_.calculationRuns; }
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -44,7 +40,12 @@ class frmTarvix : public QMainWindow {
   private:
     // Selects gas when the window is first shown, which ends the loading state.
     void Form_Activate();
-    void ConnectMenusAndButtons();
+    void ConnectHandlers();
+    void cmdPrint_Click();
+    void cmdExit_Click();
+    void mnuPrint_Click();
+    void mnuExit_Click();
+    void mnuAbout_Click();
     void ShowLogo();
     void ApplyReadableColors();
     int FrameHeight() const;
@@ -57,16 +58,6 @@ class frmTarvix : public QMainWindow {
     FormState state_;
     MainForm form_;
     FormContext context_;
-    OrificeCalculations calculations_;
-    Warnings warnings_;
-    Densities densities_;
-    NumericFields numericFields_;
-    BoreAndBeta boreAndBeta_;
-    UnitBoxes unitBoxes_;
-    FlowUnitBoxes flowUnitBoxes_;
-    PipeBoxes pipeBoxes_;
-    FluidOptions fluidOptions_;
-    ModeOptions modes_;
     AccessibleNames accessibleNames_;
     std::optional<Logo> logo_;  // from Form_Load on
 };

@@ -2,6 +2,8 @@
 // that no user can bring about.
 #include "app/window/frm_tarvix.h"
 #include "tests/window_script/script_desk.h"
+#include "ui/handlers/fluid_options.h"
+#include "ui/handlers/numeric_fields.h"
 #include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
@@ -38,42 +40,42 @@ class FormProceduresTest : public ::testing::Test {
     QWidget footer_;
     MainForm form_{canvas_, footer_, menus_};
     FormContext context_{form_, state_, module_};
-    OrificeCalculations calculations_{context_};
-    Warnings warnings_{context_};
-    Densities densities_{context_, calculations_};
-    NumericFields fields_{context_, calculations_, densities_, warnings_};
-    FlowUnitBoxes flowUnitBoxes_{context_, calculations_};
-    FluidOptions options_{context_, calculations_, densities_, warnings_, fields_, flowUnitBoxes_};
+};
+Warnings warnings_{context_};
+Densities densities_{context_, calculations_};
+NumericFields fields_{context_, calculations_, densities_, warnings_};
+FlowUnitBoxes flowUnitBoxes_{context_, calculations_};
+FluidOptions options_{context_, calculations_, densities_, warnings_, fields_, flowUnitBoxes_};
 };
 
 TEST_F(FormProceduresTest, TemperatureIsClosedAndOpened) {
     state_.SuspendCalc = true;
     form_.txtTf->SetText("60");
-    options_.TfEnableOff();
+    TfEnableOff(context_);
     EXPECT_EQ(form_.txtTf->text(), "");
     EXPECT_FALSE(form_.txtTf->isEnabled());
     EXPECT_FALSE(form_.lblTf->isEnabled());
     EXPECT_EQ(BackColorOf(*form_.txtTf), BackColor::PaleGrey);
-    options_.TfEnableOn();
+    TfEnableOn(context_);
     EXPECT_TRUE(form_.txtTf->isEnabled());
     EXPECT_TRUE(form_.lblTf->isEnabled());
     EXPECT_EQ(BackColorOf(*form_.txtTf), BackColor::WindowBackground);
 }
 
 TEST_F(FormProceduresTest, TemperatureOptionsAreClosedAndOpened) {
-    options_.ToptEnableOff();
+    ToptEnableOff(context_);
     EXPECT_FALSE(form_.optDegF->isEnabled());
     EXPECT_FALSE(form_.optDegC->isEnabled());
-    options_.ToptEnableOn();
+    ToptEnableOn(context_);
     EXPECT_TRUE(form_.optDegF->isEnabled());
     EXPECT_TRUE(form_.optDegC->isEnabled());
 }
 
 TEST_F(FormProceduresTest, GravityOptionsAreClosedAndOpened) {
-    options_.SGfOptEnableOff();
+    SGfOptEnableOff(context_);
     EXPECT_FALSE(form_.optSgUser->isEnabled());
     EXPECT_FALSE(form_.optSgCalc->isEnabled());
-    options_.SGfOptEnableOn();
+    SGfOptEnableOn(context_);
     EXPECT_TRUE(form_.optSgUser->isEnabled());
     EXPECT_TRUE(form_.optSgCalc->isEnabled());
 }
@@ -81,7 +83,7 @@ TEST_F(FormProceduresTest, GravityOptionsAreClosedAndOpened) {
 TEST_F(FormProceduresTest, PressureOfAnUnknownFluidEndsTheProgram) {
     state_.SuspendCalc = true;
     module_.FluidType = "X";
-    EXPECT_EQ(ExitStatusOf([this] { fields_.txtPf_Change(); }), 1);
+    EXPECT_EQ(ExitStatusOf([this] { txtPf_Change(context_); }), 1);
     const auto boxes = desk_.TakeBoxes();
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].title, "Fatal Error");

@@ -16,6 +16,9 @@ struct FormState {
     // True while the window reconfigures itself: no handler calculates.
     bool SuspendCalc = false;
 
+    // How often DoOrificeCalculations has run.
+    int calculationRuns = 0;
+
     // One table for each unit list, an entry for each position. Empty until the list is filled.
     std::span<const Unit> PressUnitTable;
     std::span<const Unit> DeltaPUnitTable;
@@ -29,7 +32,7 @@ struct FormState {
     std::vector<std::string> PipeIDTable;   // inside diameters in inches, as the locale writes them
 };
 
-// What every behaviour of the window works on.
+// What every handler of the window works on.
 struct FormContext {
     MainForm& form;
     FormState& state;

@@ -1,30 +1,17 @@
+// The bore and beta fields, which follow each other.
 #pragma once
 
-#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/form_state.h"
 
 namespace tarvix {
 
-// The bore and beta fields, which follow each other.
-class BoreAndBeta {
-  public:
-    BoreAndBeta(const FormContext& context, OrificeCalculations& calculations);
+void ConnectBoreAndBeta(const FormContext& context);
 
-    void txtBeta_Change();
-    void txtOriBoreDia_Change();
-    void cboOriBoreUnit_Click();
+void txtBeta_Change(const FormContext& context);
+void txtOriBoreDia_Change(const FormContext& context);
+void cboOriBoreUnit_Click(const FormContext& context);
 
-    // Keeps the bore and lets beta follow a new pipe diameter, then recalculates.
-    void FollowPipeDiameter();
-
-  private:
-    std::string BetaLimitMessage() const;
-    void WriteBore(float beta);
-    void WriteBeta();
-    float PipeDiameterIn() const;
-    float BoreUnitFactor() const;
-
-    FormContext context_;
-    OrificeCalculations& calculations_;
-};
+// Keeps the bore and lets beta follow a new pipe diameter, then recalculates.
+void FollowPipeDiameter(const FormContext& context);
 
 }  // namespace tarvix

@@ -1,29 +1,30 @@
 #include "ui/handlers/densities.h"
 
+#include "app/dispatch/do_orifice_calculations.h"
 #include "app/sheet/solve_sheet.h"
 #include "ui/form/input_reader.h"
 
 namespace tarvix {
 
-void Densities::CalcSGf() {
-    const MainForm& form = context_.form;
-    const InputSheet sheet = ReadInputSheet(context_);
+void CalcSGf(const FormContext& context) {
+    const MainForm& form = context.form;
+    const InputSheet sheet = ReadInputSheet(context);
     form.txtSGf->SetText("");
-    form.txtSGf->SetText(tarvix::CalcSGf(sheet.density, sheet.densityUnit, context_.module));
+    form.txtSGf->SetText(CalcSGf(sheet.density, sheet.densityUnit, context.module));
 }
 
-bool Densities::CalcSteamDensity() {
-    const MainForm& form = context_.form;
-    const InputSheet sheet = ReadInputSheet(context_);
+bool CalcSteamDensity(const FormContext& context) {
+    const MainForm& form = context.form;
+    const InputSheet sheet = ReadInputSheet(context);
     form.txtDensity->SetText("");
-    const SteamDensityResult result = tarvix::CalcSteamDensity(sheet, context_.module);
+    const SteamDensityResult result = CalcSteamDensity(sheet, context.module);
     form.txtDensity->SetText(result.density);
-    context_.module.MsgText = result.message;
-    calculations_.ShowMessage(result.message, BackColor::Yellow);
+    context.module.MsgText = result.message;
+    ShowMessage(context, result.message, BackColor::Yellow);
     if (result.message.empty()) {
         return true;
     }
-    calculations_.ClearResult();
+    ClearResult(context);
     return false;
 }
 

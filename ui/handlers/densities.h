@@ -1,25 +1,15 @@
+// The densities that the window works out itself.
 #pragma once
 
-#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/form_state.h"
 
 namespace tarvix {
 
-// The densities that the window works out itself.
-class Densities {
-  public:
-    Densities(const FormContext& context, OrificeCalculations& calculations)
-        : context_(context), calculations_(calculations) {}
+// Writes the flowing specific gravity of the entered liquid density.
+void CalcSGf(const FormContext& context);
 
-    // Writes the flowing specific gravity of the entered liquid density.
-    void CalcSGf();
-
-    // Writes the density of saturated steam at the operating pressure. Returns false, after a
-    // message and with the result field emptied, for a pressure outside the steam table.
-    bool CalcSteamDensity();
-
-  private:
-    FormContext context_;
-    OrificeCalculations& calculations_;
-};
+// Writes the density of saturated steam at the operating pressure. Returns false, after a message
+// and with the result field emptied, for a pressure outside the steam table.
+bool CalcSteamDensity(const FormContext& context);
 
 }  // namespace tarvix

@@ -1,47 +1,45 @@
 #include "ui/handlers/flow_unit_boxes.h"
 
-#include "ui/handlers/unit_boxes.h"
+#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/handler_links.h"
+#include "ui/form/unit_lists.h"
 
 namespace tarvix {
 
-FlowUnitBoxes::FlowUnitBoxes(const FormContext& context, OrificeCalculations& calculations)
-    : context_(context), calculations_(calculations) {
-    const MainForm& form = context_.form;
-    QObject::connect(form.cboFlowUnit, &QComboBox::activated, form.cboFlowUnit,
-                     [this] { cboFlowUnit_Click(); });
-    QObject::connect(form.cboTimeUnit, &QComboBox::activated, form.cboTimeUnit,
-                     [this] { cboTimeUnit_Click(); });
+void ConnectFlowUnitBoxes(const FormContext& context) {
+    OnClick(context, *context.form.cboFlowUnit, cboFlowUnit_Click);
+    OnClick(context, *context.form.cboTimeUnit, cboTimeUnit_Click);
 }
 
-void FlowUnitBoxes::LoadcboFlowUnit() {
-    Module1& module = context_.module;
-    DropDownList& list = *context_.form.cboFlowUnit;
+void LoadcboFlowUnit(const FormContext& context) {
+    Module1& module = context.module;
+    DropDownList& list = *context.form.cboFlowUnit;
     const FluidFlowUnits fluid = FlowUnitsOf(module.FluidType);
     if (fluid.units.empty()) {
         module.MsgText = "Orifice flow type not specified.";
         module.FatalError();
     }
     list.Clear();
-    context_.state.FlowUnitTable = fluid.units;
+    context.state.FlowUnitTable = fluid.units;
     AddUnits(list, fluid.units);
     list.SetListIndex(PositionOf(fluid.units, fluid.defaultFlowUnit));
 }
 
-void FlowUnitBoxes::LoadcboTimeUnit() {
-    DropDownList& list = *context_.form.cboTimeUnit;
-    const FluidFlowUnits fluid = FlowUnitsOf(context_.module.FluidType);
+void LoadcboTimeUnit(const FormContext& context) {
+    DropDownList& list = *context.form.cboTimeUnit;
+    const FluidFlowUnits fluid = FlowUnitsOf(context.module.FluidType);
     const std::string toSelect =
         fluid.units.empty() ? list.Text() : std::string(fluid.defaultTimeUnit);
     list.Clear();
-    context_.state.TimeUnitTable = kTimeUnits;
+    context.state.TimeUnitTable = kTimeUnits;
     AddUnits(list, kTimeUnits);
     list.SetListIndex(PositionOf(kTimeUnits, toSelect));
 }
 
-void FlowUnitBoxes::cboFlowUnit_Click() {
-    const MainForm& form = context_.form;
-    Module1& module = context_.module;
-    const bool isMass = SelectedKind() == kMassKind;
+void cboFlowUnit_Click(const FormContext& context) {
+    const MainForm& form = context.form;
+    Module1& module = context.module;
+    const bool isMass = SelectedFlowKind(context) == kMassKind;
     if (module.FluidType == "L") {
         // A mass rate needs no gravity at base conditions.
         form.txtSGb->setVisible(!isMass);
@@ -53,15 +51,15 @@ void FlowUnitBoxes::cboFlowUnit_Click() {
         module.MsgText = "Orifice type not specified";
         module.FatalError();
     }
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void FlowUnitBoxes::cboTimeUnit_Click() {
-    calculations_.CalculateUnlessSuspended();
+void cboTimeUnit_Click(const FormContext& context) {
+    CalculateUnlessSuspended(context);
 }
 
-std::string_view FlowUnitBoxes::SelectedKind() const {
-    const FlowUnit* unit = SelectedEntry(context_.state.FlowUnitTable, *context_.form.cboFlowUnit);
+std::string_view SelectedFlowKind(const FormContext& context) {
+    const FlowUnit* unit = SelectedEntry(context.state.FlowUnitTable, *context.form.cboFlowUnit);
     return unit != nullptr ? unit->kind : std::string_view();
 }
 

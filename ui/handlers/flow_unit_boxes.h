@@ -1,27 +1,20 @@
+// The flow and time unit boxes, whose lists depend on the fluid.
 #pragma once
 
-#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/form_state.h"
 
 namespace tarvix {
 
-// The flow and time unit boxes, whose lists depend on the fluid.
-class FlowUnitBoxes {
-  public:
-    FlowUnitBoxes(const FormContext& context, OrificeCalculations& calculations);
+void ConnectFlowUnitBoxes(const FormContext& context);
 
-    // Each fills its box for the current fluid and selects the fluid's own unit.
-    void LoadcboFlowUnit();
-    void LoadcboTimeUnit();
+// Each fills its box for the current fluid and selects the fluid's own unit.
+void LoadcboFlowUnit(const FormContext& context);
+void LoadcboTimeUnit(const FormContext& context);
 
-    void cboFlowUnit_Click();
-    void cboTimeUnit_Click();
+void cboFlowUnit_Click(const FormContext& context);
+void cboTimeUnit_Click(const FormContext& context);
 
-    // "V" or "M" of the selected flow unit; empty while there is none.
-    std::string_view SelectedKind() const;
-
-  private:
-    FormContext context_;
-    OrificeCalculations& calculations_;
-};
+// "V" or "M" of the selected flow unit; empty while there is none.
+std::string_view SelectedFlowKind(const FormContext& context);
 
 }  // namespace tarvix

@@ -1,5 +1,12 @@
 #include "ui/handlers/fluid_options.h"
 
+#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/handler_links.h"
+#include "ui/handlers/densities.h"
+#include "ui/handlers/flow_unit_boxes.h"
+#include "ui/handlers/numeric_fields.h"
+#include "ui/handlers/warnings.h"
+
 namespace tarvix {
 
 namespace {
@@ -16,56 +23,40 @@ void SetVisible(QWidget* widget, bool visible) {
     widget->setVisible(visible);
 }
 
-}  // namespace
-
-FluidOptions::FluidOptions(const FormContext& context, OrificeCalculations& calculations,
-                           Densities& densities, Warnings& warnings, NumericFields& fields,
-                           FlowUnitBoxes& flowUnitBoxes)
-    : context_(context),
-      calculations_(calculations),
-      densities_(densities),
-      warnings_(warnings),
-      fields_(fields),
-      flowUnitBoxes_(flowUnitBoxes) {
-    ConnectOptions();
-}
-
-void FluidOptions::ConnectOptions() {
-    const MainForm& form = context_.form;
-    const auto connect = [this](OptionButton* option, void (FluidOptions::*handler)()) {
-        QObject::connect(option, &QAbstractButton::clicked, option,
-                         [this, handler] { (this->*handler)(); });
-    };
-    connect(form.optLiquid, &FluidOptions::optLiquid_Click);
-    connect(form.optGas, &FluidOptions::optGas_Click);
-    connect(form.optSteam, &FluidOptions::optSteam_Click);
-    connect(form.optSgCalc, &FluidOptions::optSgCalc_Click);
-    connect(form.optSgUser, &FluidOptions::optSgUser_Click);
-    connect(form.optSteamTbl, &FluidOptions::optSteamTbl_Click);
-    connect(form.optSteamUser, &FluidOptions::optSteamUser_Click);
-    connect(form.optSaturated, &FluidOptions::optSaturated_Click);
-    connect(form.optSuperheated, &FluidOptions::optSuperheated_Click);
-    connect(form.optCompCorrNone, &FluidOptions::optCompCorrNone_Click);
-    connect(form.optCompDensity, &FluidOptions::optCompDensity_Click);
-    connect(form.optCompZf, &FluidOptions::optCompZf_Click);
-    connect(form.optDegC, &FluidOptions::optDegC_Click);
-    connect(form.optDegF, &FluidOptions::optDegF_Click);
-    connect(form.optPgauge, &FluidOptions::optPgauge_Click);
-    connect(form.optPabsolute, &FluidOptions::optPabsolute_Click);
-}
-
-void FluidOptions::SelectFluidColors(const OptionButton* selected) {
-    const MainForm& form = context_.form;
+void SelectFluidColors(const FormContext& context, const OptionButton* selected) {
+    const MainForm& form = context.form;
     for (OptionButton* option : {form.optLiquid, form.optGas, form.optSteam}) {
         SetBackColor(*option, option == selected ? BackColor::Green : BackColor::LightGrey);
     }
 }
 
-void FluidOptions::optLiquid_Click() {
-    MainForm& form = context_.form;
-    context_.state.SuspendCalc = true;
-    context_.module.FluidType = "L";
-    SelectFluidColors(form.optLiquid);
+}  // namespace
+
+void ConnectFluidOptions(const FormContext& context) {
+    const MainForm& form = context.form;
+    OnClick(context, *form.optLiquid, optLiquid_Click);
+    OnClick(context, *form.optGas, optGas_Click);
+    OnClick(context, *form.optSteam, optSteam_Click);
+    OnClick(context, *form.optSgCalc, optSgCalc_Click);
+    OnClick(context, *form.optSgUser, optSgUser_Click);
+    OnClick(context, *form.optSteamTbl, optSteamTbl_Click);
+    OnClick(context, *form.optSteamUser, optSteamUser_Click);
+    OnClick(context, *form.optSaturated, optSaturated_Click);
+    OnClick(context, *form.optSuperheated, optSuperheated_Click);
+    OnClick(context, *form.optCompCorrNone, optCompCorrNone_Click);
+    OnClick(context, *form.optCompDensity, optCompDensity_Click);
+    OnClick(context, *form.optCompZf, optCompZf_Click);
+    OnClick(context, *form.optDegC, optDegC_Click);
+    OnClick(context, *form.optDegF, optDegF_Click);
+    OnClick(context, *form.optPgauge, optPgauge_Click);
+    OnClick(context, *form.optPabsolute, optPabsolute_Click);
+}
+
+void optLiquid_Click(const FormContext& context) {
+    MainForm& form = context.form;
+    context.state.SuspendCalc = true;
+    context.module.FluidType = "L";
+    SelectFluidColors(context, form.optLiquid);
     SetVisible(form.fraSG, true);
     SetVisible(form.fraTemp, false);
     SetVisible(form.fraGasSG, false);
@@ -75,21 +66,21 @@ void FluidOptions::optLiquid_Click() {
     form.SetTop(*form.fraDensity, kDensityTopLiquid);
     form.fraDensity->setEnabled(false);
     SetVisible(form.lblSteamTbl, false);
-    DenOptEnableOff();
-    DenEnableOff();
-    flowUnitBoxes_.LoadcboFlowUnit();
-    flowUnitBoxes_.LoadcboTimeUnit();
+    DenOptEnableOff(context);
+    DenEnableOff(context);
+    LoadcboFlowUnit(context);
+    LoadcboTimeUnit(context);
     form.optSgUser->Select();
-    context_.state.SuspendCalc = false;
-    calculations_.DoOrificeCalculations();
+    context.state.SuspendCalc = false;
+    DoOrificeCalculations(context);
     form.txtSGf->setFocus();
 }
 
-void FluidOptions::optGas_Click() {
-    MainForm& form = context_.form;
-    context_.state.SuspendCalc = true;
-    context_.module.FluidType = "G";
-    SelectFluidColors(form.optGas);
+void optGas_Click(const FormContext& context) {
+    MainForm& form = context.form;
+    context.state.SuspendCalc = true;
+    context.module.FluidType = "G";
+    SelectFluidColors(context, form.optGas);
     SetVisible(form.fraSG, false);
     SetVisible(form.fraTemp, true);
     SetVisible(form.fraGasSG, true);
@@ -98,25 +89,25 @@ void FluidOptions::optGas_Click() {
     SetVisible(form.fraCompCorrection, true);
     form.SetWidth(*form.fraPress, kPressWidthGas);
     form.fraTemp->setEnabled(true);
-    TfEnableOn();
-    ToptEnableOn();
+    TfEnableOn(context);
+    ToptEnableOn(context);
     form.fraPress->setEnabled(true);
     SetVisible(form.fraPress, true);
     form.cboPressUnit->setEnabled(true);
-    warnings_.CheckZfCompWarning();
-    flowUnitBoxes_.LoadcboFlowUnit();
-    flowUnitBoxes_.LoadcboTimeUnit();
-    context_.state.SuspendCalc = false;
+    CheckZfCompWarning(context);
+    LoadcboFlowUnit(context);
+    LoadcboTimeUnit(context);
+    context.state.SuspendCalc = false;
     form.canvas().update();
-    calculations_.DoOrificeCalculations();
+    DoOrificeCalculations(context);
 }
 
-void FluidOptions::optSteam_Click() {
-    MainForm& form = context_.form;
-    context_.state.SuspendCalc = true;
-    context_.module.FluidType = "S";
-    SelectFluidColors(form.optSteam);
-    calculations_.ShowMessage("", BackColor::PaleGrey);
+void optSteam_Click(const FormContext& context) {
+    MainForm& form = context.form;
+    context.state.SuspendCalc = true;
+    context.module.FluidType = "S";
+    SelectFluidColors(context, form.optSteam);
+    ShowMessage(context, "", BackColor::PaleGrey);
     SetVisible(form.fraSG, false);
     SetVisible(form.fraTemp, false);
     SetVisible(form.fraGasSG, false);
@@ -127,159 +118,159 @@ void FluidOptions::optSteam_Click() {
     form.SetWidth(*form.fraPress, kPressWidthSteam);
     form.fraDensity->setEnabled(true);
     SetVisible(form.lblSteamTbl, true);
-    DenEnableOn();
-    DenOptEnableOn();
+    DenEnableOn(context);
+    DenOptEnableOn(context);
     form.optSaturated->Select();
     form.optSteamUser->Select();
-    flowUnitBoxes_.LoadcboFlowUnit();
-    flowUnitBoxes_.LoadcboTimeUnit();
+    LoadcboFlowUnit(context);
+    LoadcboTimeUnit(context);
     form.fraPress->setEnabled(true);
     SetVisible(form.fraPress, true);
     form.cboPressUnit->setEnabled(true);
-    context_.state.SuspendCalc = false;
-    calculations_.DoOrificeCalculations();
+    context.state.SuspendCalc = false;
+    DoOrificeCalculations(context);
     form.txtDensity->setFocus();
 }
 
-void FluidOptions::optSgCalc_Click() {
-    const MainForm& form = context_.form;
+void optSgCalc_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtSGf->setEnabled(false);
     SetBackColor(*form.txtSGf, BackColor::PaleGrey);
     form.fraDensity->setEnabled(true);
     form.txtDensity->setEnabled(true);
-    DenEnableOn();
+    DenEnableOn(context);
     form.txtSGf->SetText("");
     // A density that stands already gives its gravity at once.
-    densities_.CalcSGf();
+    CalcSGf(context);
     form.txtDensity->setFocus();
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optSgUser_Click() {
-    const MainForm& form = context_.form;
+void optSgUser_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtSGf->setEnabled(true);
     SetBackColor(*form.txtSGf, BackColor::WindowBackground);
     form.fraDensity->setEnabled(false);
-    DenEnableOff();
+    DenEnableOff(context);
     form.txtSGf->SetText("");
     form.txtSGf->setFocus();
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optSteamTbl_Click() {
-    const MainForm& form = context_.form;
+void optSteamTbl_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtDensity->setEnabled(false);
     SetBackColor(*form.txtDensity, BackColor::PaleGrey);
-    if (densities_.CalcSteamDensity()) {
-        calculations_.CalculateUnlessSuspended();
+    if (CalcSteamDensity(context)) {
+        CalculateUnlessSuspended(context);
     }
     form.txtPf->setFocus();
 }
 
-void FluidOptions::optSteamUser_Click() {
-    const MainForm& form = context_.form;
+void optSteamUser_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtDensity->setEnabled(true);
     SetBackColor(*form.txtDensity, BackColor::WindowBackground);
     form.txtDensity->SetText("");
     form.txtDensity->setFocus();
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optSaturated_Click() {
-    const MainForm& form = context_.form;
+void optSaturated_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.optSteamUser->Select();
     form.optSteamTbl->setEnabled(true);
     form.lblSteamTbl->setEnabled(true);
 }
 
-void FluidOptions::optSuperheated_Click() {
-    const MainForm& form = context_.form;
+void optSuperheated_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.optSteamUser->Select();
     form.optSteamTbl->setEnabled(false);
     form.lblSteamTbl->setEnabled(false);
     form.txtDensity->setFocus();
 }
 
-void FluidOptions::optCompCorrNone_Click() {
-    const MainForm& form = context_.form;
+void optCompCorrNone_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     SetVisible(form.cboZfDensityUnit, false);
     SetVisible(form.lblCompCorr, false);
     SetVisible(form.txtZf, false);
-    warnings_.CheckZfCompWarning();
+    CheckZfCompWarning(context);
     SetVisible(form.fraGasSG, true);
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optCompDensity_Click() {
-    MainForm& form = context_.form;
+void optCompDensity_Click(const FormContext& context) {
+    MainForm& form = context.form;
     SetVisible(form.cboZfDensityUnit, true);
     form.SetWidth(*form.lblCompCorr, kCompCorrWidthDensity);
     form.lblCompCorr->setText(QStringLiteral("Operating Density"));
     SetVisible(form.lblCompCorr, true);
     SetVisible(form.txtZf, true);
     form.txtZf->SetText("");
-    warnings_.CheckZfCompWarning();
+    CheckZfCompWarning(context);
     // A mass rate of a known density needs no gravity.
-    SetVisible(form.fraGasSG, flowUnitBoxes_.SelectedKind() != kMassKind);
-    calculations_.CalculateUnlessSuspended();
+    SetVisible(form.fraGasSG, SelectedFlowKind(context) != kMassKind);
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optCompZf_Click() {
-    MainForm& form = context_.form;
+void optCompZf_Click(const FormContext& context) {
+    MainForm& form = context.form;
     SetVisible(form.cboZfDensityUnit, false);
     form.SetWidth(*form.lblCompCorr, kCompCorrWidthZf);
     form.lblCompCorr->setText(QStringLiteral("Compressibility at Flowing Conditions (Zf)"));
     SetVisible(form.lblCompCorr, true);
     SetVisible(form.txtZf, true);
     form.txtZf->SetText("");
-    warnings_.CheckZfCompWarning();
+    CheckZfCompWarning(context);
     SetVisible(form.fraGasSG, true);
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optDegC_Click() {
-    calculations_.CalculateUnlessSuspended();
+void optDegC_Click(const FormContext& context) {
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optDegF_Click() {
-    calculations_.CalculateUnlessSuspended();
+void optDegF_Click(const FormContext& context) {
+    CalculateUnlessSuspended(context);
 }
 
-void FluidOptions::optPgauge_Click() {
-    fields_.txtPf_Change();
+void optPgauge_Click(const FormContext& context) {
+    txtPf_Change(context);
 }
 
-void FluidOptions::optPabsolute_Click() {
-    fields_.txtPf_Change();
+void optPabsolute_Click(const FormContext& context) {
+    txtPf_Change(context);
 }
 
-void FluidOptions::SGfOptEnableOn() {
-    context_.form.optSgUser->setEnabled(true);
-    context_.form.optSgCalc->setEnabled(true);
+void SGfOptEnableOn(const FormContext& context) {
+    context.form.optSgUser->setEnabled(true);
+    context.form.optSgCalc->setEnabled(true);
 }
 
-void FluidOptions::SGfOptEnableOff() {
-    context_.form.optSgUser->setEnabled(false);
-    context_.form.optSgCalc->setEnabled(false);
+void SGfOptEnableOff(const FormContext& context) {
+    context.form.optSgUser->setEnabled(false);
+    context.form.optSgCalc->setEnabled(false);
 }
 
-void FluidOptions::DenEnableOn() {
-    const MainForm& form = context_.form;
+void DenEnableOn(const FormContext& context) {
+    const MainForm& form = context.form;
     form.lblDensity->setEnabled(true);
     SetBackColor(*form.txtDensity, BackColor::WindowBackground);
     form.cboDensityUnit->setEnabled(true);
 }
 
-void FluidOptions::DenEnableOff() {
-    const MainForm& form = context_.form;
+void DenEnableOff(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtDensity->SetText("");
     form.lblDensity->setEnabled(false);
     SetBackColor(*form.txtDensity, BackColor::PaleGrey);
     form.cboDensityUnit->setEnabled(false);
 }
 
-void FluidOptions::DenOptEnableOn() {
-    const MainForm& form = context_.form;
+void DenOptEnableOn(const FormContext& context) {
+    const MainForm& form = context.form;
     for (QWidget* control :
          std::initializer_list<QWidget*>{form.optSaturated, form.optSuperheated, form.optSteamUser,
                                          form.optSteamTbl, form.lblSteamTbl}) {
@@ -287,8 +278,8 @@ void FluidOptions::DenOptEnableOn() {
     }
 }
 
-void FluidOptions::DenOptEnableOff() {
-    const MainForm& form = context_.form;
+void DenOptEnableOff(const FormContext& context) {
+    const MainForm& form = context.form;
     for (QWidget* control :
          std::initializer_list<QWidget*>{form.optSaturated, form.optSuperheated, form.optSteamUser,
                                          form.optSteamTbl, form.lblSteamTbl}) {
@@ -296,29 +287,29 @@ void FluidOptions::DenOptEnableOff() {
     }
 }
 
-void FluidOptions::TfEnableOn() {
-    const MainForm& form = context_.form;
+void TfEnableOn(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtTf->setEnabled(true);
     SetBackColor(*form.txtTf, BackColor::WindowBackground);
     form.lblTf->setEnabled(true);
 }
 
-void FluidOptions::TfEnableOff() {
-    const MainForm& form = context_.form;
+void TfEnableOff(const FormContext& context) {
+    const MainForm& form = context.form;
     form.txtTf->SetText("");
     form.txtTf->setEnabled(false);
     SetBackColor(*form.txtTf, BackColor::PaleGrey);
     form.lblTf->setEnabled(false);
 }
 
-void FluidOptions::ToptEnableOn() {
-    context_.form.optDegF->setEnabled(true);
-    context_.form.optDegC->setEnabled(true);
+void ToptEnableOn(const FormContext& context) {
+    context.form.optDegF->setEnabled(true);
+    context.form.optDegC->setEnabled(true);
 }
 
-void FluidOptions::ToptEnableOff() {
-    context_.form.optDegF->setEnabled(false);
-    context_.form.optDegC->setEnabled(false);
+void ToptEnableOff(const FormContext& context) {
+    context.form.optDegF->setEnabled(false);
+    context.form.optDegC->setEnabled(false);
 }
 
 }  // namespace tarvix

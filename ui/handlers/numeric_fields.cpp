@@ -1,104 +1,119 @@
 #include "ui/handlers/numeric_fields.h"
 
+#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/handler_links.h"
+#include "ui/handlers/densities.h"
+#include "ui/handlers/warnings.h"
+
 namespace tarvix {
 
-NumericFields::NumericFields(const FormContext& context, OrificeCalculations& calculations,
-                             Densities& densities, Warnings& warnings)
-    : context_(context), calculations_(calculations), densities_(densities), warnings_(warnings) {
-    const MainForm& form = context_.form;
+void ConnectNumericFields(const FormContext& context) {
+    const MainForm& form = context.form;
     for (NumericField* field : form.NumericFields()) {
-        field->SetDecimalSeparator(context_.module.locale().decimalSeparator);
-        field->onGotFocus = [field] { GotFocus(*field); };
-        field->onKeyPress = [this, field](int keyCode) { return KeyPress(*field, keyCode); };
+        field->SetDecimalSeparator(context.module.locale().decimalSeparator);
+        field->onGotFocus = [field] { NumericField_GotFocus(*field); };
+        field->onKeyPress = [context, field](int keyCode) {
+            return NumericField_KeyPress(context, *field, keyCode);
+        };
     }
-    const auto connect = [this](NumericField* field, void (NumericFields::*handler)()) {
-        field->onChange = [this, handler] { (this->*handler)(); };
-    };
-    connect(form.txtFlow, &NumericFields::txtFlow_Change);
-    connect(form.txtDeltaP, &NumericFields::txtDeltaP_Change);
-    connect(form.txtPf, &NumericFields::txtPf_Change);
-    connect(form.txtSGf, &NumericFields::txtSGf_Change);
-    connect(form.txtDensity, &NumericFields::txtDensity_Change);
-    for (NumericField* plain : {form.txtTf, form.txtSGb, form.txtGasSGb, form.txtZf}) {
-        connect(plain, &NumericFields::PlainField_Change);
-    }
+    OnChange(context, *form.txtFlow, txtFlow_Change);
+    OnChange(context, *form.txtDeltaP, txtDeltaP_Change);
+    OnChange(context, *form.txtPf, txtPf_Change);
+    OnChange(context, *form.txtTf, txtTf_Change);
+    OnChange(context, *form.txtSGf, txtSGf_Change);
+    OnChange(context, *form.txtSGb, txtSGb_Change);
+    OnChange(context, *form.txtGasSGb, txtGasSGb_Change);
+    OnChange(context, *form.txtZf, txtZf_Change);
+    OnChange(context, *form.txtDensity, txtDensity_Change);
 }
 
-void NumericFields::GotFocus(NumericField& field) {
+void NumericField_GotFocus(NumericField& field) {
     field.selectAll();
 }
 
-int NumericFields::KeyPress(const NumericField& field, int keyCode) const {
-    return context_.module.NumericKeyFilter(keyCode, field.Selection());
+int NumericField_KeyPress(const FormContext& context, const NumericField& field, int keyCode) {
+    return context.module.NumericKeyFilter(keyCode, field.Selection());
 }
 
-void NumericFields::PlainField_Change() {
-    calculations_.CalculateUnlessSuspended();
-}
-
-void NumericFields::txtFlow_Change() {
-    const MainForm& form = context_.form;
+void txtFlow_Change(const FormContext& context) {
+    const MainForm& form = context.form;
     if (!form.optCalcFR->Value()) {
-        calculations_.CalculateUnlessSuspended();
+        CalculateUnlessSuspended(context);
     }
     if (form.txtFlow->text().isEmpty()) {
-        calculations_.EnablePrinting(false);
+        EnablePrinting(context, false);
     }
 }
 
-void NumericFields::txtDeltaP_Change() {
-    const MainForm& form = context_.form;
+void txtDeltaP_Change(const FormContext& context) {
+    const MainForm& form = context.form;
     if (!form.optCalcDP->Value()) {
-        calculations_.CalculateUnlessSuspended();
+        CalculateUnlessSuspended(context);
     }
-    warnings_.CheckPlateThicknessWarning();
+    CheckPlateThicknessWarning(context);
     if (form.txtDeltaP->text().isEmpty()) {
-        calculations_.EnablePrinting(false);
+        EnablePrinting(context, false);
     }
 }
 
-void NumericFields::txtSGf_Change() {
+void txtTf_Change(const FormContext& context) {
+    CalculateUnlessSuspended(context);
+}
+
+void txtSGb_Change(const FormContext& context) {
+    CalculateUnlessSuspended(context);
+}
+
+void txtGasSGb_Change(const FormContext& context) {
+    CalculateUnlessSuspended(context);
+}
+
+void txtZf_Change(const FormContext& context) {
+    CalculateUnlessSuspended(context);
+}
+
+void txtSGf_Change(const FormContext& context) {
     // A gravity worked out from the density is written while the field is disabled.
-    if (context_.form.IsEnabled(*context_.form.txtSGf)) {
-        calculations_.CalculateUnlessSuspended();
+    if (context.form.IsEnabled(*context.form.txtSGf)) {
+        CalculateUnlessSuspended(context);
     }
 }
 
-void NumericFields::txtDensity_Change() {
-    const MainForm& form = context_.form;
-    Module1& module = context_.module;
-    if (!form.IsEnabled(*form.txtDensity) || context_.state.SuspendCalc) {
+void txtDensity_Change(const FormContext& context) {
+    const MainForm& form = context.form;
+    Module1& module = context.module;
+    if (!form.IsEnabled(*form.txtDensity) || context.state.SuspendCalc) {
         return;
     }
     module.MsgText.clear();
     if (module.FluidType == "L") {
         if (form.optSgCalc->Value()) {
-            densities_.CalcSGf();
+            CalcSGf(context);
         }
     } else if (module.FluidType == "S") {
-        if (form.optSteamTbl->Value() && !densities_.CalcSteamDensity()) {
+        if (form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
             return;
         }
     } else if (module.FluidType != "G") {
         module.MsgText = "Orifice type not specified";
         module.FatalError();
     }
-    calculations_.DoOrificeCalculations();
+    DoOrificeCalculations(context);
 }
 
-void NumericFields::txtPf_Change() {
-    Module1& module = context_.module;
+void txtPf_Change(const FormContext& context) {
+    Module1& module = context.module;
     if (module.FluidType == "S") {
-        if (context_.form.optSteamTbl->Value() && !densities_.CalcSteamDensity()) {
+        if (context.form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
             return;
         }
     } else if (module.FluidType == "G") {
-        warnings_.CheckZfCompWarning();
+        CheckZfCompWarning(context);
     } else if (module.FluidType != "L") {
         module.MsgText = "Orifice type not specified";
         module.FatalError();
     }
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
 }  // namespace tarvix

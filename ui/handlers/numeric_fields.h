@@ -1,37 +1,27 @@
+// The fields for numbers: what they do on focus, on keys and on every change of their text.
+// (Changes of the bore and of beta: bore_and_beta_fields.h.)
 #pragma once
 
-#include "app/dispatch/do_orifice_calculations.h"
-#include "ui/handlers/densities.h"
-#include "ui/handlers/warnings.h"
+#include "ui/form/form_state.h"
 
 namespace tarvix {
 
-// The fields for numbers: what they do on focus, on keys and on every change of their text (the
-// bore and beta excepted: BoreAndBeta).
-class NumericFields {
-  public:
-    NumericFields(const FormContext& context, OrificeCalculations& calculations,
-                  Densities& densities, Warnings& warnings);
+void ConnectNumericFields(const FormContext& context);
 
-    // Selects the whole text, so that typing replaces it.
-    static void GotFocus(NumericField& field);
+// The same for every field. Selects the whole text, so that typing replaces it.
+void NumericField_GotFocus(NumericField& field);
 
-    // The key code to keep, or 0.
-    int KeyPress(const NumericField& field, int keyCode) const;
+// The same for every field. The key code to keep, or 0.
+int NumericField_KeyPress(const FormContext& context, const NumericField& field, int keyCode);
 
-    void txtFlow_Change();
-    void txtDeltaP_Change();
-    void txtPf_Change();
-    void txtSGf_Change();
-    void txtDensity_Change();
-    // txtTf, txtSGb, txtGasSGb, txtZf
-    void PlainField_Change();
-
-  private:
-    FormContext context_;
-    OrificeCalculations& calculations_;
-    Densities& densities_;
-    Warnings& warnings_;
-};
+void txtFlow_Change(const FormContext& context);
+void txtDeltaP_Change(const FormContext& context);
+void txtPf_Change(const FormContext& context);
+void txtTf_Change(const FormContext& context);
+void txtSGf_Change(const FormContext& context);
+void txtSGb_Change(const FormContext& context);
+void txtGasSGb_Change(const FormContext& context);
+void txtZf_Change(const FormContext& context);
+void txtDensity_Change(const FormContext& context);
 
 }  // namespace tarvix

@@ -1,6 +1,9 @@
 #include "ui/handlers/pipe_boxes.h"
 
-#include "ui/handlers/unit_boxes.h"
+#include "ui/form/handler_links.h"
+#include "ui/form/unit_lists.h"
+#include "ui/handlers/bore_and_beta_fields.h"
+#include "ui/handlers/warnings.h"
 #include "units/nominal_sizes.h"
 #include "units/pipe_id_texts.h"
 
@@ -14,27 +17,58 @@ std::string WithoutBlanks(const std::string& text) {
                                       : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-}  // namespace
-
-PipeBoxes::PipeBoxes(const FormContext& context, Warnings& warnings, BoreAndBeta& boreAndBeta)
-    : context_(context), warnings_(warnings), boreAndBeta_(boreAndBeta) {
-    const MainForm& form = context_.form;
-    const auto connect = [this](DropDownList* list, void (PipeBoxes::*handler)()) {
-        QObject::connect(list, &QComboBox::activated, list,
-                         [this, handler] { (this->*handler)(); });
-    };
-    connect(form.cboPipeIDUnit, &PipeBoxes::cboPipeIDUnit_Click);
-    connect(form.cboNomSize, &PipeBoxes::cboNomSize_Click);
-    connect(form.cboPipeID, &PipeBoxes::cboPipeID_Click);
+const Unit& PipeUnit(const FormContext& context) {
+    const Unit* unit = SelectedEntry(context.state.PipeIDUnitTable, *context.form.cboPipeIDUnit);
+    return unit != nullptr ? *unit : kLengthUnits.front();
 }
 
-void PipeBoxes::LoadcboPipeIDUnit() {
-    DropDownList& pipeList = *context_.form.cboPipeIDUnit;
-    DropDownList& boreList = *context_.form.cboOriBoreUnit;
+[[noreturn]] void UnknownPipeUnit(const FormContext& context) {
+    context.module.MsgText = "Unrecognized pipe ID unit for 'User Entered' pipe ID";
+    context.module.FatalError();
+}
+
+void AskUserEnteredPipe(const FormContext& context) {
+    Module1& module = context.module;
+    DropDownList& list = *context.form.cboPipeID;
+    std::string& diameter = context.state.PipeIDTable[static_cast<size_t>(list.ListIndex())];
+
+    const std::string answer = WithoutBlanks(
+        module.platform()
+            .ShowInputBox({"Enter a Pipe ID in " + context.form.cboPipeIDUnit->Text() + ".",
+                           "Pipe ID", diameter})
+            .value_or(""));
+    const auto value = TextToDouble(answer, module.locale());
+    if (!value || !(*value > 0)) {
+        module.MsgText = "The pipe ID must be greater than 0.";
+        module.MsgTitle = "User Entered Pipe ID";
+        module.MsgResult = module.platform().ShowMessageBox(
+            {module.MsgText, module.MsgTitle, BoxStyle::Information, BoxButtons::Ok});
+        return;
+    }
+    const auto pipe = UserEnteredPipeOf(*value, PipeUnit(context), module.locale());
+    if (!pipe) {
+        UnknownPipeUnit(context);
+    }
+    diameter = pipe->diameterText;
+    list.setItemText(list.ListIndex(), QString::fromStdString(pipe->shownText));
+}
+
+}  // namespace
+
+void ConnectPipeBoxes(const FormContext& context) {
+    const MainForm& form = context.form;
+    OnClick(context, *form.cboPipeIDUnit, cboPipeIDUnit_Click);
+    OnClick(context, *form.cboNomSize, cboNomSize_Click);
+    OnClick(context, *form.cboPipeID, cboPipeID_Click);
+}
+
+void LoadcboPipeIDUnit(const FormContext& context) {
+    DropDownList& pipeList = *context.form.cboPipeIDUnit;
+    DropDownList& boreList = *context.form.cboOriBoreUnit;
     const std::string previous = pipeList.Text();
     pipeList.Clear();
-    context_.state.PipeIDUnitTable = kLengthUnits;
-    context_.state.OriBoreUnitTable = kLengthUnits;
+    context.state.PipeIDUnitTable = kLengthUnits;
+    context.state.OriBoreUnitTable = kLengthUnits;
     AddUnits(pipeList, kLengthUnits);
     AddUnits(boreList, kLengthUnits);
     const int position = PositionOf(kLengthUnits, previous);
@@ -42,10 +76,10 @@ void PipeBoxes::LoadcboPipeIDUnit() {
     boreList.SetListIndex(position);
 }
 
-void PipeBoxes::LoadcboNomSize() {
-    const Module1& module = context_.module;
-    DropDownList& list = *context_.form.cboNomSize;
-    std::vector<std::string>& table = context_.state.NomSizeTable;
+void LoadcboNomSize(const FormContext& context) {
+    const Module1& module = context.module;
+    DropDownList& list = *context.form.cboNomSize;
+    std::vector<std::string>& table = context.state.NomSizeTable;
     const std::string* selected = SelectedEntry(table, list);
     const std::string toSelect = selected != nullptr ? *selected : std::string(kDefaultNominalSize);
 
@@ -55,7 +89,7 @@ void PipeBoxes::LoadcboNomSize() {
     for (const NominalSize& size : kNominalSizes) {
         const std::string value = module.LocalDecimal(std::string(size.value));
         const float sizeIn = TextToSingle(value, module.locale()).value_or(0.0F);
-        list.AddItem(NominalSizeText(size.text, sizeIn, PipeUnit(), module.locale()));
+        list.AddItem(NominalSizeText(size.text, sizeIn, PipeUnit(context), module.locale()));
         if (value == toSelect) {
             position = static_cast<int>(table.size());
         }
@@ -64,11 +98,11 @@ void PipeBoxes::LoadcboNomSize() {
     list.SetListIndex(position);
 }
 
-void PipeBoxes::LoadcboPipeID() {
-    Module1& module = context_.module;
-    DropDownList& list = *context_.form.cboPipeID;
-    std::vector<std::string>& table = context_.state.PipeIDTable;
-    const std::string* size = SelectedEntry(context_.state.NomSizeTable, *context_.form.cboNomSize);
+void LoadcboPipeID(const FormContext& context) {
+    Module1& module = context.module;
+    DropDownList& list = *context.form.cboPipeID;
+    std::vector<std::string>& table = context.state.PipeIDTable;
+    const std::string* size = SelectedEntry(context.state.NomSizeTable, *context.form.cboNomSize);
     const std::string* selected = SelectedEntry(table, list);
     const std::optional<std::string> remembered =
         selected != nullptr ? std::optional(*selected) : std::nullopt;
@@ -85,9 +119,10 @@ void PipeBoxes::LoadcboPipeID() {
     table.clear();
     for (const PipeSchedule& schedule : schedules) {
         std::string diameter = module.LocalDecimal(std::string(schedule.insideDiameter));
-        const auto shown = ScheduleText(diameter, schedule.text, PipeUnit(), module.locale());
+        const auto shown =
+            ScheduleText(diameter, schedule.text, PipeUnit(context), module.locale());
         if (!shown) {
-            UnknownPipeUnit();
+            UnknownPipeUnit(context);
         }
         list.AddItem(*shown);
         table.push_back(std::move(diameter));
@@ -105,63 +140,27 @@ void PipeBoxes::LoadcboPipeID() {
     list.SetListIndex(position);
 }
 
-void PipeBoxes::cboPipeIDUnit_Click() {
-    const MainForm& form = context_.form;
+void cboPipeIDUnit_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     form.cboOriBoreUnit->SetListIndex(form.cboPipeIDUnit->ListIndex());
-    LoadcboNomSize();
+    LoadcboNomSize(context);
 }
 
-void PipeBoxes::cboNomSize_Click() {
-    LoadcboPipeID();
-    warnings_.CheckPlateThicknessWarning();
+void cboNomSize_Click(const FormContext& context) {
+    LoadcboPipeID(context);
+    CheckPlateThicknessWarning(context);
 }
 
-void PipeBoxes::cboPipeID_Click() {
-    const MainForm& form = context_.form;
+void cboPipeID_Click(const FormContext& context) {
+    const MainForm& form = context.form;
     const bool userEntered = form.cboPipeID->Text().find(kUserEntered) != std::string::npos;
     form.txtMaskNomSize->setVisible(userEntered);
     // The focus would not be seen on a list that is covered.
     form.cboNomSize->setFocusPolicy(userEntered ? Qt::ClickFocus : Qt::StrongFocus);
     if (userEntered) {
-        AskUserEnteredPipe();
+        AskUserEnteredPipe(context);
     }
-    boreAndBeta_.FollowPipeDiameter();
-}
-
-void PipeBoxes::AskUserEnteredPipe() {
-    Module1& module = context_.module;
-    DropDownList& list = *context_.form.cboPipeID;
-    std::string& diameter = context_.state.PipeIDTable[static_cast<size_t>(list.ListIndex())];
-
-    const std::string answer = WithoutBlanks(
-        module.platform()
-            .ShowInputBox({"Enter a Pipe ID in " + context_.form.cboPipeIDUnit->Text() + ".",
-                           "Pipe ID", diameter})
-            .value_or(""));
-    const auto value = TextToDouble(answer, module.locale());
-    if (!value || !(*value > 0)) {
-        module.MsgText = "The pipe ID must be greater than 0.";
-        module.MsgTitle = "User Entered Pipe ID";
-        module.MsgResult = module.platform().ShowMessageBox(
-            {module.MsgText, module.MsgTitle, BoxStyle::Information, BoxButtons::Ok});
-        return;
-    }
-    const auto pipe = UserEnteredPipeOf(*value, PipeUnit(), module.locale());
-    if (!pipe) {
-        UnknownPipeUnit();
-    }
-    diameter = pipe->diameterText;
-    list.setItemText(list.ListIndex(), QString::fromStdString(pipe->shownText));
-}
-
-const Unit& PipeBoxes::PipeUnit() const {
-    const Unit* unit = SelectedEntry(context_.state.PipeIDUnitTable, *context_.form.cboPipeIDUnit);
-    return unit != nullptr ? *unit : kLengthUnits.front();
-}
-
-void PipeBoxes::UnknownPipeUnit() {
-    context_.module.MsgText = "Unrecognized pipe ID unit for 'User Entered' pipe ID";
-    context_.module.FatalError();
+    FollowPipeDiameter(context);
 }
 
 }  // namespace tarvix

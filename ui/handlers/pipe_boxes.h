@@ -1,34 +1,21 @@
+// The three linked boxes of the pipe: unit, nominal size, and schedule with its inside diameter.
 #pragma once
 
-#include "ui/handlers/bore_and_beta_fields.h"
-#include "ui/handlers/warnings.h"
+#include "ui/form/form_state.h"
 
 namespace tarvix {
 
-// The three linked boxes of the pipe: unit, nominal size, and schedule with its inside diameter.
-class PipeBoxes {
-  public:
-    PipeBoxes(const FormContext& context, Warnings& warnings, BoreAndBeta& boreAndBeta);
+void ConnectPipeBoxes(const FormContext& context);
 
-    // Fills the boxes of the pipe ID unit and the bore unit.
-    void LoadcboPipeIDUnit();
-    // Fills the nominal sizes in the selected unit, keeping the size.
-    void LoadcboNomSize();
-    // Fills the schedules of the selected size, keeping the one with the same diameter text.
-    void LoadcboPipeID();
+// Fills the boxes of the pipe ID unit and the bore unit.
+void LoadcboPipeIDUnit(const FormContext& context);
+// Fills the nominal sizes in the selected unit, keeping the size.
+void LoadcboNomSize(const FormContext& context);
+// Fills the schedules of the selected size, keeping the one with the same diameter text.
+void LoadcboPipeID(const FormContext& context);
 
-    void cboPipeIDUnit_Click();
-    void cboNomSize_Click();
-    void cboPipeID_Click();
-
-  private:
-    const Unit& PipeUnit() const;
-    void AskUserEnteredPipe();
-    [[noreturn]] void UnknownPipeUnit();
-
-    FormContext context_;
-    Warnings& warnings_;
-    BoreAndBeta& boreAndBeta_;
-};
+void cboPipeIDUnit_Click(const FormContext& context);
+void cboNomSize_Click(const FormContext& context);
+void cboPipeID_Click(const FormContext& context);
 
 }  // namespace tarvix

@@ -1,50 +1,47 @@
 #include "ui/handlers/unit_boxes.h"
 
+#include "app/dispatch/do_orifice_calculations.h"
+#include "ui/form/handler_links.h"
+#include "ui/form/unit_lists.h"
+#include "ui/handlers/densities.h"
+#include "ui/handlers/numeric_fields.h"
+#include "ui/handlers/warnings.h"
+
 namespace tarvix {
 
-UnitBoxes::UnitBoxes(const FormContext& context, OrificeCalculations& calculations,
-                     Densities& densities, Warnings& warnings, NumericFields& fields)
-    : context_(context),
-      calculations_(calculations),
-      densities_(densities),
-      warnings_(warnings),
-      fields_(fields) {
-    const MainForm& form = context_.form;
-    const auto connect = [this](DropDownList* list, void (UnitBoxes::*handler)()) {
-        QObject::connect(list, &QComboBox::activated, list,
-                         [this, handler] { (this->*handler)(); });
-    };
-    connect(form.cboPressUnit, &UnitBoxes::cboPressUnit_Click);
-    connect(form.cboDeltaPunit, &UnitBoxes::cboDeltaPunit_Click);
-    connect(form.cboDensityUnit, &UnitBoxes::cboDensityUnit_Click);
-    connect(form.cboZfDensityUnit, &UnitBoxes::cboZfDensityUnit_Click);
+void ConnectUnitBoxes(const FormContext& context) {
+    const MainForm& form = context.form;
+    OnClick(context, *form.cboPressUnit, cboPressUnit_Click);
+    OnClick(context, *form.cboDeltaPunit, cboDeltaPunit_Click);
+    OnClick(context, *form.cboDensityUnit, cboDensityUnit_Click);
+    OnClick(context, *form.cboZfDensityUnit, cboZfDensityUnit_Click);
 }
 
-void UnitBoxes::LoadcboPressUnit() {
-    DropDownList& list = *context_.form.cboPressUnit;
+void LoadcboPressUnit(const FormContext& context) {
+    DropDownList& list = *context.form.cboPressUnit;
     const std::string previous = list.Text();
     list.Clear();
-    context_.state.PressUnitTable = kPressUnits;
+    context.state.PressUnitTable = kPressUnits;
     AddUnits(list, kPressUnits);
     list.SetListIndex(PositionOf(kPressUnits, previous));
 }
 
-void UnitBoxes::LoadcboDeltaPUnit() {
-    DropDownList& list = *context_.form.cboDeltaPunit;
+void LoadcboDeltaPUnit(const FormContext& context) {
+    DropDownList& list = *context.form.cboDeltaPunit;
     const std::string previous = list.Text();
     list.Clear();
-    context_.state.DeltaPUnitTable = kDeltaPUnits;
+    context.state.DeltaPUnitTable = kDeltaPUnits;
     AddUnits(list, kDeltaPUnits);
     list.SetListIndex(PositionOf(kDeltaPUnits, previous));
 }
 
-void UnitBoxes::LoadcboDensityUnit() {
-    DropDownList& list = *context_.form.cboDensityUnit;
-    DropDownList& zfList = *context_.form.cboZfDensityUnit;
+void LoadcboDensityUnit(const FormContext& context) {
+    DropDownList& list = *context.form.cboDensityUnit;
+    DropDownList& zfList = *context.form.cboZfDensityUnit;
     const std::string previous = list.Text();
     list.Clear();
-    context_.state.DensityUnitTable = kDensityUnits;
-    context_.state.ZfDensityUnitTable = kDensityUnits;
+    context.state.DensityUnitTable = kDensityUnits;
+    context.state.ZfDensityUnitTable = kDensityUnits;
     AddUnits(list, kDensityUnits);
     AddUnits(zfList, kDensityUnits);
     const int position = PositionOf(kDensityUnits, previous);
@@ -52,34 +49,34 @@ void UnitBoxes::LoadcboDensityUnit() {
     zfList.SetListIndex(position);
 }
 
-void UnitBoxes::cboPressUnit_Click() {
-    fields_.txtPf_Change();
+void cboPressUnit_Click(const FormContext& context) {
+    txtPf_Change(context);
 }
 
-void UnitBoxes::cboDeltaPunit_Click() {
-    calculations_.CalculateUnlessSuspended();
-    warnings_.CheckPlateThicknessWarning();
+void cboDeltaPunit_Click(const FormContext& context) {
+    CalculateUnlessSuspended(context);
+    CheckPlateThicknessWarning(context);
 }
 
-void UnitBoxes::cboDensityUnit_Click() {
-    Module1& module = context_.module;
+void cboDensityUnit_Click(const FormContext& context) {
+    Module1& module = context.module;
     if (module.FluidType == "L") {
-        if (context_.form.optSgCalc->Value()) {
-            densities_.CalcSGf();
+        if (context.form.optSgCalc->Value()) {
+            CalcSGf(context);
         }
     } else if (module.FluidType == "S") {
-        if (context_.form.optSteamTbl->Value() && !densities_.CalcSteamDensity()) {
+        if (context.form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
             return;
         }
     } else if (module.FluidType != "G") {
         module.MsgText = "Orifice type not specified";
         module.FatalError();
     }
-    calculations_.CalculateUnlessSuspended();
+    CalculateUnlessSuspended(context);
 }
 
-void UnitBoxes::cboZfDensityUnit_Click() {
-    calculations_.CalculateUnlessSuspended();
+void cboZfDensityUnit_Click(const FormContext& context) {
+    CalculateUnlessSuspended(context);
 }
 
 }  // namespace tarvix

@@ -6,19 +6,19 @@
 
 namespace tarvix {
 
-void Warnings::CheckPlateThicknessWarning() {
-    const MainForm& form = context_.form;
-    const std::string* nominalSize = SelectedEntry(context_.state.NomSizeTable, *form.cboNomSize);
-    const Unit* unit = SelectedEntry(context_.state.DeltaPUnitTable, *form.cboDeltaPunit);
+void CheckPlateThicknessWarning(const FormContext& context) {
+    const MainForm& form = context.form;
+    const std::string* nominalSize = SelectedEntry(context.state.NomSizeTable, *form.cboNomSize);
+    const Unit* unit = SelectedEntry(context.state.DeltaPUnitTable, *form.cboDeltaPunit);
     const bool warn =
         nominalSize != nullptr && unit != nullptr &&
-        CheckPlateThickness(*nominalSize, form.txtDeltaP->Text(), *unit, context_.module.locale());
+        CheckPlateThickness(*nominalSize, form.txtDeltaP->Text(), *unit, context.module.locale());
     form.fraPlateThicknessWarning->setVisible(warn);
 }
 
-void Warnings::CheckZfCompWarning() {
-    const MainForm& form = context_.form;
-    const CompressibilityWarning warning = CheckZfComp(ReadInputSheet(context_), context_.module);
+void CheckZfCompWarning(const FormContext& context) {
+    const MainForm& form = context.form;
+    const CompressibilityWarning warning = CheckZfComp(ReadInputSheet(context), context.module);
     form.fraZfCompWarning->setVisible(warning != CompressibilityWarning::None);
     if (warning == CompressibilityWarning::None) {
         return;
