@@ -7,20 +7,16 @@ namespace tarvix {
 
 namespace {
 
-constexpr float kMaxFlow = 999999999.0F;
-constexpr float kMinFlow = 0.00001F;
-constexpr float kMaxBeta = 0.95F;
-constexpr float kMinBeta = 0.0F;
 constexpr int kBetaDecimals = 5;
 
-Outcome BetaWithinLimits(float roundedBeta, int steps) {
+Outcome BetaWithinLimits(float roundedBeta) {
     if (roundedBeta > kMaxBeta) {
-        return Outcome::Message(kBetaTooLarge, steps);
+        return Outcome::Message(kBetaTooLarge);
     }
     if (roundedBeta <= kMinBeta) {
-        return Outcome::Message(kBetaTooSmall, steps);
+        return Outcome::Message(kBetaTooSmall);
     }
-    return Outcome::Value(roundedBeta, steps);
+    return Outcome::Value(roundedBeta);
 }
 
 }  // namespace
@@ -29,12 +25,12 @@ Outcome FlowWithinLimits(float flow) {
     return flow > kMaxFlow || flow < kMinFlow ? Outcome::Nothing() : Outcome::Value(flow);
 }
 
-Outcome SolvedBeta(float iterated, int steps) {
-    return BetaWithinLimits(static_cast<float>(Round(iterated, kBetaDecimals)), steps);
+Outcome BetaOfClosedForm(double beta) {
+    return BetaWithinLimits(static_cast<float>(Round(beta, kBetaDecimals)));
 }
 
-Outcome SolvedBeta(double closedForm) {
-    return BetaWithinLimits(static_cast<float>(Round(closedForm, kBetaDecimals)), 0);
+Outcome BetaOfIteration(float beta) {
+    return BetaWithinLimits(static_cast<float>(Round(beta, kBetaDecimals)));
 }
 
 }  // namespace tarvix

@@ -5,6 +5,10 @@
 // doubles, expressions are evaluated left to right, square roots and powers in double precision.
 #pragma once
 
+#include "calc/constants.h"
+#include "calc/fluid.h"
+#include "calc/orifice_messages.h"
+
 #include <cmath>
 #include <optional>
 #include <string_view>
@@ -12,9 +16,6 @@
 namespace tarvix {
 
 enum class SolveFor { Beta, DiffPressure, FlowRate };
-
-// Whether a flow unit measures volume (of a gas: standard volume) or mass.
-enum class FlowKind { Volume, Mass };
 
 // The metering run in calculation units. The quantity that is solved for is not read.
 struct MeteringRun {
@@ -31,25 +32,14 @@ struct MeteringRun {
 struct Outcome {
     std::optional<float> value;
     std::string_view message;  // for the message line
-    int steps = 0;             // iteration steps made; 0 for a direct solution
 
-    static Outcome Nothing(int steps = 0) { return {std::nullopt, {}, steps}; }
-    static Outcome Message(std::string_view text, int steps = 0) {
-        return {std::nullopt, text, steps};
-    }
+    static Outcome Nothing() { return {}; }
+    static Outcome Message(std::string_view text) { return {std::nullopt, text}; }
     // A value; an infinity or NaN counts as nothing.
-    static Outcome Value(float value, int steps = 0) {
-        return std::isfinite(value) ? Outcome{value, {}, steps} : Nothing(steps);
+    static Outcome Value(float value) {
+        return std::isfinite(value) ? Outcome{value, {}} : Nothing();
     }
 };
-
-inline constexpr std::string_view kBetaTooLarge =
-    "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.";
-inline constexpr std::string_view kBetaTooSmall = "Flow rate is out of range (beta <= 0.0).";
-inline constexpr std::string_view kBetaNotBelowOne = "Beta Ratio must be less than 1.";
-
-// Discharge coefficient, flange taps, no Reynolds number correction.
-inline constexpr float kDischargeCoefficient = 0.6F;
 
 // beta^4 in double precision. The square of a single is exact in a double.
 inline double BetaToTheFourth(float beta) {
@@ -68,18 +58,19 @@ inline float CoefficientTimesApproach(float beta) {
 // isentropic exponent of 1.3. `diffPressInH2O` h in inches of water, `pressurePsia` P in psia.
 // Negative when the differential pressure is far too large for the pressure.
 inline float ExpansionFactor(float beta, float diffPressInH2O, float pressurePsia) {
-    return static_cast<float>(1.0 - (0.41 + 0.35 * BetaToTheFourth(beta)) *
-                                        (double{diffPressInH2O} / (27.707 * double{pressurePsia})) /
-                                        1.3);
+    return static_cast<float>(
+        1.0 - (kExpansionConstant + kExpansionPerBetaToTheFourth * BetaToTheFourth(beta)) *
+                  (double{diffPressInH2O} / (kInchesOfWaterPerPsi * double{pressurePsia})) /
+                  kIsentropicExponent);
 }
 
 // A flow in calculation units, or nothing when it is above 999,999,999 or below 0.00001.
 Outcome FlowWithinLimits(float flow);
 
 // A solved beta, rounded to 5 decimals (halves to even): a value when it lies above 0 and up to
-// 0.95, else a message; nothing for NaN. The closed form comes in double precision, the result of
-// an iteration in single, after so many steps.
-Outcome SolvedBeta(double closedForm);
-Outcome SolvedBeta(float iterated, int steps);
+// 0.95, else kBetaTooLarge or kBetaTooSmall; nothing for NaN. The closed form comes in double
+// precision, the result of an iteration in single: what is rounded is the decimal form of each.
+Outcome BetaOfClosedForm(double beta);
+Outcome BetaOfIteration(float beta);
 
 }  // namespace tarvix

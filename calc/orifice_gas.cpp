@@ -8,50 +8,37 @@ namespace tarvix {
 
 namespace {
 
-constexpr double kMassConstant = 358.927;
-constexpr double kStandardVolumeConstant = 218.468;
-constexpr double kGasDensityConstant = 2.698825;
-constexpr float kBaseCompressibility = 1.0F;  // Zb
-
-constexpr IterationTexts kDiffPressureTexts{
-    "Unable to calculate differential pressure for conditions (Flow rate too high).",
-    "Unable to resolve differential pressure for conditions."};
-constexpr IterationTexts kBetaTexts{"Unable to calculate beta for conditions (Flow rate too high).",
-                                    "Unable to resolve beta for conditions."};
-
 bool IsConverged(float s) {
     return s > 0.999999F && s < 1.000001F;
 }
 
-// What the flow equations take of the gas besides P: the flowing density for a mass flow, the
-// flowing compressibility for a standard volume.
-struct FlowingState {
-    float rho = 0;  // lb per cubic foot
-    float zf = 1;
-};
-
-FlowingState FlowingStateOf(const GasProperties& gas) {
-    const double pg = kGasDensityConstant * double{gas.pressurePsia} * double{gas.baseSG};
-    const float zf = gas.correction == CompCorrection::Zf ? gas.userZf : 1.0F;
-    FlowingState state;
-    if (gas.flowKind == FlowKind::Mass) {
-        state.rho = gas.correction == CompCorrection::Density
-                        ? gas.operDensity
-                        : static_cast<float>(pg / double{gas.flowingTempR * zf});
-    } else {
-        state.zf = gas.correction == CompCorrection::Density
-                       ? static_cast<float>(pg / double{gas.flowingTempR * gas.operDensity})
-                       : zf;
-    }
-    return state;
+// 2.698825 P G, the gas's density at a Tf Zf of 1.
+double DensityTimesTemperature(const GasProperties& gas) {
+    return kGasDensityConstant * double{gas.pressurePsia} * double{gas.baseSG};
 }
 
-// Tf G Zf
-float VolumeDivisor(const GasProperties& gas, const FlowingState& state) {
-    return gas.flowingTempR * gas.baseSG * state.zf;
+float EnteredZf(const GasProperties& gas) {
+    return gas.correction == CompCorrection::Zf ? gas.userZf : 1.0F;
 }
 
-Outcome GasFlow(const MeteringRun& run, const GasProperties& gas, const FlowingState& state) {
+// rho, lb per cubic foot: what a mass flow takes of the gas besides P.
+float FlowingDensity(const GasProperties& gas) {
+    return gas.correction == CompCorrection::Density
+               ? gas.operDensity
+               : static_cast<float>(DensityTimesTemperature(gas) /
+                                    double{gas.flowingTempR * EnteredZf(gas)});
+}
+
+// Tf G Zf: what a standard volume flow takes of the gas besides P.
+float VolumeDivisor(const GasProperties& gas) {
+    const float zf = gas.correction == CompCorrection::Density
+                         ? static_cast<float>(DensityTimesTemperature(gas) /
+                                              double{gas.flowingTempR * gas.operDensity})
+                         : EnteredZf(gas);
+    return gas.flowingTempR * gas.baseSG * zf;
+}
+
+Outcome GasFlow(const MeteringRun& run, const GasProperties& gas) {
     const float beta = run.beta;
     const float d = run.pipeDiameterIn;
     const float h = run.diffPressInH2O;
@@ -67,19 +54,18 @@ Outcome GasFlow(const MeteringRun& run, const GasProperties& gas, const FlowingS
     const float y = ExpansionFactor(beta, h, gas.pressurePsia);
     if (gas.flowKind == FlowKind::Mass) {
         const auto qm = static_cast<float>(kMassConstant * double{e} * double{y} * betaSquared *
-                                           dSquared * std::sqrt(double{h * state.rho}));
+                                           dSquared * std::sqrt(double{h * FlowingDensity(gas)}));
         return FlowWithinLimits(static_cast<float>(
             double{qm} / (kBaseAirDensityNumerator / kBaseAirDensityDenominator)));
     }
     const auto qv =
         static_cast<float>(kStandardVolumeConstant * double{e} * double{y} * betaSquared *
                            dSquared * double{gas.baseTempR / gas.basePressurePsia} *
-                           std::sqrt(double{h * gas.pressurePsia / VolumeDivisor(gas, state)}));
+                           std::sqrt(double{h * gas.pressurePsia / VolumeDivisor(gas)}));
     return FlowWithinLimits(qv);
 }
 
-Outcome GasDiffPressure(const MeteringRun& run, const GasProperties& gas,
-                        const FlowingState& state) {
+Outcome GasDiffPressure(const MeteringRun& run, const GasProperties& gas) {
     const float beta = run.beta;
     if (beta * run.pipeDiameterIn * run.flow == 0) {
         return Outcome::Nothing();
@@ -93,77 +79,67 @@ Outcome GasDiffPressure(const MeteringRun& run, const GasProperties& gas,
         const auto t = static_cast<float>(double{run.flow} * kBaseAirDensityNumerator /
                                           kBaseAirDensityDenominator /
                                           (kMassConstant * double{e} * betaSquared));
-        const auto flowRoot = [&](float h) { return std::sqrt(double{h * state.rho}); };
+        const auto flowRoot = [rho = FlowingDensity(gas)](float h) {
+            return std::sqrt(double{h * rho});
+        };
         return IterateDiffPressure(run, t, gas.pressurePsia, flowRoot, IsConverged,
-                                   kDiffPressureTexts);
+                                   kGasDiffPressureTexts);
     }
     const auto t = static_cast<float>(double{run.flow} /
                                       (kStandardVolumeConstant * double{e} * betaSquared *
                                        double{gas.baseTempR} / double{gas.basePressurePsia}));
-    const auto flowRoot = [&, divisor = VolumeDivisor(gas, state)](float h) {
+    const auto flowRoot = [&, divisor = VolumeDivisor(gas)](float h) {
         return std::sqrt(double{h * kBaseCompressibility * gas.pressurePsia / divisor});
     };
-    return IterateDiffPressure(run, t, gas.pressurePsia, flowRoot, IsConverged, kDiffPressureTexts);
+    return IterateDiffPressure(run, t, gas.pressurePsia, flowRoot, IsConverged,
+                               kGasDiffPressureTexts);
 }
 
 // T of the beta iteration.
-float BetaTarget(const MeteringRun& run, const GasProperties& gas, const FlowingState& state) {
+float BetaTarget(const MeteringRun& run, const GasProperties& gas) {
     const float h = run.diffPressInH2O;
     if (gas.flowKind == FlowKind::Mass) {
         return static_cast<float>(double{run.flow} * kBaseAirDensityNumerator /
                                   kBaseAirDensityDenominator /
-                                  (kMassConstant * std::sqrt(double{h * state.rho})));
+                                  (kMassConstant * std::sqrt(double{h * FlowingDensity(gas)})));
     }
     return static_cast<float>(
         double{run.flow} / (kStandardVolumeConstant * double{gas.baseTempR / gas.basePressurePsia} *
-                            std::sqrt(double{h * gas.pressurePsia / VolumeDivisor(gas, state)})));
+                            std::sqrt(double{h * gas.pressurePsia / VolumeDivisor(gas)})));
 }
 
-Outcome GasBeta(const MeteringRun& run, const GasProperties& gas, const FlowingState& state) {
+Outcome GasBeta(const MeteringRun& run, const GasProperties& gas) {
     const float h = run.diffPressInH2O;
     if (run.pipeDiameterIn * run.flow * h == 0) {
         return Outcome::Nothing();
     }
-    const float t = BetaTarget(run, gas, state);
-    float beta = kFirstBeta;
-    for (int n = 1; n <= kMaxSteps; ++n) {
-        const float e = CoefficientTimesApproach(beta);
-        const float y = ExpansionFactor(beta, h, gas.pressurePsia);
-        const float r = t / (y * e * beta * beta);
-        if (!std::isfinite(y) || !std::isfinite(r)) {
-            return Outcome::Message(kBetaTexts.unresolved, n);
-        }
-        if (r < 0) {
-            return Outcome::Message(kBetaTexts.flowTooHigh, n);
-        }
-        const float s = DiameterRatio(r, run.pipeDiameterIn);
-        if (IsConverged(s)) {
-            return SolvedBeta(beta, n);
-        }
-        beta = beta * s;
+    const float t = BetaTarget(run, gas);
+    const auto requiredSquare = [t](float ye, float beta) { return t / (ye * beta * beta); };
+    const auto outOfRange = [](float beta, int /*step*/) -> std::optional<Outcome> {
         if (beta >= 1) {
-            return Outcome::Message(kBetaTooLarge, n);
+            return Outcome::Message(kBetaTooLarge);
         }
         if (beta <= 0) {
-            return Outcome::Message(kBetaTooSmall, n);
+            return Outcome::Message(kBetaTooSmall);
         }
-    }
-    return Outcome::Message(kBetaTexts.unresolved, kMaxSteps);
+        return std::nullopt;
+    };
+    return IterateBeta(run, gas.pressurePsia, requiredSquare, IsConverged, outOfRange,
+                       kGasBetaTexts);
 }
 
 }  // namespace
 
-Outcome OrificeCalcGas(const MeteringRun& run, const GasProperties& gas) {
-    const FlowingState state = FlowingStateOf(gas);
+Outcome SolveGas(const MeteringRun& run, const GasProperties& gas) {
     switch (run.solveFor) {
         case SolveFor::FlowRate:
-            return GasFlow(run, gas, state);
+            return GasFlow(run, gas);
         case SolveFor::DiffPressure:
-            return GasDiffPressure(run, gas, state);
+            return GasDiffPressure(run, gas);
         case SolveFor::Beta:
             break;
     }
-    return GasBeta(run, gas, state);
+    return GasBeta(run, gas);
 }
 
 }  // namespace tarvix

@@ -19,20 +19,17 @@ struct GasProperties {
     float userZf = 0;            // read with CompCorrection::Zf
 };
 
-// A mass flow in lb/h divided by this (39.6619322 / 519.67, the density of air at base conditions
-// in lb per cubic foot) is its equivalent in standard cubic feet of air per hour.
-inline constexpr double kBaseAirDensityNumerator = 39.6619322;
-inline constexpr double kBaseAirDensityDenominator = 519.67;
-
 // Solves for the unknown of `run`, flows in standard cubic feet per hour:
 //   mass             qm = 358.927 E Y beta^2 D^2 sqrt(h rho)                              (lb/h)
 //   standard volume  Qv = 218.468 E Y beta^2 D^2 (Tb / Pb) sqrt(h P / (Tf G Zf))          (scf/h)
 // directly for the flow, by at most 100 steps of the damped iteration for the differential pressure
-// (from 50 inches of water) and for beta (from 0.5); converged when the square root of the diameter
-// ratio lies between 0.999999 and 1.000001, both in single precision.
-// Nothing when a factor is 0 or a flow is out of its limits; a message when the flow is too high,
-// beta leaves its range or the iteration does not end.
-// Source: ASME MFC-3M (1989), with Cd = 0.6 and an isentropic exponent of 1.3.
-Outcome OrificeCalcGas(const MeteringRun& run, const GasProperties& gas);
+// (from 50 inches of water) and for beta (from 0.5); converged when s, the diameter of the pipe
+// that would carry the flow by that of the pipe, lies between 0.999999 and 1.000001, both in single
+// precision.
+// Nothing when a factor is 0 or a flow is out of its limits; a message (orifice_messages.h) when
+// the flow is too high, a given beta is not below 1, a solved one leaves its range, or the
+// iteration does not end. Source: ASME MFC-3M (1989), with Cd = 0.6 and an isentropic exponent
+// of 1.3.
+Outcome SolveGas(const MeteringRun& run, const GasProperties& gas);
 
 }  // namespace tarvix

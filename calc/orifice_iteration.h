@@ -1,4 +1,4 @@
-// The damped fixed-point iteration of gas and steam.
+// The damped fixed-point iterations of gas and steam, of at most 100 steps.
 //
 // Each step compares the pipe with the one that would carry the flow at the current value of the
 // unknown: R is that pipe's diameter squared, s = sqrt(R) / D. The unknown is multiplied by s until
@@ -9,19 +9,9 @@
 #include "calc/equation_terms.h"
 
 #include <cmath>
-#include <string_view>
+#include <optional>
 
 namespace tarvix {
-
-inline constexpr int kMaxSteps = 100;
-inline constexpr float kFirstDiffPressInH2O = 50.0F;
-inline constexpr float kFirstBeta = 0.5F;
-
-// What an iteration says when it can't end in a value.
-struct IterationTexts {
-    std::string_view flowTooHigh;  // the expansion factor turned negative
-    std::string_view unresolved;   // no end after 100 steps, or no finite number
-};
 
 // s = sqrt(R) / D.
 inline float DiameterRatio(float requiredDiameterSquared, float pipeDiameterIn) {
@@ -40,18 +30,50 @@ Outcome IterateDiffPressure(const MeteringRun& run, float target, float pressure
         const float y = ExpansionFactor(run.beta, h, pressurePsia);
         const auto r = static_cast<float>(double{target} / (double{y} * flowRoot(h)));
         if (!std::isfinite(y) || !std::isfinite(r)) {
-            return Outcome::Message(texts.unresolved, n);
+            return Outcome::Message(texts.unresolved);
         }
         if (r < 0) {
-            return Outcome::Message(texts.flowTooHigh, n);
+            return Outcome::Message(texts.flowTooHigh);
         }
         const float s = DiameterRatio(r, run.pipeDiameterIn);
         if (isConverged(s)) {
-            return Outcome::Value(h, n);
+            return Outcome::Value(h);
         }
         h = h * s;
     }
-    return Outcome::Message(texts.unresolved, kMaxSteps);
+    return Outcome::Message(texts.unresolved);
+}
+
+// Solves for beta, from 0.5.
+//   requiredSquare(ye, beta)  R, from the product of Y and E, a single
+//   isConverged(s)            whether s lies within the band
+//   outOfRange(beta, n)       what ends the iteration after step n because of the beta that the
+//   step
+//                             led to; nothing where it goes on
+template <typename RequiredSquare, typename Band, typename Range>
+Outcome IterateBeta(const MeteringRun& run, float pressurePsia, RequiredSquare requiredSquare,
+                    Band isConverged, Range outOfRange, const IterationTexts& texts) {
+    float beta = kFirstBeta;
+    for (int n = 1; n <= kMaxSteps; ++n) {
+        const float e = CoefficientTimesApproach(beta);
+        const float y = ExpansionFactor(beta, run.diffPressInH2O, pressurePsia);
+        const float r = requiredSquare(y * e, beta);
+        if (!std::isfinite(e) || !std::isfinite(y) || !std::isfinite(r)) {
+            return Outcome::Message(texts.unresolved);
+        }
+        if (r < 0) {
+            return Outcome::Message(texts.flowTooHigh);
+        }
+        const float s = DiameterRatio(r, run.pipeDiameterIn);
+        if (isConverged(s)) {
+            return BetaOfIteration(beta);
+        }
+        beta = beta * s;
+        if (const std::optional<Outcome> end = outOfRange(beta, n)) {
+            return *end;
+        }
+    }
+    return Outcome::Message(texts.unresolved);
 }
 
 }  // namespace tarvix

@@ -6,11 +6,6 @@ namespace tarvix {
 
 namespace {
 
-// With D in inches and h in inches of water gives US gallons per minute.
-constexpr double kLiquidConstant = 5.66646;
-constexpr float kDischargeCoefficientSquared = 0.36F;
-constexpr double kMaxDiffPressInH2O = 1000000.0;
-
 Outcome LiquidFlow(const MeteringRun& run, const LiquidProperties& liquid) {
     const float beta = run.beta;
     const float d = run.pipeDiameterIn;
@@ -57,12 +52,13 @@ Outcome LiquidBeta(const MeteringRun& run, const LiquidProperties& liquid) {
         static_cast<float>(double{liquid.baseSG * q} / (double{d} * kLiquidConstant * double{d} *
                                                         std::sqrt(double{h * liquid.flowingSG})));
     const double aSquared = double{a} * double{a};
-    return SolvedBeta(std::pow(aSquared / (aSquared + double{kDischargeCoefficientSquared}), 0.25));
+    return BetaOfClosedForm(
+        std::pow(aSquared / (aSquared + double{kDischargeCoefficientSquared}), 0.25));
 }
 
 }  // namespace
 
-Outcome OrificeCalcLiquid(const MeteringRun& run, const LiquidProperties& liquid) {
+Outcome SolveLiquid(const MeteringRun& run, const LiquidProperties& liquid) {
     switch (run.solveFor) {
         case SolveFor::FlowRate:
             return LiquidFlow(run, liquid);
@@ -72,10 +68,6 @@ Outcome OrificeCalcLiquid(const MeteringRun& run, const LiquidProperties& liquid
             break;
     }
     return LiquidBeta(run, liquid);
-}
-
-float SpecificGravityOfDensity(float density, float waterDensity) {
-    return density / waterDensity;
 }
 
 }  // namespace tarvix

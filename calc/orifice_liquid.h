@@ -13,12 +13,9 @@ struct LiquidProperties {
 //   Q flow, US gallons per minute at base conditions; D pipe inside diameter, inches;
 //   h differential pressure, inches of water; Gf, Gb flowing and base specific gravity.
 // Nothing when a factor is 0, a flow is outside 0.00001 to 999,999,999, a differential pressure is
-// above 1,000,000, or no finite value comes out; a message when beta leaves its range.
-// Source: ASME MFC-3M (1989), with Cd = 0.6 and without an expansion factor.
-Outcome OrificeCalcLiquid(const MeteringRun& run, const LiquidProperties& liquid);
-
-// The flowing specific gravity of a liquid of this density (both lb per cubic foot): their quotient
-// in single precision.
-float SpecificGravityOfDensity(float density, float waterDensity);
+// above 1,000,000, or no finite value comes out; a message (orifice_messages.h) when a given beta
+// is not below 1 or a solved one leaves its range. Source: ASME MFC-3M (1989), with Cd = 0.6 and
+// without an expansion factor.
+Outcome SolveLiquid(const MeteringRun& run, const LiquidProperties& liquid);
 
 }  // namespace tarvix

@@ -8,14 +8,6 @@ namespace tarvix {
 
 namespace {
 
-constexpr double kMassConstant = 358.927;
-
-constexpr IterationTexts kDiffPressureTexts{
-    "Unable to calculate differential pressure for conditions (Flow rate too high).",
-    "Unable to resolve Differential Pressure for conditions."};
-constexpr IterationTexts kBetaTexts{"Unable to calculate beta for conditions (Flow rate too high).",
-                                    "Unable to resolve Beta Ratio for conditions."};
-
 // Compared in double precision, unlike gas. Only 1 and the next single below it lie within the
 // narrow band of the differential pressure.
 bool IsDiffPressureConverged(float s) {
@@ -57,7 +49,7 @@ Outcome SteamDiffPressure(const MeteringRun& run, const SteamProperties& steam) 
                                        std::sqrt(double{steam.density})));
     const auto flowRoot = [](float h) { return std::sqrt(double{h}); };
     return IterateDiffPressure(run, t, steam.pressurePsia, flowRoot, IsDiffPressureConverged,
-                               kDiffPressureTexts);
+                               kSteamDiffPressureTexts);
 }
 
 Outcome SteamBeta(const MeteringRun& run, const SteamProperties& steam) {
@@ -67,34 +59,22 @@ Outcome SteamBeta(const MeteringRun& run, const SteamProperties& steam) {
     }
     const auto t = static_cast<float>(double{run.flow} /
                                       (kMassConstant * std::sqrt(double{h * steam.density})));
-    float beta = kFirstBeta;
-    for (int n = 1; n <= kMaxSteps; ++n) {
-        // Unlike gas, a beta that has left its range ends the search without a word.
-        if (!(beta > 0 && beta <= 1)) {
-            return Outcome::Nothing(n);
-        }
-        const float e = CoefficientTimesApproach(beta);
-        const float y = ExpansionFactor(beta, h, steam.pressurePsia);
-        const auto r =
-            static_cast<float>(double{t} / (double{y * e} * (double{beta} * double{beta})));
-        if (!std::isfinite(e) || !std::isfinite(y) || !std::isfinite(r)) {
-            return Outcome::Message(kBetaTexts.unresolved, n);
-        }
-        if (r < 0) {
-            return Outcome::Message(kBetaTexts.flowTooHigh, n);
-        }
-        const float s = DiameterRatio(r, run.pipeDiameterIn);
-        if (IsBetaConverged(s)) {
-            return SolvedBeta(beta, n);
-        }
-        beta = beta * s;
-    }
-    return Outcome::Message(kBetaTexts.unresolved, kMaxSteps);
+    const auto requiredSquare = [t](float ye, float beta) {
+        return static_cast<float>(double{t} / (double{ye} * (double{beta} * double{beta})));
+    };
+    // Unlike gas, a beta that has left its range ends the search without a word, and the last step
+    // is not asked where it led to.
+    const auto outOfRange = [](float beta, int step) -> std::optional<Outcome> {
+        const bool inRange = beta > 0 && beta <= 1;
+        return inRange || step == kMaxSteps ? std::nullopt : std::optional(Outcome::Nothing());
+    };
+    return IterateBeta(run, steam.pressurePsia, requiredSquare, IsBetaConverged, outOfRange,
+                       kSteamBetaTexts);
 }
 
 }  // namespace
 
-Outcome OrificeCalcSteam(const MeteringRun& run, const SteamProperties& steam) {
+Outcome SolveSteam(const MeteringRun& run, const SteamProperties& steam) {
     switch (run.solveFor) {
         case SolveFor::FlowRate:
             return SteamFlow(run, steam);

@@ -14,6 +14,6 @@ struct SteamProperties {
 // (0.9999999 to 1.0000001), and a beta that leaves the range 0 < beta <= 1 during the iteration
 // ends it without a message.
 // Source: ASME MFC-3M (1989), with Cd = 0.6 and an isentropic exponent of 1.3.
-Outcome OrificeCalcSteam(const MeteringRun& run, const SteamProperties& steam);
+Outcome SolveSteam(const MeteringRun& run, const SteamProperties& steam);
 
 }  // namespace tarvix

@@ -5,9 +5,6 @@
 
 namespace tarvix {
 
-// A beta of this or more has no bore.
-inline constexpr float kBetaLimit = 0.95F;
-
 // The bore, in the unit of `inchesPerUnit`, of a beta ratio in a pipe; single precision. Nothing
 // when no finite value comes out.
 std::optional<float> BoreFromBeta(float beta, float pipeDiameterIn, float inchesPerUnit);

@@ -1,5 +1,7 @@
 #include "app/sheet/data_checks.h"
 
+#include "calc/constants.h"
+
 #include <array>
 #include <span>
 #include <string>
@@ -179,7 +181,7 @@ int DataChkGas(const InputSheet& sheet, Module1& module) {
     }
     WorkingValues& working = module.working;
     working.FlowTempF = module.TempToDegF(SingleOf(sheet.tf, module), sheet.degC ? "C" : "F");
-    working.BaseTempF = 60.0F;
+    working.BaseTempF = kBaseTempF;
     if (sheet.gasSGbVisible) {
         working.BaseSG = SingleOf(sheet.gasSGb, module);
     }

@@ -18,8 +18,6 @@ inline constexpr int kMessageCalculation = 0x0000FF;
 inline constexpr int kDataGood = 1;
 inline constexpr int kDataBad = 2;
 
-inline constexpr float kAtmosphericPressurePsi = 14.7F;
-
 // Each fluid check returns kDataGood and stores the working values of its fluid in `module`, or
 // returns kDataBad; module.MsgText then holds the message, else it is empty.
 int DataChkLiquid(const InputSheet& sheet, Module1& module);

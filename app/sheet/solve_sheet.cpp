@@ -15,9 +15,6 @@ namespace {
 constexpr int kBetaDecimals = 5;
 constexpr int kSteamDensityDecimals = 5;
 constexpr int kSpecificGravityDecimals = 4;
-constexpr float kWaterDensityLbPerFt3 = 62.366F;  // at base conditions
-constexpr double kMinutesPerHour = 60.0;
-constexpr double kRankineOffset = 459.67;
 
 // The sheet's run in calculation units, and the factors that led there.
 struct SheetRun {
@@ -122,7 +119,7 @@ CalculationResult OrificeCalcLiquid(const InputSheet& sheet, Module1& module) {
         module.working.BaseSG = 1.0F;
     }
     const LiquidProperties liquid{module.working.FlowingSG, module.working.BaseSG};
-    return ResultOf(OrificeCalcLiquid(sheetRun.run, liquid), sheetRun, module);
+    return ResultOf(SolveLiquid(sheetRun.run, liquid), sheetRun, module);
 }
 
 CalculationResult OrificeCalcGas(const InputSheet& sheet, Module1& module) {
@@ -138,14 +135,14 @@ CalculationResult OrificeCalcGas(const InputSheet& sheet, Module1& module) {
     gas.operDensity = working.OperDensity;
     gas.userZf = working.UserZf;
     const SheetRun sheetRun = RunOf(sheet, module, PerTime::Hour);
-    return ResultOf(OrificeCalcGas(sheetRun.run, gas), sheetRun, module);
+    return ResultOf(SolveGas(sheetRun.run, gas), sheetRun, module);
 }
 
 CalculationResult OrificeCalcSteam(const InputSheet& sheet, Module1& module) {
     const SheetRun sheetRun = RunOf(sheet, module, PerTime::Hour);
     const SteamProperties steam{AbsolutePressure(sheet, module.working),
                                 module.working.OperDensity};
-    return ResultOf(OrificeCalcSteam(sheetRun.run, steam), sheetRun, module);
+    return ResultOf(SolveSteam(sheetRun.run, steam), sheetRun, module);
 }
 
 CalculationResult CalculateResult(const InputSheet& sheet, Module1& module) {
@@ -168,8 +165,8 @@ std::string CalcSGf(const std::string& density, const SelectedUnit& unit, const 
     }
     // The factor enters as the double that its decimal text stands for.
     const auto lbPerFt3 = static_cast<float>(DecimalValue(unit.factor) * double{*value});
-    return FormatNumber(SpecificGravityOfDensity(lbPerFt3, kWaterDensityLbPerFt3),
-                        kSpecificGravityDecimals, module.locale(), Grouping::On);
+    return FormatNumber(lbPerFt3 / kWaterDensityLbPerFt3, kSpecificGravityDecimals, module.locale(),
+                        Grouping::On);
 }
 
 SteamDensityResult CalcSteamDensity(const InputSheet& sheet, const Module1& module) {

@@ -60,20 +60,20 @@ TEST(RoundTripTest, Liquid) {
             for (const float beta : kBetas) {
                 for (const float h : kDiffPressures) {
                     MeteringRun run{SolveFor::FlowRate, d, 0.0F, h, beta};
-                    const auto flow = OrificeCalcLiquid(run, liquid).value;
+                    const auto flow = SolveLiquid(run, liquid).value;
                     ASSERT_TRUE(flow.has_value());
                     const double exactFlow = meter.Flow(double{beta}, double{h});
                     EXPECT_NEAR(double{*flow}, exactFlow, exactFlow * 3e-7);
 
                     run = {SolveFor::DiffPressure, d, *flow, 0.0F, beta};
-                    const auto backH = OrificeCalcLiquid(run, liquid).value;
+                    const auto backH = SolveLiquid(run, liquid).value;
                     ASSERT_TRUE(backH.has_value());
                     EXPECT_NEAR(double{*backH}, double{h}, double{h} * 1e-6);
                     const double exactH = meter.DiffPressure(double{*flow}, double{beta});
                     EXPECT_NEAR(double{*backH}, exactH, exactH * 1e-6);
 
                     run = {SolveFor::Beta, d, *flow, h, 0.0F};
-                    const auto backBeta = OrificeCalcLiquid(run, liquid).value;
+                    const auto backBeta = SolveLiquid(run, liquid).value;
                     ASSERT_TRUE(backBeta.has_value());
                     EXPECT_NEAR(double{*backBeta}, double{beta}, kBetaDigit);
                     EXPECT_NEAR(double{*backBeta}, meter.Beta(double{*flow}, double{h}),
@@ -140,7 +140,6 @@ class GasAndSteam : public ::testing::TestWithParam<SweptFluid> {
         if (!outcome.value) {
             if (start >= 1) {
                 EXPECT_EQ(outcome.message, kFlowTooHigh);
-                EXPECT_EQ(outcome.steps, 1);
                 ++tally.startHasNegativeY;
             } else if (outcome.message == kFlowTooHigh) {
                 EXPECT_GT(start, 1.0 / 3) << "the start lies beyond the peak";
@@ -149,14 +148,12 @@ class GasAndSteam : public ::testing::TestWithParam<SweptFluid> {
                 ++tally.drivenFromStartBeyondPeak;
             } else {
                 EXPECT_EQ(outcome.message, fluid.diffPressureUnresolved);
-                EXPECT_EQ(outcome.steps, 100);
                 EXPECT_GT(contraction, kSlowContraction);
                 ++tally.tooSlowNearPeak;
             }
             return;
         }
-        if (outcome.steps == 1) {
-            EXPECT_EQ(*outcome.value, 50.0F);
+        if (*outcome.value == 50.0F) {
             EXPECT_EQ(h, 50);
             ++tally.startIsRoot;
             return;
@@ -255,8 +252,8 @@ float TypedDensity(float pressure) {
 
 template <FlowKind kind, CompCorrection correction>
 Outcome SolveGas(const MeteringRun& run, float pressure) {
-    return OrificeCalcGas(run, {kind, correction, pressure, 14.7F, kFlowingTempR, 519.67F, kGravity,
-                                TypedDensity(pressure), kTypedZf});
+    return SolveGas(run, {kind, correction, pressure, 14.7F, kFlowingTempR, 519.67F, kGravity,
+                          TypedDensity(pressure), kTypedZf});
 }
 
 double IdealDensity(float pressure) {
@@ -295,7 +292,7 @@ float SteamDensity(float pressure) {
     return pressure * 0.0025F;
 }
 Outcome SolveSteam(const MeteringRun& run, float pressure) {
-    return OrificeCalcSteam(run, {pressure, SteamDensity(pressure)});
+    return SolveSteam(run, {pressure, SteamDensity(pressure)});
 }
 ReferenceMeter SteamMeter(float pressure, float diameter) {
     return {358.927, std::sqrt(double{SteamDensity(pressure)}), double{pressure}, double{diameter}};

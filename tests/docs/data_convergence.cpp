@@ -41,13 +41,13 @@ float InchesOf(double fraction, double psia) {
 
 Outcome SolveAt(const Way& way, const MeteringRun& run, float psia) {
     if (way.steam) {
-        return OrificeCalcSteam(run, {.pressurePsia = psia, .density = 0.25704F});
+        return SolveSteam(run, {.pressurePsia = psia, .density = 0.25704F});
     }
-    return OrificeCalcGas(run, {.pressurePsia = psia,
-                                .basePressurePsia = 14.7F,
-                                .flowingTempR = 519.67F,
-                                .baseTempR = 519.67F,
-                                .baseSG = 1.0F});
+    return SolveGas(run, {.pressurePsia = psia,
+                          .basePressurePsia = 14.7F,
+                          .flowingTempR = 519.67F,
+                          .baseTempR = 519.67F,
+                          .baseSG = 1.0F});
 }
 
 const char* ResultOf(const Outcome& outcome, float wanted) {

@@ -27,11 +27,11 @@ void Print(const char* name, double ratio) {
 
 double GasFlow(float psia, float h) {
     const Outcome flow =
-        OrificeCalcGas({SolveFor::FlowRate, 4.026F, 0, h, 0.5F}, {.pressurePsia = psia,
-                                                                  .basePressurePsia = 14.7F,
-                                                                  .flowingTempR = 519.67F,
-                                                                  .baseTempR = 519.67F,
-                                                                  .baseSG = 1.0F});
+        SolveGas({SolveFor::FlowRate, 4.026F, 0, h, 0.5F}, {.pressurePsia = psia,
+                                                            .basePressurePsia = 14.7F,
+                                                            .flowingTempR = 519.67F,
+                                                            .baseTempR = 519.67F,
+                                                            .baseSG = 1.0F});
     return double{flow.value.value()};
 }
 

@@ -186,16 +186,16 @@ void PrintInvariances() {
 
 Outcome SolveTrip(const NamedFluid& fluid, const MeteringRun& run, float psia, float density) {
     if (fluid.code[0] == 'L') {
-        return OrificeCalcLiquid(run, {density, density});
+        return SolveLiquid(run, {density, density});
     }
     if (fluid.code[0] == 'S') {
-        return OrificeCalcSteam(run, {psia, density});
+        return SolveSteam(run, {psia, density});
     }
-    return OrificeCalcGas(run, {.pressurePsia = psia,
-                                .basePressurePsia = 14.7F,
-                                .flowingTempR = 519.67F,
-                                .baseTempR = 519.67F,
-                                .baseSG = density});
+    return SolveGas(run, {.pressurePsia = psia,
+                          .basePressurePsia = 14.7F,
+                          .flowingTempR = 519.67F,
+                          .baseTempR = 519.67F,
+                          .baseSG = density});
 }
 
 void PrintTrips(const NamedFluid& fluid) {

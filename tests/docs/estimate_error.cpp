@@ -67,20 +67,19 @@ FluidData DataOf(Fluid fluid) {
 Outcome Solve(Fluid fluid, const MeteringRun& run) {
     switch (fluid) {
         case Fluid::Liquid:
-            return OrificeCalcLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
+            return SolveLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
         case Fluid::Gas:
         case Fluid::MonatomicGas:
-            return OrificeCalcGas(run, {.flowKind = FlowKind::Volume,
-                                        .correction = CompCorrection::None,
-                                        .pressurePsia = kPressurePsia,
-                                        .basePressurePsia = kBasePressurePsia,
-                                        .flowingTempR = kBaseTempR,
-                                        .baseTempR = kBaseTempR,
-                                        .baseSG = 1.0F});
+            return SolveGas(run, {.flowKind = FlowKind::Volume,
+                                  .correction = CompCorrection::None,
+                                  .pressurePsia = kPressurePsia,
+                                  .basePressurePsia = kBasePressurePsia,
+                                  .flowingTempR = kBaseTempR,
+                                  .baseTempR = kBaseTempR,
+                                  .baseSG = 1.0F});
         case Fluid::Steam:
-            return OrificeCalcSteam(run,
-                                    {.pressurePsia = kPressurePsia,
-                                     .density = SaturatedSteamDensity(kGaugePressurePsi).density});
+            return SolveSteam(run, {.pressurePsia = kPressurePsia,
+                                    .density = SaturatedSteamDensity(kGaugePressurePsi).density});
     }
     throw std::logic_error("unknown fluid");
 }

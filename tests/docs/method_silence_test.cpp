@@ -22,7 +22,7 @@ Outcome GasAt(SolveFor mode, float flowingTempR) {
     gas.flowingTempR = flowingTempR;
     gas.baseTempR = 519.67F;
     gas.baseSG = 1.0F;
-    return OrificeCalcGas(run, gas);
+    return SolveGas(run, gas);
 }
 
 // The flow of a true beta, solved back.
@@ -35,9 +35,7 @@ Outcome BetaBack(bool steam, float beta) {
     gas.flowingTempR = 519.67F;
     gas.baseTempR = 519.67F;
     gas.baseSG = 1.0F;
-    const auto solve = [&] {
-        return steam ? OrificeCalcSteam(run, vapor) : OrificeCalcGas(run, gas);
-    };
+    const auto solve = [&] { return steam ? SolveSteam(run, vapor) : SolveGas(run, gas); };
     run.flow = solve().value.value();
     run.solveFor = SolveFor::Beta;
     return solve();

@@ -1,6 +1,7 @@
 #include "ui/handlers/bore_and_beta_fields.h"
 
 #include "app/dispatch/do_orifice_calculations.h"
+#include "calc/constants.h"
 #include "ui/form/handler_links.h"
 #include "units/bore_and_beta.h"
 #include "units/pipe_id_texts.h"
@@ -81,7 +82,7 @@ void txtBeta_Change(const FormContext& context) {
     const MainForm& form = context.form;
     Module1& module = context.module;
     const auto beta = TextToSingle(form.txtBeta->Text(), module.locale());
-    if (beta && *beta >= kBetaLimit) {
+    if (beta && *beta >= kMaxBeta) {
         module.MsgText = BetaLimitMessage(context);
         module.MsgTitle = "Beta Value";
         module.MsgResult = module.platform().ShowMessageBox(
@@ -116,7 +117,7 @@ void cboOriBoreUnit_Click(const FormContext& context) {
     form.txtOriBoreDia->SetText("");
     const auto beta = TextToSingle(form.txtBeta->Text(), context.module.locale());
     // The limit itself, which the beta field refuses, is converted here.
-    if (beta && *beta <= kBetaLimit) {
+    if (beta && *beta <= kMaxBeta) {
         WriteBore(context, *beta);
     }
 }

@@ -18,13 +18,13 @@ inline GasProperties Air(FlowKind kind = kVolume) {
 
 // In a 4-inch pipe.
 inline Outcome FlowOf(const GasProperties& gas, float beta, float h) {
-    return OrificeCalcGas({SolveFor::FlowRate, 4.026F, 0.0F, h, beta}, gas);
+    return SolveGas({SolveFor::FlowRate, 4.026F, 0.0F, h, beta}, gas);
 }
 inline Outcome DiffPressureOf(const GasProperties& gas, float flow, float beta) {
-    return OrificeCalcGas({SolveFor::DiffPressure, 4.026F, flow, 0.0F, beta}, gas);
+    return SolveGas({SolveFor::DiffPressure, 4.026F, flow, 0.0F, beta}, gas);
 }
 inline Outcome BetaOf(const GasProperties& gas, float flow, float h) {
-    return OrificeCalcGas({SolveFor::Beta, 4.026F, flow, h, 0.0F}, gas);
+    return SolveGas({SolveFor::Beta, 4.026F, flow, h, 0.0F}, gas);
 }
 
 }  // namespace tarvix::testing

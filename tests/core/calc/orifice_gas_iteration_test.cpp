@@ -34,10 +34,8 @@ TEST(OrificeGasTest, TheIterationsStartAtFiftyInchesOfWaterAndHalfBeta) {
     for (const auto& row : rows) {
         const Outcome h = DiffPressureOf(Air(row.kind), row.flow, 0.5F);
         ExpectValue(h, 50.0F);
-        EXPECT_EQ(h.steps, 1);
         const Outcome beta = BetaOf(Air(row.kind), row.flow, 50.0F);
         ExpectValue(beta, 0.5F);
-        EXPECT_EQ(beta.steps, 1);
     }
 }
 
@@ -45,52 +43,44 @@ TEST(OrificeGasTest, TheIterationsStartAtFiftyInchesOfWaterAndHalfBeta) {
 TEST(OrificeGasTest, ABetaOfExactlyOneOnTheWayIsTooLarge) {
     const Outcome beta = BetaOf(Air(), 360632.90625F, 100.0F);
     ExpectMessage(beta, kOver95);
-    EXPECT_EQ(beta.steps, 1);
 }
 
 TEST(OrificeGasTest, WhatTheSolvedFieldHeldDoesNotMatter) {
     MeteringRun run{SolveFor::DiffPressure, 4.026F, 60000.0F, 0.0F, 0.5F};
-    const auto h = OrificeCalcGas(run, Air()).value;
+    const auto h = SolveGas(run, Air()).value;
     ASSERT_TRUE(h.has_value());
     run.diffPressInH2O = 1e6F;
-    EXPECT_EQ(OrificeCalcGas(run, Air()).value, h);
+    EXPECT_EQ(SolveGas(run, Air()).value, h);
     run = {SolveFor::Beta, 4.026F, 60000.0F, 100.0F, 0.0F};
-    const auto beta = OrificeCalcGas(run, Air()).value;
+    const auto beta = SolveGas(run, Air()).value;
     ASSERT_TRUE(beta.has_value());
     run.beta = 0.9F;
-    EXPECT_EQ(OrificeCalcGas(run, Air()).value, beta);
+    EXPECT_EQ(SolveGas(run, Air()).value, beta);
 }
 
 // Flows at which a step's s is the very bound 0.999999 or 1.000001 of the band, in single
 // precision; both bounds lie outside, so that one step more is made.
 TEST(OrificeGasTest, BothBoundsOfTheBandAreExclusive) {
     const Outcome hUpper = DiffPressureOf(Air(), 133378.890625F, 0.4F);
-    EXPECT_EQ(hUpper.steps, 56);
     ExpectValue(hUpper, 619.09814453125F);
     const Outcome hLower = DiffPressureOf(Air(), 22726.912109375F, 0.6F);
-    EXPECT_EQ(hLower.steps, 49);
-    const Outcome betaUpper = BetaOf(Air(), 32108.703125F, 100.0F);
-    EXPECT_EQ(betaUpper.steps, 5);
-    const Outcome betaLower = BetaOf(Air(), 183516.265625F, 50.0F);
-    EXPECT_EQ(betaLower.steps, 23);
+    ExpectValue(hLower, 2.7876172065734863F);
+    ExpectValue(BetaOf(Air(), 32108.703125F, 100.0F), 0.30253F);
+    ExpectValue(BetaOf(Air(), 183516.265625F, 50.0F), 0.77135F);
 }
 
 TEST(OrificeGasTest, AResultOfTheHundredthStepIsAccepted) {
     const Outcome h = DiffPressureOf(Air(), 659775.9375F, 0.7F);
     ExpectValue(h, 1792.56494140625F);
-    EXPECT_EQ(h.steps, 100);
     const Outcome beta = BetaOf(Air(), 232353.359375F, 50.0F);
     ExpectValue(beta, 0.82706F);
-    EXPECT_EQ(beta.steps, 100);
 }
 
 TEST(OrificeGasTest, AfterAHundredStepsTheIterationGivesUp) {
     const Outcome h = DiffPressureOf(Air(), 661399.25F, 0.7F);
     ExpectMessage(h, kDpUnresolved);
-    EXPECT_EQ(h.steps, 100);
     const Outcome beta = BetaOf(Air(), 240926.546875F, 50.0F);
     ExpectMessage(beta, kBetaUnresolved);
-    EXPECT_EQ(beta.steps, 100);
 }
 
 TEST(OrificeGasTest, ANegativeExpansionFactorAtTheStartIsTooHighAFlow) {
@@ -98,11 +88,9 @@ TEST(OrificeGasTest, ANegativeExpansionFactorAtTheStartIsTooHighAFlow) {
     gas.pressurePsia = 0.5F;  // zero expansion factor at 44 inches of water
     const Outcome h = DiffPressureOf(gas, 10.0F, 0.5F);
     ExpectMessage(h, kDpTooHigh);
-    EXPECT_EQ(h.steps, 1);
     gas.pressurePsia = 14.7F;
     const Outcome beta = BetaOf(gas, 100000.0F, 1300.0F);
     ExpectMessage(beta, kBetaTooHigh);
-    EXPECT_EQ(beta.steps, 1);
     for (const FlowKind kind : {kVolume, kMass}) {
         gas.flowKind = kind;
         ExpectMessage(BetaOf(gas, 1.0F, 1300.0F), kBetaTooHigh);
@@ -112,20 +100,16 @@ TEST(OrificeGasTest, ANegativeExpansionFactorAtTheStartIsTooHighAFlow) {
 TEST(OrificeGasTest, AFlowAboveWhatThePipeCarriesIsTooHigh) {
     const Outcome h = DiffPressureOf(Air(), 446170.59375F, 0.5F);
     ExpectMessage(h, kDpTooHigh);
-    EXPECT_EQ(h.steps, 18);
     // The expansion factor may turn negative on the last step too.
     const Outcome last = DiffPressureOf(Air(), 705420.3125F, 0.7F);
     ExpectMessage(last, kDpTooHigh);
-    EXPECT_EQ(last.steps, 100);
 }
 
 TEST(OrificeGasTest, ABetaThatReachesOneOnTheWayIsOutOfRange) {
     const Outcome atOnce = BetaOf(Air(), 366245.375F, 100.0F);
     ExpectMessage(atOnce, kOver95);
-    EXPECT_EQ(atOnce.steps, 1);
     const Outcome later = BetaOf(Air(), 360000.0F, 100.0F);
     ExpectMessage(later, kOver95);
-    EXPECT_EQ(later.steps, 3);
 }
 
 TEST(OrificeGasTest, ABetaThatFallsToZeroIsOutOfRange) {
@@ -136,9 +120,8 @@ TEST(OrificeGasTest, ABetaThatFallsToZeroIsOutOfRange) {
     MeteringRun run{SolveFor::Beta, 1e4F, 1e-38F, 1e10F, 0.0F};
     GasProperties gas = Air();
     gas.pressurePsia = 1e20F;
-    const Outcome atOnce = OrificeCalcGas(run, gas);
+    const Outcome atOnce = SolveGas(run, gas);
     ExpectMessage(atOnce, kNotAboveZero);
-    EXPECT_EQ(atOnce.steps, 1);
 }
 
 // No finite number --------------------------------------------------------------------------------
@@ -150,10 +133,8 @@ TEST(OrificeGasTest, BelowAbsoluteZeroNothingComesOut) {
         ExpectNothing(FlowOf(gas, 0.5F, 100.0F));
         const Outcome h = DiffPressureOf(gas, 1000.0F, 0.5F);
         ExpectMessage(h, kDpUnresolved);
-        EXPECT_EQ(h.steps, 1);
         const Outcome beta = BetaOf(gas, 1000.0F, 100.0F);
         ExpectMessage(beta, kBetaUnresolved);
-        EXPECT_EQ(beta.steps, 1);
     }
 }
 
@@ -198,7 +179,7 @@ TEST(OrificeGasTest, OverflowOfASingleGivesNothingOrItsMessage) {
     EXPECT_EQ(FlowOf(volume, 0.5F, 100.0F).value, std::nullopt);
 }
 
-// Whatever the inputs: a finite value or a message or neither, after at most 100 steps.
+// Whatever the inputs: a finite value or a message or neither.
 TEST(OrificeGasTest, NoInputBreaksTheIteration) {
     const float odd[] = {0.0F, 1e-45F, 1e-38F, 1e-20F, 0.001F, 0.5F,  0.999999F,
                          1.0F, 50.0F,  1e5F,   1e20F,  3e38F,  -1.0F, -1e30F};
@@ -213,8 +194,7 @@ TEST(OrificeGasTest, NoInputBreaksTheIteration) {
                         GasProperties gas = Air(kind);
                         gas.pressurePsia = c;
                         const MeteringRun run{solveFor, 2.067F, a, b, a < 0 ? 0.5F : a};
-                        const Outcome outcome = OrificeCalcGas(run, gas);
-                        ASSERT_LE(outcome.steps, 100);
+                        const Outcome outcome = SolveGas(run, gas);
                         ASSERT_FALSE(outcome.value && !outcome.message.empty());
                         ASSERT_TRUE(!outcome.value || std::isfinite(*outcome.value));
                         values += outcome.value ? 1 : 0;

@@ -25,17 +25,17 @@ MeteringRun FourInchRun(SolveFor solveFor) {
 Outcome FlowOf(const MeteringRun& changed, const LiquidProperties& liquid = kWater) {
     MeteringRun run = changed;
     run.solveFor = SolveFor::FlowRate;
-    return OrificeCalcLiquid(run, liquid);
+    return SolveLiquid(run, liquid);
 }
 Outcome DiffPressureOf(const MeteringRun& changed, const LiquidProperties& liquid = kWater) {
     MeteringRun run = changed;
     run.solveFor = SolveFor::DiffPressure;
-    return OrificeCalcLiquid(run, liquid);
+    return SolveLiquid(run, liquid);
 }
 Outcome BetaOf(const MeteringRun& changed, const LiquidProperties& liquid = kWater) {
     MeteringRun run = changed;
     run.solveFor = SolveFor::Beta;
-    return OrificeCalcLiquid(run, liquid);
+    return SolveLiquid(run, liquid);
 }
 
 struct LiquidRow : NamedRow {
@@ -57,7 +57,6 @@ TEST_P(LiquidRun, GivesItsFlow) {
     const Outcome outcome = FlowOf(run, liquid);
     ExpectValue(outcome, row.flow);
     EXPECT_NEAR(double{outcome.value.value_or(0)}, row.exactFlow, row.exactFlow * 2e-7);
-    EXPECT_EQ(outcome.steps, 0);
 }
 
 TEST_P(LiquidRun, GivesItsDifferentialPressureBack) {
@@ -65,14 +64,12 @@ TEST_P(LiquidRun, GivesItsDifferentialPressureBack) {
     ExpectValue(outcome, row.backDiffPressure);
     EXPECT_NEAR(double{outcome.value.value_or(0)}, double{row.diffPressure},
                 double{row.diffPressure} * 5e-7);
-    EXPECT_EQ(outcome.steps, 0);
 }
 
 TEST_P(LiquidRun, GivesItsBetaBack) {
     const Outcome outcome = BetaOf(run, liquid);
     ExpectValue(outcome, row.backBeta);
     EXPECT_NEAR(double{outcome.value.value_or(0)}, double{row.beta}, 1e-5);
-    EXPECT_EQ(outcome.steps, 0);
 }
 
 // clang-format off
@@ -226,14 +223,6 @@ TEST(OrificeLiquidTest, WithoutAFiniteResultThereIsNothing) {
     // Not a number.
     ExpectNothing(FlowOf(run, {-1.0F, 1.0F}));
     ExpectNothing(BetaOf(run, {-1.0F, 1.0F}));
-}
-
-// Density to gravity ------------------------------------------------------------------------------
-
-TEST(OrificeLiquidTest, SpecificGravityIsTheSingleQuotientOfTheDensities) {
-    EXPECT_EQ(SpecificGravityOfDensity(62.366F, 62.366F), 1.0F);
-    EXPECT_EQ(SpecificGravityOfDensity(50.0F, 62.366F), 0.801718891F);
-    EXPECT_EQ(SpecificGravityOfDensity(124.732F, 62.366F), 2.0F);
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ Outcome Liquid(const MeteringRun& run, float flowingSG, float baseSG) {
     LiquidProperties liquid;
     liquid.flowingSG = flowingSG;
     liquid.baseSG = baseSG;
-    return OrificeCalcLiquid(run, liquid);
+    return SolveLiquid(run, liquid);
 }
 
 MeteringRun BetaRun(float d, float h, float q) {
@@ -60,7 +60,7 @@ Outcome Steam(float psiGauge, float density, float d, float h, float q) {
     SteamProperties steam;
     steam.pressurePsia = psiGauge + 14.7F;
     steam.density = density;
-    return OrificeCalcSteam(BetaRun(d, h, q), steam);
+    return SolveSteam(BetaRun(d, h, q), steam);
 }
 
 // Liquid ------------------------------------------------------------------------------------------
@@ -93,36 +93,34 @@ TEST(LiquidRounding, GravityTimesFlowIsASingle) {
 
 TEST(GasRounding, TemperatureTimesDensityIsASingle) {
     const GasProperties gas = Gas(442, 253, 1.07F, kDensity, 1.8F);
-    ExpectValue(OrificeCalcGas(FlowRun(10.02F, 1.2F, 0.76F), gas), 275226.75F);
+    ExpectValue(SolveGas(FlowRun(10.02F, 1.2F, 0.76F), gas), 275226.75F);
 }
 
 TEST(GasRounding, TheImpliedZfIsASingle) {
     const GasProperties gas = Gas(273, 132, 0.34F, kDensity, 0.92F);
-    ExpectValue(OrificeCalcGas(FlowRun(1.049F, 83.8F, 0.225F), gas), 4049.737060546875F);
+    ExpectValue(SolveGas(FlowRun(1.049F, 83.8F, 0.225F), gas), 4049.737060546875F);
 }
 
 TEST(GasRounding, TheQuotientOfTheBaseConditionsIsASingle) {
     const GasProperties gas = Gas(114, 16, 1.59F, kZf, 0.73F);
-    ExpectValue(OrificeCalcGas(FlowRun(3.068F, 142.2F, 0.568F), gas), 84423.125F);
+    ExpectValue(SolveGas(FlowRun(3.068F, 142.2F, 0.568F), gas), 84423.125F);
 }
 
 TEST(GasRounding, TheTargetOfTheDifferentialPressureIsReadFromLeftToRight) {
     const GasProperties gas = Gas(257, 9, 1.49F, kZf, 0.9F);
-    const Outcome h = OrificeCalcGas(DiffPressureRun(2.067F, 10037, 0.616F), gas);
+    const Outcome h = SolveGas(DiffPressureRun(2.067F, 10037, 0.616F), gas);
     ExpectValue(h, 3.535550832748413F);
-    EXPECT_EQ(h.steps, 48);
 }
 
 TEST(GasRounding, EachBetaOfTheIterationIsASingle) {
     const GasProperties gas = Gas(486, 46, 1.31F, kZf, 0.84F);
-    const Outcome beta = OrificeCalcGas(BetaRun(2.067F, 86.2F, 1089), gas);
+    const Outcome beta = SolveGas(BetaRun(2.067F, 86.2F, 1089), gas);
     ExpectValue(beta, 0.0791F);
-    EXPECT_EQ(beta.steps, 3);
 }
 
 TEST(GasRounding, BetaIsMultipliedTwiceAsASingle) {
     const GasProperties gas = Gas(460, 243, 1.16F, kDensity, 1.14F);
-    ExpectValue(OrificeCalcGas(BetaRun(2.067F, 3.4F, 18713), gas), 0.82162F);
+    ExpectValue(SolveGas(BetaRun(2.067F, 3.4F, 18713), gas), 0.82162F);
 }
 
 // Steam -------------------------------------------------------------------------------------------

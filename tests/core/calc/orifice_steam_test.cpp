@@ -29,13 +29,13 @@ const SteamProperties kSaturated{114.7F, 0.25704F};  // at 100 psi gauge
 
 // In a 4-inch pipe.
 Outcome SteamFlowOf(const SteamProperties& steam, float beta, float h) {
-    return OrificeCalcSteam({SolveFor::FlowRate, 4.026F, 0.0F, h, beta}, steam);
+    return SolveSteam({SolveFor::FlowRate, 4.026F, 0.0F, h, beta}, steam);
 }
 Outcome SteamDiffPressureOf(const SteamProperties& steam, float flow, float beta) {
-    return OrificeCalcSteam({SolveFor::DiffPressure, 4.026F, flow, 0.0F, beta}, steam);
+    return SolveSteam({SolveFor::DiffPressure, 4.026F, flow, 0.0F, beta}, steam);
 }
 Outcome SteamBetaOf(const SteamProperties& steam, float flow, float h) {
-    return OrificeCalcSteam({SolveFor::Beta, 4.026F, flow, h, 0.0F}, steam);
+    return SolveSteam({SolveFor::Beta, 4.026F, flow, h, 0.0F}, steam);
 }
 
 // Runs there and back -----------------------------------------------------------------------------
@@ -45,9 +45,7 @@ struct SteamRow : NamedRow {
     float flow;              // in single precision, each stored quantity rounded
     double exactFlow;        // in double precision throughout
     float backDiffPressure;  // of `flow`, within the band
-    int diffPressureSteps;
     float backBeta;
-    int betaSteps;
 };
 
 class SteamRun : public ::testing::TestWithParam<SteamRow> {
@@ -59,38 +57,35 @@ class SteamRun : public ::testing::TestWithParam<SteamRow> {
 
 TEST_P(SteamRun, GivesItsFlow) {
     run.solveFor = SolveFor::FlowRate;
-    const Outcome outcome = OrificeCalcSteam(run, steam);
+    const Outcome outcome = SolveSteam(run, steam);
     ExpectValue(outcome, row.flow);
     EXPECT_NEAR(double{outcome.value.value_or(0)}, row.exactFlow, row.exactFlow * 3e-7);
-    EXPECT_EQ(outcome.steps, 0);
 }
 
 TEST_P(SteamRun, GivesItsDifferentialPressureBack) {
     run.solveFor = SolveFor::DiffPressure;
-    const Outcome outcome = OrificeCalcSteam(run, steam);
+    const Outcome outcome = SolveSteam(run, steam);
     ExpectValue(outcome, row.backDiffPressure);
     EXPECT_NEAR(double{outcome.value.value_or(0)}, double{row.diffPressure},
                 double{row.diffPressure} * 1e-6);
-    EXPECT_EQ(outcome.steps, row.diffPressureSteps);
 }
 
 TEST_P(SteamRun, GivesItsBetaBack) {
-    const Outcome outcome = OrificeCalcSteam(run, steam);
+    const Outcome outcome = SolveSteam(run, steam);
     ExpectValue(outcome, row.backBeta);
     EXPECT_NEAR(double{outcome.value.value_or(0)}, double{row.beta}, 1e-5);
-    EXPECT_EQ(outcome.steps, row.betaSteps);
 }
 
 // clang-format off
 const SteamRow kSteamRows[] = {
-    //                       P         rho       D         beta       h         flow         exact flow    h back, steps    beta back, steps
-    {"HundredPsigSaturated",114.7F, 0.25704F , 2.067F, 0.5F     , 100.0F, 1191.87097F, 1191.87092, 99.9999847F, 53, 0.5F, 1},
-    {"Atmospheric",         14.7F    , 0.03738F , 4.026F, 0.6F     , 25.0F    , 1274.08496F, 1274.084883, 25.0000038F, 55, 0.600000024F, 8},
-    {"HighPressure",        3014.7F, 11.86182F, 10.02F, 0.4F     , 500.0F, 269380.562F, 269380.5676, 499.999847F, 58, 0.400000006F, 5},
-    {"Superheated",         214.7F, 0.35F    , 6.065F, 0.7F     , 80.5F    , 23514.168F, 23514.16703, 80.4999847F, 53, 0.699999988F, 12},
-    {"SmallBeta",           64.7F    , 0.14969F , 1.049F, 0.15F    , 10.0F    , 6.51376724F, 6.51376693, 10.0000029F, 55, 0.150000006F, 4},
-    {"LargePipe",           164.7F, 0.36283F , 41.25F, 0.75F    , 150.0F, 1814970.88F, 1814970.858, 149.999954F, 56, 0.75F, 18},
-    {"AboveStandardRange",  114.7F, 0.25704F , 3.068F, 0.8F     , 40.0F    , 5384.83301F, 5384.833043, 40.0000076F, 48, 0.800000012F, 36},
+    //                       P         rho       D         beta       h         flow         exact flow    h back       beta back
+    {"HundredPsigSaturated",114.7F, 0.25704F , 2.067F, 0.5F     , 100.0F, 1191.87097F, 1191.87092, 99.9999847F, 0.5F},
+    {"Atmospheric",         14.7F    , 0.03738F , 4.026F, 0.6F     , 25.0F    , 1274.08496F, 1274.084883, 25.0000038F, 0.600000024F},
+    {"HighPressure",        3014.7F, 11.86182F, 10.02F, 0.4F     , 500.0F, 269380.562F, 269380.5676, 499.999847F, 0.400000006F},
+    {"Superheated",         214.7F, 0.35F    , 6.065F, 0.7F     , 80.5F    , 23514.168F, 23514.16703, 80.4999847F, 0.699999988F},
+    {"SmallBeta",           64.7F    , 0.14969F , 1.049F, 0.15F    , 10.0F    , 6.51376724F, 6.51376693, 10.0000029F, 0.150000006F},
+    {"LargePipe",           164.7F, 0.36283F , 41.25F, 0.75F    , 150.0F, 1814970.88F, 1814970.858, 149.999954F, 0.75F},
+    {"AboveStandardRange",  114.7F, 0.25704F , 3.068F, 0.8F     , 40.0F    , 5384.83301F, 5384.833043, 40.0000076F, 0.800000012F},
 };
 // clang-format on
 
@@ -111,7 +106,7 @@ TEST(OrificeSteamTest, AZeroInAFactorGivesNothing) {
         MeteringRun run = full;
         run.solveFor = solveFor;
         run.*factor = 0.0F;
-        return OrificeCalcSteam(run, kSaturated);
+        return SolveSteam(run, kSaturated);
     };
     ExpectNothing(without(SolveFor::FlowRate, &MeteringRun::beta));
     ExpectNothing(without(SolveFor::FlowRate, &MeteringRun::pipeDiameterIn));
@@ -148,23 +143,21 @@ TEST(OrificeSteamTest, ABetaOfOneOrMoreIsReported) {
 TEST(OrificeSteamTest, TheIterationsStartAtFiftyInchesOfWaterAndHalfBeta) {
     const Outcome h = SteamDiffPressureOf(kSaturated, 3214.16943F, 0.5F);
     ExpectValue(h, 50.0F);
-    EXPECT_EQ(h.steps, 1);
     const Outcome beta = SteamBetaOf(kSaturated, 3214.16943F, 50.0F);
     ExpectValue(beta, 0.5F);
-    EXPECT_EQ(beta.steps, 1);
 }
 
 TEST(OrificeSteamTest, WhatTheSolvedFieldHeldDoesNotMatter) {
     MeteringRun run{SolveFor::DiffPressure, 4.026F, 3000.0F, 0.0F, 0.5F};
-    const auto h = OrificeCalcSteam(run, kSaturated).value;
+    const auto h = SolveSteam(run, kSaturated).value;
     ASSERT_TRUE(h.has_value());
     run.diffPressInH2O = 1e6F;
-    EXPECT_EQ(OrificeCalcSteam(run, kSaturated).value, h);
+    EXPECT_EQ(SolveSteam(run, kSaturated).value, h);
     run = {SolveFor::Beta, 4.026F, 3000.0F, 100.0F, 0.0F};
-    const auto beta = OrificeCalcSteam(run, kSaturated).value;
+    const auto beta = SolveSteam(run, kSaturated).value;
     ASSERT_TRUE(beta.has_value());
     run.beta = 0.9F;
-    EXPECT_EQ(OrificeCalcSteam(run, kSaturated).value, beta);
+    EXPECT_EQ(SolveSteam(run, kSaturated).value, beta);
 }
 
 // Two flows on whose way s is 0.99999988 and 1.0000001, the singles beside the band of the
@@ -173,17 +166,15 @@ TEST(OrificeSteamTest, WhatTheSolvedFieldHeldDoesNotMatter) {
 TEST(OrificeSteamTest, TheBandsAreComparedInDoublePrecision) {
     const Outcome hAbove = SteamDiffPressureOf(kSaturated, 7670.2568359375F, 0.5F);
     ExpectValue(hAbove, 300.3360595703125F);
-    EXPECT_EQ(hAbove.steps, 60);
     const Outcome hBelow = SteamDiffPressureOf(kSaturated, 924.13525390625F, 0.5F);
     ExpectValue(hBelow, 4.093772888183594F);
-    EXPECT_EQ(hBelow.steps, 56);
 
-    EXPECT_EQ(SteamBetaOf(kSaturated, 7729.76513671875F, 50.0F).steps, 15);
-    EXPECT_EQ(SteamBetaOf(kSaturated, 4611.64208984375F, 50.0F).steps, 7);
+    ExpectValue(SteamBetaOf(kSaturated, 7729.76513671875F, 50.0F), 0.72655F);
+    ExpectValue(SteamBetaOf(kSaturated, 4611.64208984375F, 50.0F), 0.58946F);
 }
 
 // The differential pressure comes ten times nearer than that of the gas equation.
-TEST(OrificeSteamTest, TheNarrowBandTakesMoreStepsThanGas) {
+TEST(OrificeSteamTest, TheNarrowBandEndsCloserThanThatOfGas) {
     GasProperties gas = Air(kMass);
     gas.correction = kDensity;
     gas.operDensity = kSaturated.density;
@@ -193,38 +184,30 @@ TEST(OrificeSteamTest, TheNarrowBandTakesMoreStepsThanGas) {
     const Outcome steam = SteamDiffPressureOf(kSaturated, lbPerHour, 0.5F);
     const Outcome sameAsGas = DiffPressureOf(gas, airEquivalent, 0.5F);
     ASSERT_TRUE(steam.value && sameAsGas.value);
-    EXPECT_GT(steam.steps, sameAsGas.steps + 5);
     EXPECT_NEAR(double{*steam.value}, double{*sameAsGas.value}, 5e-4);
 }
 
 TEST(OrificeSteamTest, AResultOfTheHundredthStepIsAccepted) {
     const Outcome h = SteamDiffPressureOf(kSaturated, 31320.947265625F, 0.7F);
     ExpectValue(h, 1451.4759521484375F);
-    EXPECT_EQ(h.steps, 100);
     const Outcome beta = SteamBetaOf(kSaturated, 22972.4296875F, 200.0F);
     ExpectValue(beta, 0.82856F);
-    EXPECT_EQ(beta.steps, 100);
 }
 
 TEST(OrificeSteamTest, AfterAHundredStepsTheIterationGivesUp) {
     const Outcome h = SteamDiffPressureOf(kSaturated, 31527.25390625F, 0.7F);
     ExpectMessage(h, kSteamDpUnresolved);
-    EXPECT_EQ(h.steps, 100);
     const Outcome beta = SteamBetaOf(kSaturated, 17174.03125F, 100.0F);
     ExpectMessage(beta, kSteamBetaUnresolved);
-    EXPECT_EQ(beta.steps, 100);
 }
 
 TEST(OrificeSteamTest, ANegativeExpansionFactorIsTooHighAFlow) {
     const Outcome atOnce = SteamDiffPressureOf({0.5F, 0.25704F}, 10.0F, 0.5F);
     ExpectMessage(atOnce, kSteamDpTooHigh);
-    EXPECT_EQ(atOnce.steps, 1);
     const Outcome later = SteamDiffPressureOf(kSaturated, 19919.4296875F, 0.5F);
     ExpectMessage(later, kSteamDpTooHigh);
-    EXPECT_EQ(later.steps, 25);
     const Outcome beta = SteamBetaOf({14.7F, 0.25704F}, 100000.0F, 1300.0F);
     ExpectMessage(beta, kSteamBetaTooHigh);
-    EXPECT_EQ(beta.steps, 1);
 }
 
 // Gas says so; steam is silent.
@@ -232,7 +215,7 @@ TEST(OrificeSteamTest, ABetaThatLeavesItsRangeEndsWithoutAMessage) {
     ExpectNothing(SteamBetaOf(kSaturated, 26247.59765625F, 200.0F));  // after the first step
     ExpectNothing(SteamBetaOf(kSaturated, 25000.0F, 200.0F));         // after the third
     // R underflows, and beta falls to 0.
-    ExpectNothing(OrificeCalcSteam({SolveFor::Beta, 1e4F, 1e-38F, 1e10F, 0.0F}, {1e20F, 0.25704F}));
+    ExpectNothing(SolveSteam({SolveFor::Beta, 1e4F, 1e-38F, 1e10F, 0.0F}, {1e20F, 0.25704F}));
 }
 
 TEST(OrificeSteamTest, ASolvedBetaThatRoundsToZeroIsReported) {
@@ -272,9 +255,9 @@ TEST(OrificeSteamTest, ABetaOfExactlyOneOnTheWayIsUnresolved) {
         flow = std::nextafter(flow, kMax);
         const Outcome outcome = SteamBetaOf(kSaturated, flow, 200.0F);
         ASSERT_EQ(outcome.value, std::nullopt);
-        if (outcome.message == kSteamBetaUnresolved && outcome.steps == 2) {
+        if (outcome.message == kSteamBetaUnresolved) {
             ++unresolved;
-        } else if (outcome.message.empty() && outcome.steps == 2) {
+        } else if (outcome.message.empty()) {
             ++silent;
         }
     }
@@ -282,7 +265,7 @@ TEST(OrificeSteamTest, ABetaOfExactlyOneOnTheWayIsUnresolved) {
     EXPECT_GT(silent, 0);
 }
 
-// Whatever the inputs: a finite value or a message or neither, after at most 100 steps.
+// Whatever the inputs: a finite value or a message or neither.
 TEST(OrificeSteamTest, NoInputBreaksTheIteration) {
     const float odd[] = {0.0F, 1e-45F, 1e-38F, 1e-20F, 0.001F, 0.5F,  0.999999F,
                          1.0F, 50.0F,  1e5F,   1e20F,  3e38F,  -1.0F, -1e30F};
@@ -294,8 +277,7 @@ TEST(OrificeSteamTest, NoInputBreaksTheIteration) {
                 for (const SolveFor solveFor :
                      {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta}) {
                     const MeteringRun run{solveFor, 2.067F, a, b, a < 0 ? 0.5F : a};
-                    const Outcome outcome = OrificeCalcSteam(run, {c, 0.3F});
-                    ASSERT_LE(outcome.steps, 100);
+                    const Outcome outcome = SolveSteam(run, {c, 0.3F});
                     ASSERT_FALSE(outcome.value && !outcome.message.empty());
                     ASSERT_TRUE(!outcome.value || std::isfinite(*outcome.value));
                     values += outcome.value ? 1 : 0;

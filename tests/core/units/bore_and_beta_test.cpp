@@ -23,10 +23,6 @@ std::string FiveDecimals(std::optional<float> beta) {
     return beta ? FormatNumber(*beta, 5, kUnitedStates, Grouping::Off) : "none";
 }
 
-TEST(BoreAndBetaTest, TheLimitIsASingle) {
-    EXPECT_EQ(kBetaLimit, 0.95F);
-}
-
 TEST(BoreAndBetaTest, OneInchInATwoInchPipe) {
     EXPECT_EQ(FiveDecimals(BetaFromBore(1.0F, 2.067F, 1.0F)), "0.48379");
 }
