@@ -17,7 +17,7 @@ namespace {
 // A gas run with every line that a page can have.
 ReportSheet FullPage() {
     ReportSheet sheet;
-    sheet.inputs.fluidType = "G";
+    sheet.inputs.fluid = Fluid::Gas;
     sheet.inputs.mode = SolveFor::FlowRate;
     sheet.inputs.flow = "1,234,567";
     sheet.inputs.flowUnit = {"Standard Cubic Feet", 1};
@@ -39,7 +39,7 @@ ReportSheet FullPage() {
     sheet.plateWarning = true;
     sheet.plateWarning1 = "Orifice plate deflection";
     sheet.plateWarning2 = "should be checked.";
-    sheet.zfCompWarning = true;
+    sheet.zfCompWarning = CompressibilityWarning::Will;
     sheet.date = "05 Mar 2024";
     return sheet;
 }

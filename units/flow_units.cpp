@@ -6,33 +6,33 @@ namespace {
 
 // US gallons per unit; for a mass, US gallons of water.
 constexpr std::array<FlowUnit, 13> kLiquidFlowUnits{{
-    {"Gallons", kVolumeKind, 1.0F},
-    {"Imperial Gallons", kVolumeKind, 1.20095F},
-    {"Barrels", kVolumeKind, 42.0F},
-    {"Dekaliters", kVolumeKind, 2.64172F},
-    {"Liters", kVolumeKind, 0.264172F},
-    {"Cubic Meters ", kVolumeKind, 264.172F},  // the text ends in a blank
-    {"Grams", kMassKind, 0.000264717F},
-    {"Kilograms", kMassKind, 0.2647168F},
-    {"Tons", kMassKind, 240.147F},
-    {"Pounds", kMassKind, 0.120074F},
-    {"Metric Tons", kMassKind, 264.762F},  // not quite 1000 kilograms; kept
-    {"Long Tons", kMassKind, 268.965F},
-    {"Cubic Centimeters", kVolumeKind, 0.000264172F},
+    {"Gallons", FlowKind::Volume, 1.0F},
+    {"Imperial Gallons", FlowKind::Volume, 1.20095F},
+    {"Barrels", FlowKind::Volume, 42.0F},
+    {"Dekaliters", FlowKind::Volume, 2.64172F},
+    {"Liters", FlowKind::Volume, 0.264172F},
+    {"Cubic Meters ", FlowKind::Volume, 264.172F},  // the text ends in a blank
+    {"Grams", FlowKind::Mass, 0.000264717F},
+    {"Kilograms", FlowKind::Mass, 0.2647168F},
+    {"Tons", FlowKind::Mass, 240.147F},
+    {"Pounds", FlowKind::Mass, 0.120074F},
+    {"Metric Tons", FlowKind::Mass, 264.762F},  // not quite 1000 kilograms; kept
+    {"Long Tons", FlowKind::Mass, 268.965F},
+    {"Cubic Centimeters", FlowKind::Volume, 0.000264172F},
 }};
 
 // Pounds per unit.
 constexpr std::array<FlowUnit, 2> kSteamFlowUnits{{
-    {"Pounds", kMassKind, 1.0F},
-    {"Kilograms", kMassKind, 2.204614F},
+    {"Pounds", FlowKind::Mass, 1.0F},
+    {"Kilograms", FlowKind::Mass, 2.204614F},
 }};
 
 // Standard cubic feet per unit.
 constexpr std::array<FlowUnit, 4> kGasFlowUnits{{
-    {"Standard Cubic Feet", kVolumeKind, 1.0F},
-    {"Pounds", kMassKind, 13.10249F},                   // 1 / (2.698825 x 14.696 / (459.67 + 60))
-    {"Kilograms", kMassKind, 28.88056F},                // 13.1 / 0.4535924, from the rounded 13.1
-    {"Standard Cubic Meters", kVolumeKind, 35.31466F},  // 1 / 0.02831685
+    {"Standard Cubic Feet", FlowKind::Volume, 1.0F},
+    {"Pounds", FlowKind::Mass, 13.10249F},     // 1 / (2.698825 x 14.696 / (459.67 + 60))
+    {"Kilograms", FlowKind::Mass, 28.88056F},  // 13.1 / 0.4535924, from the rounded 13.1
+    {"Standard Cubic Meters", FlowKind::Volume, 35.31466F},  // 1 / 0.02831685
 }};
 
 }  // namespace
@@ -44,17 +44,16 @@ const std::array<Unit, 4> kTimeUnits{{
     {"Second", 0.0166667F},
 }};
 
-FluidFlowUnits FlowUnitsOf(std::string_view fluidType) {
-    if (fluidType == "L") {
-        return {kLiquidFlowUnits, "Gallons", "Minute"};
+FluidFlowUnits FlowUnitsOf(Fluid fluid) {
+    switch (fluid) {
+        case Fluid::Liquid:
+            return {kLiquidFlowUnits, "Gallons", "Minute"};
+        case Fluid::Steam:
+            return {kSteamFlowUnits, "Pounds", "Hour"};
+        case Fluid::Gas:
+            break;
     }
-    if (fluidType == "S") {
-        return {kSteamFlowUnits, "Pounds", "Hour"};
-    }
-    if (fluidType == "G") {
-        return {kGasFlowUnits, "Standard Cubic Feet", "Day"};
-    }
-    return {};
+    return {kGasFlowUnits, "Standard Cubic Feet", "Day"};
 }
 
 }  // namespace tarvix

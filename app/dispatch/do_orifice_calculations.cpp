@@ -1,7 +1,7 @@
 #include "app/dispatch/do_orifice_calculations.h"
 
-#include "app/sheet/data_checks.h"
 #include "app/sheet/solve_sheet.h"
+#include "app/sheet/warning_rules.h"
 #include "ui/form/input_reader.h"
 
 namespace tarvix {
@@ -10,7 +10,7 @@ namespace {
 
 void StandardBetaRangeCheck(const FormContext& context) {
     Module1& module = context.module;
-    if (IsBetaOutsideStandardRange(context.form.txtBeta->Text(), module.locale())) {
+    if (IsBetaOutsideStandardRange(context.form.txtBeta->Number())) {
         module.MsgText = kBetaRangeWarning;
         ShowMessage(context, module.MsgText, BackColor::Yellow);
     }
@@ -42,14 +42,17 @@ void DoOrificeCalculations(const FormContext& context) {
     EnablePrinting(context, false);
 
     const InputSheet sheet = ReadInputSheet(context);
-    const int ok = CheckInputs(sheet, module);
+    const CheckResult check = CheckInputs(sheet, module.working, module);
+    module.working = check.working;
+    module.MsgText = check.message;
     ShowMessage(context, module.MsgText, BackColor::Yellow);
-    if (ok != kDataGood) {
+    if (check.status() != kDataGood) {
         ClearResult(context);
         return;
     }
 
-    const CalculationResult result = CalculateResult(sheet, module);
+    const CalculationResult result = CalculateResult(sheet, module.working, module);
+    module.MsgText = result.message;
     NumericField& field = ResultField(context, *sheet.mode);
     field.SetText("");
     if (!result.message.empty()) {

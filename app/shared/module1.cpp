@@ -99,6 +99,19 @@ std::string Module1::LocalDecimal(std::string text) const {
     return text;
 }
 
+Fluid Module1::CurrentFluid(std::string_view ifUnknown) {
+    const std::optional<Fluid> fluid = FluidOf(FluidType);
+    if (!fluid) {
+        FatalError(ifUnknown);
+    }
+    return *fluid;
+}
+
+void Module1::FatalError(std::string_view text) {
+    MsgText = text;
+    FatalError();
+}
+
 void Module1::FatalError() {
     MsgTitle = "Fatal Error";
     MsgText =

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "app/shared/platform.h"
+#include "calc/fluid.h"
 #include "numbers/number_text.h"
 
 #include <string>
+#include <string_view>
 
 namespace tarvix {
 
@@ -44,6 +46,9 @@ class Module1 {
     std::string CustLine2;
     std::string TagText;
 
+    // The fluid that FluidType names; an unknown code ends the program with this text.
+    Fluid CurrentFluid(std::string_view ifUnknown = "Orifice type not specified");
+
     Platform& platform() const { return platform_; }
     const NumberLocale& locale() const { return locale_; }
 
@@ -63,8 +68,10 @@ class Module1 {
     // `text` with its first "." turned into the system's decimal separator.
     std::string LocalDecimal(std::string text) const;
 
-    // Shows MsgText in the fatal error box and ends the program.
+    // Shows MsgText in the fatal error box and ends the program: the one place where an internal
+    // inconsistency does. With `text` as MsgText.
     [[noreturn]] void FatalError();
+    [[noreturn]] void FatalError(std::string_view text);
 
     // Asks whether to end the program, and ends it on OK.
     void ExitProgram();

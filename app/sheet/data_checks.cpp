@@ -13,17 +13,13 @@ namespace {
 // One field as a check sees it.
 struct CheckedField {
     Field field;
-    const std::string* text;
+    const EnteredNumber* number;
     std::string name;  // as messages call it
     bool required;     // in the passes over the whole set
     enum class Rule { Positive, OperatingPressure, AnyNumber } rule = Rule::Positive;
 };
 
 using Fields = std::span<const CheckedField>;
-
-float ValueOf(const CheckedField& field, const NumberLocale& locale) {
-    return TextToSingle(*field.text, locale).value_or(0.0F);
-}
 
 // Names of the required fields that `isBad` picks, joined by ", ".
 template <typename Predicate>
@@ -40,7 +36,7 @@ std::string ListOf(Fields fields, Predicate isBad) {
 const CheckedField* EditedField(Fields fields, Field active) {
     for (const CheckedField& field : fields) {
         if (field.field == active && active != Field::None) {
-            return field.text->empty() ? nullptr : &field;
+            return field.number->empty() ? nullptr : &field;
         }
     }
     return nullptr;
@@ -51,7 +47,7 @@ const CheckedField* EditedField(Fields fields, Field active) {
 // only.
 std::string PressureLimitMessage(const CheckedField& field, const InputSheet& sheet,
                                  const Module1& module, std::string_view absoluteFullStop) {
-    const float psi = ValueOf(field, module.locale()) * sheet.pressUnit.factor;
+    const float psi = field.number->SingleOrZero() * sheet.pressUnit.factor;
     if (sheet.absolutePressure) {
         return psi > 0 ? ""
                        : field.name + " must be greater than 0" + std::string(absoluteFullStop);
@@ -70,7 +66,7 @@ std::string EditedFieldMessage(Fields fields, const InputSheet& sheet, const Mod
     if (field == nullptr) {
         return "";
     }
-    const auto value = TextToSingle(*field->text, module.locale());
+    const auto value = field->number->Single();
     if (!value) {
         return "Non-Numeric " + field->name;
     }
@@ -87,12 +83,11 @@ std::string EditedFieldMessage(Fields fields, const InputSheet& sheet, const Mod
 
 // The whole set: what is empty, then what is no number, then what is too small.
 std::string FluidDataMessage(Fields fields, const InputSheet& sheet, const Module1& module) {
-    const NumberLocale& locale = module.locale();
-    std::string list = ListOf(fields, [](const CheckedField& f) { return f.text->empty(); });
+    std::string list = ListOf(fields, [](const CheckedField& f) { return f.number->empty(); });
     if (!list.empty()) {
         return "Incomplete fluid data (" + list + ").";
     }
-    list = ListOf(fields, [&](const CheckedField& f) { return !IsNumeric(*f.text, locale); });
+    list = ListOf(fields, [](const CheckedField& f) { return !f.number->IsNumeric(); });
     if (!list.empty()) {
         return "Non-Numeric fluid data (" + list + ").";
     }
@@ -104,8 +99,8 @@ std::string FluidDataMessage(Fields fields, const InputSheet& sheet, const Modul
             }
         }
     }
-    list = ListOf(fields, [&](const CheckedField& f) {
-        return f.rule == CheckedField::Rule::Positive && !(ValueOf(f, locale) > 0);
+    list = ListOf(fields, [](const CheckedField& f) {
+        return f.rule == CheckedField::Rule::Positive && !(f.number->SingleOrZero() > 0);
     });
     return list.empty() ? "" : list + " must be greater than 0.";
 }
@@ -115,18 +110,15 @@ std::string FluidCheckMessage(Fields fields, const InputSheet& sheet, const Modu
     return message.empty() ? FluidDataMessage(fields, sheet, module) : message;
 }
 
-float SingleOf(const std::string& text, const Module1& module) {
-    return TextToSingle(text, module.locale()).value_or(0.0F);
-}
-
-void StorePressures(const InputSheet& sheet, Module1& module) {
-    module.working.OperPress = SingleOf(sheet.pf, module) * sheet.pressUnit.factor;
-    module.working.BasePress = kAtmosphericPressurePsi;
+void StorePressures(const InputSheet& sheet, WorkingValues& working) {
+    working.OperPress = sheet.pf.SingleOrZero() * sheet.pressUnit.factor;
+    working.BasePress = kAtmosphericPressurePsi;
 }
 
 }  // namespace
 
-int DataChkLiquid(const InputSheet& sheet, Module1& module) {
+CheckResult DataChkLiquid(const InputSheet& sheet, const WorkingValues& before,
+                          const Module1& module) {
     const std::array fields{
         CheckedField{
             Field::SGf, &sheet.sgf,
@@ -135,18 +127,19 @@ int DataChkLiquid(const InputSheet& sheet, Module1& module) {
         CheckedField{Field::SGb, &sheet.sgb, "Base Specific Gravity", sheet.sgbVisible},
         CheckedField{Field::Density, &sheet.density, "Operating Density", sheet.sgCalculated},
     };
-    module.MsgText = FluidCheckMessage(fields, sheet, module);
-    if (!module.MsgText.empty()) {
-        return kDataBad;
+    CheckResult result{FluidCheckMessage(fields, sheet, module), before};
+    if (result.status() == kDataBad) {
+        return result;
     }
-    module.working.FlowingSG = SingleOf(sheet.sgf, module);
+    result.working.FlowingSG = sheet.sgf.SingleOrZero();
     if (sheet.sgbVisible) {
-        module.working.BaseSG = SingleOf(sheet.sgb, module);
+        result.working.BaseSG = sheet.sgb.SingleOrZero();
     }
-    return kDataGood;
+    return result;
 }
 
-int DataChkSteam(const InputSheet& sheet, Module1& module) {
+CheckResult DataChkSteam(const InputSheet& sheet, const WorkingValues& before,
+                         const Module1& module) {
     const std::string densityName =
         std::string("Operating Density") + (sheet.steamFromTable ? " [from Op. Pressure]" : "");
     const std::array fields{
@@ -154,19 +147,19 @@ int DataChkSteam(const InputSheet& sheet, Module1& module) {
         CheckedField{Field::Pf, &sheet.pf, "Operating Pressure", true,
                      CheckedField::Rule::OperatingPressure},
     };
-    module.MsgText = FluidCheckMessage(fields, sheet, module);
-    if (module.MsgText.empty() && sheet.steamFromTable && sheet.density.empty()) {
-        module.MsgText = "The " + densityName + " must not exceed steam table limits.";
+    CheckResult result{FluidCheckMessage(fields, sheet, module), before};
+    if (result.message.empty() && sheet.steamFromTable && sheet.density.empty()) {
+        result.message = "The " + densityName + " must not exceed steam table limits.";
     }
-    if (!module.MsgText.empty()) {
-        return kDataBad;
+    if (result.status() == kDataBad) {
+        return result;
     }
-    StorePressures(sheet, module);
-    module.working.OperDensity = SingleOf(sheet.density, module) * sheet.densityUnit.factor;
-    return kDataGood;
+    StorePressures(sheet, result.working);
+    result.working.OperDensity = sheet.density.SingleOrZero() * sheet.densityUnit.factor;
+    return result;
 }
 
-int DataChkGas(const InputSheet& sheet, Module1& module) {
+CheckResult DataChkGas(const InputSheet& sheet, const WorkingValues& before, Module1& module) {
     const bool zfIsDensity = sheet.compCorrection == CompCorrection::Density;
     const std::array fields{
         CheckedField{Field::Tf, &sheet.tf, "Op. Temperature", true, CheckedField::Rule::AnyNumber},
@@ -175,64 +168,57 @@ int DataChkGas(const InputSheet& sheet, Module1& module) {
         CheckedField{Field::GasSGb, &sheet.gasSGb, "Base Specific Gravity", sheet.gasSGbVisible},
         CheckedField{Field::Zf, &sheet.zf, zfIsDensity ? "Density" : "Zf", sheet.zfVisible},
     };
-    module.MsgText = FluidCheckMessage(fields, sheet, module);
-    if (!module.MsgText.empty()) {
-        return kDataBad;
+    CheckResult result{FluidCheckMessage(fields, sheet, module), before};
+    if (result.status() == kDataBad) {
+        return result;
     }
-    WorkingValues& working = module.working;
-    working.FlowTempF = module.TempToDegF(SingleOf(sheet.tf, module), sheet.degC ? "C" : "F");
+    WorkingValues& working = result.working;
+    working.FlowTempF = module.TempToDegF(sheet.tf.SingleOrZero(), sheet.degC ? "C" : "F");
     working.BaseTempF = kBaseTempF;
     if (sheet.gasSGbVisible) {
-        working.BaseSG = SingleOf(sheet.gasSGb, module);
+        working.BaseSG = sheet.gasSGb.SingleOrZero();
     }
-    StorePressures(sheet, module);
+    StorePressures(sheet, result.working);
     if (zfIsDensity) {
-        working.OperDensity = SingleOf(sheet.zf, module) * sheet.zfDensityUnit.factor;
+        working.OperDensity = sheet.zf.SingleOrZero() * sheet.zfDensityUnit.factor;
     } else if (sheet.compCorrection == CompCorrection::Zf) {
-        working.UserZf = SingleOf(sheet.zf, module);
+        working.UserZf = sheet.zf.SingleOrZero();
     }
-    return kDataGood;
+    return result;
 }
 
-int OrificeDataCheck(const InputSheet& sheet, Module1& module) {
-    const NumberLocale& locale = module.locale();
+CheckResult OrificeDataCheck(const InputSheet& sheet, const WorkingValues& before) {
     const std::array fields{
         CheckedField{Field::Flow, &sheet.flow, "Flow Rate", sheet.mode != SolveFor::FlowRate},
         CheckedField{Field::DeltaP, &sheet.deltaP, "Differential Pressure",
                      sheet.mode != SolveFor::DiffPressure},
         CheckedField{Field::Beta, &sheet.beta, "Beta Ratio", sheet.mode != SolveFor::Beta},
     };
-    module.MsgText.clear();
-
+    CheckResult result{"", before};
     const CheckedField* edited = EditedField(fields, sheet.activeField);
     if (edited != nullptr && edited->required) {
-        const auto value = TextToSingle(*edited->text, locale);
+        const auto value = edited->number->Single();
         if (!value) {
-            module.MsgText = "Non-Numeric " + edited->name + " data.";
+            result.message = "Non-Numeric " + edited->name + " data.";
         } else if (!(*value > 0)) {
-            module.MsgText = "The " + edited->name + " must be greater than 0.";
+            result.message = "The " + edited->name + " must be greater than 0.";
         }
     }
-    if (module.MsgText.empty()) {
+    if (result.message.empty()) {
         const std::string list =
-            ListOf(fields, [&](const CheckedField& f) { return !IsNumeric(*f.text, locale); });
+            ListOf(fields, [](const CheckedField& f) { return !f.number->IsNumeric(); });
         if (!list.empty()) {
-            module.MsgText = "Incomplete or Non-Numeric fluid data (" + list + ").";
+            result.message = "Incomplete or Non-Numeric fluid data (" + list + ").";
         }
     }
-    if (module.MsgText.empty()) {
+    if (result.message.empty()) {
         const std::string list =
-            ListOf(fields, [&](const CheckedField& f) { return !(ValueOf(f, locale) > 0); });
+            ListOf(fields, [](const CheckedField& f) { return !(f.number->SingleOrZero() > 0); });
         if (!list.empty()) {
-            module.MsgText = "Fluid data (" + list + ") must be greater than 0.";
+            result.message = "Fluid data (" + list + ") must be greater than 0.";
         }
     }
-    return module.MsgText.empty() ? kDataGood : kDataBad;
-}
-
-bool IsBetaOutsideStandardRange(std::string_view beta, const NumberLocale& locale) {
-    const auto value = TextToSingle(beta, locale);
-    return value && (*value < 0.15F || *value > 0.67F);
+    return result;
 }
 
 }  // namespace tarvix

@@ -5,32 +5,30 @@
 #include "app/sheet/input_sheet.h"
 
 #include <string>
-#include <string_view>
 
 namespace tarvix {
 
-// The states of the message line, colours as 0xBBGGRR.
-inline constexpr int kMessageNone = 0xE0E0E0;
-inline constexpr int kMessageCheck = 0x00FFFF;
-inline constexpr int kMessageCalculation = 0x0000FF;
-
-// What the checks return.
+// The status of a check.
 inline constexpr int kDataGood = 1;
 inline constexpr int kDataBad = 2;
 
-// Each fluid check returns kDataGood and stores the working values of its fluid in `module`, or
-// returns kDataBad; module.MsgText then holds the message, else it is empty.
-int DataChkLiquid(const InputSheet& sheet, Module1& module);
-int DataChkSteam(const InputSheet& sheet, Module1& module);
-int DataChkGas(const InputSheet& sheet, Module1& module);
+// What a check found.
+struct CheckResult {
+    std::string message;    // what is missing or wrong, in one line; empty: the data are good
+    WorkingValues working;  // as before, with those of the fluid where its data are good
 
-// The same for flow rate, differential pressure and beta, each only while it is an input.
-int OrificeDataCheck(const InputSheet& sheet, Module1& module);
+    int status() const { return message.empty() ? kDataGood : kDataBad; }
+};
 
-inline constexpr std::string_view kBetaRangeWarning =
-    "Warning: Beta value exceeds standard range (0.15 to 0.67).";
+// The inputs of each fluid. `before`: the working values so far.
+CheckResult DataChkLiquid(const InputSheet& sheet, const WorkingValues& before,
+                          const Module1& module);
+CheckResult DataChkSteam(const InputSheet& sheet, const WorkingValues& before,
+                         const Module1& module);
+CheckResult DataChkGas(const InputSheet& sheet, const WorkingValues& before, Module1& module);
 
-// True when `beta`, the text of the beta field, is a number outside the standard range.
-bool IsBetaOutsideStandardRange(std::string_view beta, const NumberLocale& locale);
+// Flow rate, differential pressure and beta, each only while it is an input. Leaves the working
+// values as they are.
+CheckResult OrificeDataCheck(const InputSheet& sheet, const WorkingValues& before);
 
 }  // namespace tarvix

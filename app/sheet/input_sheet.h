@@ -1,45 +1,45 @@
-// What the main window shows, read once for a calculation.
+// What the main window shows, read once for a calculation: each number as a text with its value.
 #pragma once
 
 #include "calc/equation_terms.h"
 #include "calc/orifice_gas.h"
+#include "numbers/entered_number.h"
 #include "units/unit_tables.h"
 
 #include <optional>
-#include <string>
-#include <string_view>
 
 namespace tarvix {
 
 // The numeric fields of the main window.
 enum class Field { None, Flow, DeltaP, Beta, OriBoreDia, Pf, Tf, Density, SGb, SGf, GasSGb, Zf };
 
-// The unit selected in a unit list: its text and its factor to the calculation unit.
+// The unit selected in a unit list: its text and its factor to the calculation unit. No text while
+// the lists are not filled yet.
 using SelectedUnit = Unit;
 
 struct InputSheet {
-    std::string fluidType;         // "L", "S", "G"
+    Fluid fluid = Fluid::Gas;
     std::optional<SolveFor> mode;  // what the selected option solves for
 
-    std::string flow;     // txtFlow
-    std::string deltaP;   // txtDeltaP
-    std::string beta;     // txtBeta
-    std::string pf;       // txtPf
-    std::string tf;       // txtTf
-    std::string density;  // txtDensity
-    std::string sgb;      // txtSGb
-    std::string sgf;      // txtSGf
-    std::string gasSGb;   // txtGasSGb
-    std::string zf;       // txtZf: Zf or the operating density
+    EnteredNumber flow;     // txtFlow
+    EnteredNumber deltaP;   // txtDeltaP
+    EnteredNumber beta;     // txtBeta
+    EnteredNumber pf;       // txtPf
+    EnteredNumber tf;       // txtTf
+    EnteredNumber density;  // txtDensity
+    EnteredNumber sgb;      // txtSGb
+    EnteredNumber sgf;      // txtSGf
+    EnteredNumber gasSGb;   // txtGasSGb
+    EnteredNumber zf;       // txtZf: Zf or the operating density
 
     SelectedUnit flowUnit{"", 1};
-    std::string_view flowKind;  // "V" or "M"
+    std::optional<FlowKind> flowKind;
     SelectedUnit timeUnit{"", 1};
     SelectedUnit deltaPUnit{"", 1};
     SelectedUnit pressUnit{"", 1};
     SelectedUnit densityUnit{"", 1};
     SelectedUnit zfDensityUnit{"", 1};
-    std::string pipeDiameter;  // inches, number text of the selected pipe
+    EnteredNumber pipeDiameter;  // inches, of the selected pipe
 
     bool sgCalculated = false;      // optSgCalc
     bool steamFromTable = false;    // optSteamTbl

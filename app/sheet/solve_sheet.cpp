@@ -1,20 +1,15 @@
 #include "app/sheet/solve_sheet.h"
 
-#include "app/sheet/data_checks.h"
+#include "calc/constants.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
-#include "calc/steam_table.h"
-#include "numbers/decimal_form.h"
-#include "units/flow_units.h"
 
 namespace tarvix {
 
 namespace {
 
 constexpr int kBetaDecimals = 5;
-constexpr int kSteamDensityDecimals = 5;
-constexpr int kSpecificGravityDecimals = 4;
 
 // The sheet's run in calculation units, and the factors that led there.
 struct SheetRun {
@@ -25,14 +20,9 @@ struct SheetRun {
 
 enum class PerTime { Minute, Hour };
 
-float SingleOrZero(const std::string& text, const Module1& module) {
-    return TextToSingle(text, module.locale()).value_or(0.0F);
-}
-
 SheetRun RunOf(const InputSheet& sheet, Module1& module, PerTime perTime) {
     if (!sheet.mode) {
-        module.MsgText = "No variable to calculate has been selected.";
-        module.FatalError();
+        module.FatalError("No variable to calculate has been selected.");
     }
     SheetRun result;
     result.flowFactor = sheet.flowUnit.factor / sheet.timeUnit.factor;
@@ -41,34 +31,30 @@ SheetRun RunOf(const InputSheet& sheet, Module1& module, PerTime perTime) {
     }
     result.deltaPFactor = sheet.deltaPUnit.factor;
     result.run.solveFor = *sheet.mode;
-    result.run.pipeDiameterIn = SingleOrZero(sheet.pipeDiameter, module);
-    result.run.flow = SingleOrZero(sheet.flow, module) * result.flowFactor;
-    result.run.diffPressInH2O = SingleOrZero(sheet.deltaP, module) * result.deltaPFactor;
-    result.run.beta = SingleOrZero(sheet.beta, module);
+    result.run.pipeDiameterIn = sheet.pipeDiameter.SingleOrZero();
+    result.run.flow = sheet.flow.SingleOrZero() * result.flowFactor;
+    result.run.diffPressInH2O = sheet.deltaP.SingleOrZero() * result.deltaPFactor;
+    result.run.beta = sheet.beta.SingleOrZero();
     return result;
 }
 
 // The result as its field shows it, or the message.
-CalculationResult ResultOf(const Outcome& outcome, const SheetRun& sheetRun, Module1& module) {
-    module.MsgText = std::string(outcome.message);
-    CalculationResult result;
-    result.message = module.MsgText;
+CalculationResult ResultOf(const Outcome& outcome, const SheetRun& sheetRun,
+                           const Module1& module) {
     if (!outcome.value) {
-        return result;
+        return {"", std::string(outcome.message)};
     }
     switch (sheetRun.run.solveFor) {
         case SolveFor::FlowRate:
-            result.text = module.FormatResult(*outcome.value / sheetRun.flowFactor);
-            break;
+            return {module.FormatResult(*outcome.value / sheetRun.flowFactor), ""};
         case SolveFor::DiffPressure:
-            result.text = module.FormatResult(*outcome.value / sheetRun.deltaPFactor);
-            break;
+            return {module.FormatResult(*outcome.value / sheetRun.deltaPFactor), ""};
         case SolveFor::Beta:
-            result.text = FormatNumber(*outcome.value, kBetaDecimals, module.locale(), Grouping::On,
-                                       Negatives::Parentheses);
             break;
     }
-    return result;
+    return {FormatNumber(*outcome.value, kBetaDecimals, module.locale(), Grouping::On,
+                         Negatives::Parentheses),
+            ""};
 }
 
 float AbsolutePressure(const InputSheet& sheet, const WorkingValues& working) {
@@ -79,53 +65,40 @@ float Rankine(float degF) {
     return static_cast<float>(double{degF} + kRankineOffset);
 }
 
-// An internal inconsistency; ends the program.
-[[noreturn]] void UnknownFluid(Module1& module) {
-    module.MsgText = "Orifice type not specified";
-    module.FatalError();
-}
-
-FlowKind GasFlowKind(const InputSheet& sheet, Module1& module) {
-    if (sheet.flowKind == kMassKind) {
-        return FlowKind::Mass;
+CheckResult CheckFluid(const InputSheet& sheet, const WorkingValues& before, Module1& module) {
+    switch (sheet.fluid) {
+        case Fluid::Liquid:
+            return DataChkLiquid(sheet, before, module);
+        case Fluid::Steam:
+            return DataChkSteam(sheet, before, module);
+        case Fluid::Gas:
+            break;
     }
-    if (sheet.flowKind == kVolumeKind) {
-        return FlowKind::Volume;
-    }
-    module.MsgText = "Mass or Volumetric flow type not specified.";
-    module.FatalError();
+    return DataChkGas(sheet, before, module);
 }
 
 }  // namespace
 
-int CheckInputs(const InputSheet& sheet, Module1& module) {
-    int ok = kDataBad;
-    if (sheet.fluidType == "L") {
-        ok = DataChkLiquid(sheet, module);
-    } else if (sheet.fluidType == "S") {
-        ok = DataChkSteam(sheet, module);
-    } else if (sheet.fluidType == "G") {
-        ok = DataChkGas(sheet, module);
-    } else {
-        UnknownFluid(module);
-    }
-    return ok == kDataGood ? OrificeDataCheck(sheet, module) : ok;
+CheckResult CheckInputs(const InputSheet& sheet, const WorkingValues& before, Module1& module) {
+    CheckResult result = CheckFluid(sheet, before, module);
+    return result.status() == kDataGood ? OrificeDataCheck(sheet, result.working) : result;
 }
 
-CalculationResult OrificeCalcLiquid(const InputSheet& sheet, Module1& module) {
+CalculationResult OrificeCalcLiquid(const InputSheet& sheet, const WorkingValues& working,
+                                    Module1& module) {
     const SheetRun sheetRun = RunOf(sheet, module, PerTime::Minute);
     // A mass rate needs no base condition.
-    if (sheet.flowKind == kMassKind) {
-        module.working.BaseSG = 1.0F;
-    }
-    const LiquidProperties liquid{module.working.FlowingSG, module.working.BaseSG};
-    return ResultOf(SolveLiquid(sheetRun.run, liquid), sheetRun, module);
+    const float baseSG = sheet.flowKind == FlowKind::Mass ? 1.0F : working.BaseSG;
+    return ResultOf(SolveLiquid(sheetRun.run, {working.FlowingSG, baseSG}), sheetRun, module);
 }
 
-CalculationResult OrificeCalcGas(const InputSheet& sheet, Module1& module) {
-    const WorkingValues& working = module.working;
+CalculationResult OrificeCalcGas(const InputSheet& sheet, const WorkingValues& working,
+                                 Module1& module) {
+    if (!sheet.flowKind) {
+        module.FatalError("Mass or Volumetric flow type not specified.");
+    }
     GasProperties gas;
-    gas.flowKind = GasFlowKind(sheet, module);
+    gas.flowKind = *sheet.flowKind;
     gas.correction = sheet.compCorrection;
     gas.pressurePsia = AbsolutePressure(sheet, working);
     gas.basePressurePsia = working.BasePress;
@@ -138,93 +111,24 @@ CalculationResult OrificeCalcGas(const InputSheet& sheet, Module1& module) {
     return ResultOf(SolveGas(sheetRun.run, gas), sheetRun, module);
 }
 
-CalculationResult OrificeCalcSteam(const InputSheet& sheet, Module1& module) {
+CalculationResult OrificeCalcSteam(const InputSheet& sheet, const WorkingValues& working,
+                                   Module1& module) {
     const SheetRun sheetRun = RunOf(sheet, module, PerTime::Hour);
-    const SteamProperties steam{AbsolutePressure(sheet, module.working),
-                                module.working.OperDensity};
+    const SteamProperties steam{AbsolutePressure(sheet, working), working.OperDensity};
     return ResultOf(SolveSteam(sheetRun.run, steam), sheetRun, module);
 }
 
-CalculationResult CalculateResult(const InputSheet& sheet, Module1& module) {
-    if (sheet.fluidType == "L") {
-        return OrificeCalcLiquid(sheet, module);
-    }
-    if (sheet.fluidType == "S") {
-        return OrificeCalcSteam(sheet, module);
-    }
-    if (sheet.fluidType == "G") {
-        return OrificeCalcGas(sheet, module);
-    }
-    UnknownFluid(module);
-}
-
-std::string CalcSGf(const std::string& density, const SelectedUnit& unit, const Module1& module) {
-    const auto value = TextToSingle(density, module.locale());
-    if (!value || !(*value > 0)) {
-        return "";
-    }
-    // The factor enters as the double that its decimal text stands for.
-    const auto lbPerFt3 = static_cast<float>(DecimalValue(unit.factor) * double{*value});
-    return FormatNumber(lbPerFt3 / kWaterDensityLbPerFt3, kSpecificGravityDecimals, module.locale(),
-                        Grouping::On);
-}
-
-SteamDensityResult CalcSteamDensity(const InputSheet& sheet, const Module1& module) {
-    const auto value = TextToSingle(sheet.pf, module.locale());
-    if (!value) {
-        return {};
-    }
-    const float factor = sheet.pressUnit.factor;
-    const float offset = sheet.absolutePressure ? kAtmosphericPressurePsi : 0.0F;
-    const float gaugePsi = *value * factor - offset;
-    const SteamDensity steam = SaturatedSteamDensity(gaugePsi);
-
-    const auto outside = [&](std::string_view text, float limitPsig) {
-        return SteamDensityResult{"", std::string(text) +
-                                          module.FormatResult((limitPsig + offset) / factor) + " " +
-                                          std::string(sheet.pressUnit.text) +
-                                          (sheet.absolutePressure ? " (absolute)" : " (gauge)")};
-    };
-    switch (steam.range) {
-        case SteamRange::BelowTable:
-            return outside("The Op. Pressure is below the steam table mimimum: ",
-                           kSteamTable.front().pressurePsig);
-        case SteamRange::AboveTable:
-            return outside("The Op. Pressure exceeds the steam table maximum: ",
-                           kSteamTable.back().pressurePsig);
-        case SteamRange::InTable:
+CalculationResult CalculateResult(const InputSheet& sheet, const WorkingValues& working,
+                                  Module1& module) {
+    switch (sheet.fluid) {
+        case Fluid::Liquid:
+            return OrificeCalcLiquid(sheet, working, module);
+        case Fluid::Steam:
+            return OrificeCalcSteam(sheet, working, module);
+        case Fluid::Gas:
             break;
     }
-    return {FormatNumber(steam.density / sheet.densityUnit.factor, kSteamDensityDecimals,
-                         module.locale(), Grouping::On),
-            ""};
-}
-
-CompressibilityWarning CheckZfComp(const InputSheet& sheet, const Module1& module) {
-    if (sheet.compCorrection != CompCorrection::None) {
-        return CompressibilityWarning::None;
-    }
-    const auto value = TextToSingle(sheet.pf, module.locale());
-    if (!value) {
-        return CompressibilityWarning::None;
-    }
-    float gaugePsi = *value * sheet.pressUnit.factor;
-    if (sheet.absolutePressure) {
-        gaugePsi = gaugePsi - kAtmosphericPressurePsi;
-    }
-    if (gaugePsi > 400) {
-        return CompressibilityWarning::Will;
-    }
-    return gaugePsi > 200 ? CompressibilityWarning::May : CompressibilityWarning::None;
-}
-
-bool CheckPlateThickness(const std::string& nominalSize, const std::string& deltaP,
-                         const SelectedUnit& deltaPUnit, const NumberLocale& locale) {
-    float inchesOfWater = 0;
-    if (TextToSingle(nominalSize, locale).value_or(0.0F) >= 8) {
-        inchesOfWater = TextToSingle(deltaP, locale).value_or(0.0F) * deltaPUnit.factor;
-    }
-    return inchesOfWater >= 150;
+    return OrificeCalcGas(sheet, working, module);
 }
 
 }  // namespace tarvix

@@ -14,7 +14,7 @@ void ReformatFormerResult(const FormContext& context, const OptionButton& former
     if (BackColorOf(formerMode) != BackColor::Green) {
         return;
     }
-    if (const auto value = TextToSingle(field.Text(), context.module.locale())) {
+    if (const auto value = field.Number().Single()) {
         field.SetText(context.module.FormatEntry(*value));
     }
 }

@@ -38,10 +38,9 @@ class ReportComposer {
     void PrintZfCompWarning();
     void PrintOperatingPressure();
 
-    // A field's text with this many decimals; empty when it is not a number.
-    std::string Number(std::string_view fieldText, int decimals) const;
+    // A field's value with this many decimals; empty when it is not a number.
+    std::string Number(const EnteredNumber& field, int decimals) const;
     void PrintValue(std::string_view label, const std::string& value, std::string_view unit = {});
-    [[noreturn]] void Fatal(std::string_view message);
 
     const ReportSheet& sheet_;
     const InputSheet& inputs_;
@@ -57,12 +56,16 @@ ReportPage ReportComposer::Compose() {
     PrintCustomer();
     writer_.EmptyLines(1);
     PrintRates();
-    if (inputs_.fluidType == "S") {
-        PrintSteam();
-    } else if (inputs_.fluidType == "G") {
-        PrintGas();
-    } else {
-        PrintLiquid();
+    switch (inputs_.fluid) {
+        case Fluid::Steam:
+            PrintSteam();
+            break;
+        case Fluid::Gas:
+            PrintGas();
+            break;
+        case Fluid::Liquid:
+            PrintLiquid();
+            break;
     }
     writer_.EmptyLines(1);
     PrintPipeAndBore();
@@ -81,19 +84,18 @@ std::string ReportComposer::Title() {
     } else if (inputs_.mode == SolveFor::Beta) {
         title += "Bore size";
     } else {
-        Fatal("Calculation type not selected");
+        module_.FatalError("Calculation type not selected");
     }
     title += " - Flange Taps";
-    if (inputs_.fluidType == "L") {
-        return title + " - Liquid";
+    switch (inputs_.fluid) {
+        case Fluid::Liquid:
+            return title + " - Liquid";
+        case Fluid::Steam:
+            return title + " - Steam";
+        case Fluid::Gas:
+            break;
     }
-    if (inputs_.fluidType == "S") {
-        return title + " - Steam";
-    }
-    if (inputs_.fluidType == "G") {
-        return title + " - Gas";
-    }
-    Fatal("Orifice type not specified");
+    return title + " - Gas";
 }
 
 void ReportComposer::PrintCustomer() {
@@ -163,13 +165,14 @@ void ReportComposer::PrintPipeAndBore() {
         label += " " + std::string(kUserEntered);
     }
     const std::optional<std::string> diameter =
-        PipeDiameterInUnit(sheet_.pipeIdUnit, inputs_.pipeDiameter, sheet_.pipeIdText);
+        PipeDiameterInUnit(sheet_.pipeIdUnit, inputs_.pipeDiameter.text(), sheet_.pipeIdText);
     if (!diameter) {
         // Names the user-entered pipe, whatever pipe it is.
-        Fatal("Unrecognized pipe ID unit for 'User Entered' pipe ID");
+        module_.FatalError("Unrecognized pipe ID unit for 'User Entered' pipe ID");
     }
     const int decimals = sheet_.pipeIdUnit == kInches ? 3 : 2;
-    PrintValue(label, Number(*diameter, decimals), sheet_.pipeIdUnit);
+    PrintValue(label, Number(EnteredNumber(*diameter, module_.locale()), decimals),
+               sheet_.pipeIdUnit);
     PrintValue("Bore Diameter (approximate)", Number(sheet_.oriBoreDia, 3), sheet_.oriBoreUnit);
     PrintValue("Beta (approximate)", Number(inputs_.beta, 5));
 }
@@ -185,7 +188,7 @@ void ReportComposer::PrintWarnings() {
         }
         writer_.Print("Warning: " + sheet_.plateWarning1 + " " + sheet_.plateWarning2);
     }
-    if (inputs_.fluidType == "G" && sheet_.zfCompWarning) {
+    if (inputs_.fluid == Fluid::Gas && sheet_.zfCompWarning != CompressibilityWarning::None) {
         writer_.EmptyLines(1);
         PrintZfCompWarning();
     }
@@ -195,14 +198,14 @@ void ReportComposer::PrintZfCompWarning() {
     writer_.Print("  **************************************************************");
     writer_.Print("  * WARNING: A compressibility correction factor has not been  *");
     writer_.Print("  *          entered.  At this pressure, no compressibility    *");
-    writer_.Print(sheet_.zfCompWarningYellow
+    writer_.Print(sheet_.zfCompWarning == CompressibilityWarning::May
                       ? "  *          correction may result in erroneous computations.  *"
                       : "  *          correction will result in erroneous computations. *");
     writer_.Print("  **************************************************************");
 }
 
-std::string ReportComposer::Number(std::string_view fieldText, int decimals) const {
-    const std::optional<double> value = TextToDouble(fieldText, module_.locale());
+std::string ReportComposer::Number(const EnteredNumber& field, int decimals) const {
+    const std::optional<double> value = field.Double();
     if (!value) {
         return {};
     }
@@ -216,11 +219,6 @@ void ReportComposer::PrintValue(std::string_view label, const std::string& value
         line += " " + std::string(unit);
     }
     writer_.Print(line);
-}
-
-void ReportComposer::Fatal(std::string_view message) {
-    module_.MsgText = message;
-    module_.FatalError();
 }
 
 }  // namespace

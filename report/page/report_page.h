@@ -4,6 +4,7 @@
 
 #include "app/shared/module1.h"
 #include "app/sheet/input_sheet.h"
+#include "app/sheet/warning_rules.h"
 
 #include <string>
 #include <string_view>
@@ -14,18 +15,18 @@ namespace tarvix {
 // What the main window shows beyond the inputs of a calculation when a report is printed.
 struct ReportSheet {
     InputSheet inputs;
-    std::string oriBoreDia;            // txtOriBoreDia
-    std::string oriBoreUnit;           // text of cboOriBoreUnit
-    std::string pipeIdUnit;            // unit name of the selected cboPipeIDUnit entry
-    std::string pipeIdText;            // text of cboPipeID
-    bool saturated = false;            // optSaturated
-    std::string message;               // caption of lblMsg
-    bool plateWarning = false;         // fraPlateThicknessWarning is visible
-    std::string plateWarning1;         // caption of lbl1PlateThicknessWarning
-    std::string plateWarning2;         // caption of lbl2PlateThicknessWarning
-    bool zfCompWarning = false;        // fraZfCompWarning is visible
-    bool zfCompWarningYellow = false;  // its back colour is yellow: the milder wording
-    std::string date;                  // dd mmm yyyy, as the system's locale names the month
+    EnteredNumber oriBoreDia;   // txtOriBoreDia
+    std::string oriBoreUnit;    // text of cboOriBoreUnit
+    std::string pipeIdUnit;     // unit name of the selected cboPipeIDUnit entry
+    std::string pipeIdText;     // text of cboPipeID
+    bool saturated = false;     // optSaturated
+    std::string message;        // caption of lblMsg
+    bool plateWarning = false;  // fraPlateThicknessWarning is visible
+    std::string plateWarning1;  // caption of lbl1PlateThicknessWarning
+    std::string plateWarning2;  // caption of lbl2PlateThicknessWarning
+    // What fraZfCompWarning says; None while it is not visible.
+    CompressibilityWarning zfCompWarning = CompressibilityWarning::None;
+    std::string date;  // dd mmm yyyy, as the system's locale names the month
 };
 
 struct ReportFont {
@@ -62,8 +63,8 @@ struct ReportPage {
     std::vector<ReportLine> lines;
 };
 
-// Composes the page from the sheet and the customer lines in `module`. An unknown fluid, no
-// selected mode or an unknown pipe ID unit ends the program.
+// Composes the page from the sheet and the customer lines in `module`. No selected mode or an
+// unknown pipe ID unit ends the program.
 ReportPage ComposeReport(const ReportSheet& sheet, Module1& module);
 
 }  // namespace tarvix

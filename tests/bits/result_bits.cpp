@@ -61,7 +61,7 @@ class Choices {
     std::mt19937_64 engine_;
 };
 
-std::string Text(double value) {
+EnteredNumber Text(double value) {
     char text[48];
     std::snprintf(text, sizeof text, "%.7g", value);
     return text;
@@ -70,13 +70,13 @@ std::string Text(double value) {
 constexpr SolveFor kModes[] = {SolveFor::Beta, SolveFor::DiffPressure, SolveFor::FlowRate};
 constexpr CompCorrection kCorrections[] = {CompCorrection::None, CompCorrection::Density,
                                            CompCorrection::Zf};
-constexpr const char* kFluids[] = {"L", "G", "S"};
+constexpr Fluid kFluids[] = {Fluid::Liquid, Fluid::Gas, Fluid::Steam};
 
 InputSheet SheetOf(Choices& choices) {
     InputSheet sheet;
-    sheet.fluidType = choices.Pick(kFluids);
+    sheet.fluid = choices.Pick(kFluids);
     sheet.mode = choices.Pick(kModes);
-    const FlowUnit& flowUnit = choices.Pick(FlowUnitsOf(sheet.fluidType).units);
+    const FlowUnit& flowUnit = choices.Pick(FlowUnitsOf(sheet.fluid).units);
     sheet.flowUnit = {flowUnit.text, flowUnit.factor};
     sheet.flowKind = flowUnit.kind;
     sheet.timeUnit = choices.Pick(kTimeUnits);
@@ -84,8 +84,9 @@ InputSheet SheetOf(Choices& choices) {
     sheet.pressUnit = choices.Pick(kPressUnits);
     sheet.densityUnit = choices.Pick(kDensityUnits);
     sheet.zfDensityUnit = choices.Pick(kDensityUnits);
-    sheet.pipeDiameter =
-        std::string(choices.Pick(SchedulesOf(choices.Pick(kNominalSizes).value)).insideDiameter);
+    sheet.pipeDiameter = {
+        std::string(choices.Pick(SchedulesOf(choices.Pick(kNominalSizes).value)).insideDiameter),
+        NumberLocale{}};
     // Quantities that mostly make a run: chosen in calculation units, written in the sheet's.
     sheet.deltaP = Text(choices.Between(1, 400, 1000) / sheet.deltaPUnit.factor);
     sheet.pf = Text(choices.Between(0, 600, 1000) / sheet.pressUnit.factor);
@@ -100,13 +101,25 @@ InputSheet SheetOf(Choices& choices) {
     sheet.degC = choices.Half();
     sheet.steamFromTable = choices.Half();
     sheet.compCorrection = choices.Pick(kCorrections);
-    sheet.sgbVisible = sheet.fluidType != "S" && choices.Half();
-    sheet.gasSGbVisible = sheet.fluidType == "G";
-    sheet.zfVisible = sheet.fluidType == "G" && sheet.compCorrection != CompCorrection::None;
+    sheet.sgbVisible = sheet.fluid != Fluid::Steam && choices.Half();
+    sheet.gasSGbVisible = sheet.fluid == Fluid::Gas;
+    sheet.zfVisible = sheet.fluid == Fluid::Gas && sheet.compCorrection != CompCorrection::None;
     sheet.zf = sheet.compCorrection == CompCorrection::Density
                    ? Text(choices.Between(0, 2, 10000) / sheet.zfDensityUnit.factor)
                    : Text(choices.Between(0, 2, 10000));
     return sheet;
+}
+
+char LetterOf(Fluid fluid) {
+    switch (fluid) {
+        case Fluid::Liquid:
+            return 'L';
+        case Fluid::Gas:
+            return 'G';
+        case Fluid::Steam:
+            break;
+    }
+    return 'S';
 }
 
 // The bits of what an equation gives; "-" for nothing.
@@ -148,8 +161,8 @@ std::string EquationBits(Choices& choices, SolveFor mode) {
                   static_cast<unsigned>(std::bit_cast<std::uint32_t>(table.density)));
     MeteringRun large = run;  // gas and steam flow in other units
     large.flow *= 40;
-    return Bits(OrificeCalcLiquid(run, liquid)) + ' ' + Bits(OrificeCalcGas(large, gas)) + ' ' +
-           Bits(OrificeCalcSteam(large, steam)) + ' ' + density;
+    return Bits(SolveLiquid(run, liquid)) + ' ' + Bits(SolveGas(large, gas)) + ' ' +
+           Bits(SolveSteam(large, steam)) + ' ' + density;
 }
 
 // The working values of the checks, in the order of their declaration.
@@ -172,17 +185,17 @@ void WriteSheets(std::uint64_t sheets, std::uint64_t seed) {
     for (std::uint64_t number = 0; number < sheets; ++number) {
         Module1 module(platform, NumberLocale{});
         const InputSheet sheet = SheetOf(choices);
-        module.FluidType = sheet.fluidType;
         std::string result;
-        if (CheckInputs(sheet, module) == kDataGood) {
-            const CalculationResult solved = CalculateResult(sheet, module);
+        const CheckResult check = CheckInputs(sheet, {}, module);
+        if (check.status() == kDataGood) {
+            const CalculationResult solved = CalculateResult(sheet, check.working, module);
             result = solved.text.empty() ? "nothing: " + solved.message : "text: " + solved.text;
         } else {
-            result = "refused: " + module.MsgText;
+            result = "refused: " + check.message;
         }
-        std::printf("%llu %s%d%s %s | %s\n", static_cast<unsigned long long>(number),
-                    sheet.fluidType.c_str(), static_cast<int>(*sheet.mode),
-                    WorkingBits(module.working).c_str(), EquationBits(choices, *sheet.mode).c_str(),
+        std::printf("%llu %c%d%s %s | %s\n", static_cast<unsigned long long>(number),
+                    LetterOf(sheet.fluid), static_cast<int>(*sheet.mode),
+                    WorkingBits(check.working).c_str(), EquationBits(choices, *sheet.mode).c_str(),
                     result.c_str());
     }
 }

@@ -1,5 +1,6 @@
 // There and back through the texts of the fields, in every unit: what is shown as a flow, typed
 // back in, gives the differential pressure and the beta it came from, as far as its digits reach.
+#include "app/sheet/derived_densities.h"
 #include "app/sheet/solve_sheet.h"
 #include "app/sheets.h"
 
@@ -28,8 +29,8 @@ class RoundTripUnits : public SheetTest {
   protected:
     std::string Solve(InputSheet sheet, SolveFor mode) {
         sheet.mode = mode;
-        EXPECT_EQ(CheckInputs(sheet, module), kDataGood) << module.MsgText;
-        const CalculationResult result = CalculateResult(sheet, module);
+        EXPECT_EQ(CheckAndKeep(sheet, module), kDataGood) << module.MsgText;
+        const CalculationResult result = Solved(sheet, module);
         EXPECT_EQ(result.message, "");
         return result.text;
     }
@@ -37,22 +38,24 @@ class RoundTripUnits : public SheetTest {
     // True when the run's flow can be shown with enough digits to be solved back.
     bool ThereAndBack(const InputSheet& given) {
         InputSheet sheet = given;
-        sheet.flow = Solve(sheet, SolveFor::FlowRate);
-        if (sheet.flow.empty() || !(ValueOf(sheet.flow) > 0)) {
+        sheet.flow = {Solve(sheet, SolveFor::FlowRate), module.locale()};
+        if (sheet.flow.empty() || !(ValueOf(sheet.flow.text()) > 0)) {
             return false;
         }
-        const double flowError = RoundingOf(sheet.flow) + 2e-6;
+        const double flowError = RoundingOf(sheet.flow.text()) + 2e-6;
         if (flowError > 1e-3) {
             return false;
         }
         // Below the peak of the flow curve h changes at most three times as fast as the flow here,
         // and beta half as fast.
         const std::string deltaP = Solve(sheet, SolveFor::DiffPressure);
-        EXPECT_NEAR(ValueOf(deltaP) / ValueOf(sheet.deltaP), 1, 3 * flowError + RoundingOf(deltaP))
-            << sheet.flow << " " << sheet.flowUnit.text << " per " << sheet.timeUnit.text;
+        EXPECT_NEAR(ValueOf(deltaP) / ValueOf(sheet.deltaP.text()), 1,
+                    3 * flowError + RoundingOf(deltaP))
+            << sheet.flow.text() << " " << sheet.flowUnit.text << " per " << sheet.timeUnit.text;
         const std::string beta = Solve(sheet, SolveFor::Beta);
-        EXPECT_NEAR(ValueOf(beta) / ValueOf(sheet.beta), 1, 0.6 * flowError + RoundingOf(beta))
-            << sheet.flow << " " << sheet.flowUnit.text << " per " << sheet.timeUnit.text;
+        EXPECT_NEAR(ValueOf(beta) / ValueOf(sheet.beta.text()), 1,
+                    0.6 * flowError + RoundingOf(beta))
+            << sheet.flow.text() << " " << sheet.flowUnit.text << " per " << sheet.timeUnit.text;
         return true;
     }
 
@@ -61,13 +64,14 @@ class RoundTripUnits : public SheetTest {
     int Sweep(const InputSheet& given) {
         int runs = 0;
         InputSheet sheet = given;
-        for (const FlowUnit& flowUnit : FlowUnitsOf(sheet.fluidType).units) {
+        for (const FlowUnit& flowUnit : FlowUnitsOf(sheet.fluid).units) {
             for (const Unit& timeUnit : kTimeUnits) {
                 SelectFlow(sheet, flowUnit.text, timeUnit.text);
                 for (const Unit& deltaPUnit : kDeltaPUnits) {
                     sheet.deltaPUnit = deltaPUnit;
                     for (const float inches : {10.0F, 60.0F}) {
-                        sheet.deltaP = module.FormatEntry(inches / deltaPUnit.factor);
+                        sheet.deltaP = {module.FormatEntry(inches / deltaPUnit.factor),
+                                        module.locale()};
                         for (const char* pipe : {"0.824", "4.026", "23.250"}) {
                             sheet.pipeDiameter = pipe;
                             for (const char* beta : {"0.2", "0.5", "0.72"}) {
@@ -94,7 +98,7 @@ TEST_F(RoundTripUnits, Steam) {
     for (const char* pressure : {"5", "100", "600"}) {
         InputSheet sheet = SteamSheet();
         sheet.pf = pressure;
-        sheet.density = CalcSteamDensity(sheet, module).density;
+        sheet.density = {SteamDensityTextOf(sheet, module).density, module.locale()};
         EXPECT_GT(Sweep(sheet), 1200);  // of 2 x 4 x 9 x 18
     }
 }
@@ -107,7 +111,7 @@ TEST_F(RoundTripUnits, GasWithEveryCorrectionAndPressureUnit) {
             InputSheet sheet = GasSheet();
             sheet.pressUnit = pressUnit;
             sheet.absolutePressure = true;
-            sheet.pf = module.FormatEntry(150.0F / pressUnit.factor);
+            sheet.pf = {module.FormatEntry(150.0F / pressUnit.factor), module.locale()};
             sheet.gasSGb = "0.65";
             sheet.degC = true;
             sheet.tf = "-5";

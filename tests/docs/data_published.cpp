@@ -4,7 +4,7 @@
 //   example NAME VALUE                     water-like fluid through 50 mm in 73.66 mm, 17 kPa, kg/s
 //   annex TAPS BETA RE PUBLISHED OURS      discharge coefficients of ISO 5167-2:2003
 //   if97 WHAT PUBLISHED OURS               the release's own verification values
-#include "app/sheet/solve_sheet.h"
+#include "app/sheet/derived_densities.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
 #include "tests/docs/data_lines.h"
@@ -66,12 +66,10 @@ double ExampleFlow(iso5167::TapSpacing taps, double expansibility) {
 
 // The same run as typed into the window.
 std::string ExampleInTheWindow() {
-    testing::RecordingPlatform platform;
-    const Module1 module(platform, testing::kUnitedStates);
     InputSheet sheet;
-    sheet.fluidType = "L";
+    sheet.fluid = tarvix::Fluid::Liquid;
     sheet.mode = SolveFor::FlowRate;
-    const FlowUnit& kilograms = FlowUnitsOf("L").units[7];
+    const FlowUnit& kilograms = FlowUnitsOf(tarvix::Fluid::Liquid).units[7];
     sheet.flowUnit = {kilograms.text, kilograms.factor};
     sheet.flowKind = kilograms.kind;
     sheet.timeUnit = kTimeUnits[3];  // a second
@@ -80,9 +78,9 @@ std::string ExampleInTheWindow() {
     sheet.densityUnit = kDensityUnits[1];
     sheet.sgCalculated = true;
     sheet.density = "999.1";
-    sheet.sgf = CalcSGf(sheet.density, sheet.densityUnit, module);
+    sheet.sgf = Entry(FlowingGravityText(sheet.density, sheet.densityUnit, testing::kUnitedStates));
     sheet.pipeDiameter =
-        UserEnteredPipeOf(kExampleMm, kLengthUnits[1], testing::kUnitedStates)->diameterText;
+        Entry(UserEnteredPipeOf(kExampleMm, kLengthUnits[1], testing::kUnitedStates)->diameterText);
     sheet.deltaP = "17";
     sheet.beta = "0.67879";  // 50 mm / 73.66 mm
     return ShownResult(sheet).value();

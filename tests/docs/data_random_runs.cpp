@@ -34,9 +34,11 @@ constexpr NamedMode kModes[] = {
     {"flow", SolveFor::FlowRate}, {"dp", SolveFor::DiffPressure}, {"beta", SolveFor::Beta}};
 struct NamedFluid {
     const char* name;
-    const char* code;
+    tarvix::Fluid code;
 };
-constexpr NamedFluid kFluids[] = {{"liquid", "L"}, {"gas", "G"}, {"steam", "S"}};
+constexpr NamedFluid kFluids[] = {{"liquid", tarvix::Fluid::Liquid},
+                                  {"gas", tarvix::Fluid::Gas},
+                                  {"steam", tarvix::Fluid::Steam}};
 
 const UnitFactors& Units() {
     static const UnitFactors units(TARVIX_UNITS);
@@ -66,9 +68,9 @@ void PrintRuns(const NamedFluid& fluid, const NamedMode& mode, std::uint32_t see
 
 // A run of each fluid whose flow has 6 digits or more, in the first unit of each list but that of
 // the differential pressure, which is inches of water.
-InputSheet PlainSheet(const char* fluid) {
+InputSheet PlainSheet(tarvix::Fluid fluid) {
     InputSheet sheet;
-    sheet.fluidType = fluid;
+    sheet.fluid = fluid;
     sheet.flowUnit = {FlowUnitsOf(fluid).units[0].text, FlowUnitsOf(fluid).units[0].factor};
     sheet.flowKind = FlowUnitsOf(fluid).units[0].kind;
     sheet.timeUnit = kTimeUnits[2];  // a day
@@ -95,12 +97,12 @@ InputSheet PlainSheet(const char* fluid) {
 
 // The largest difference of all modes, for this fluid, when `change` has put the sheet's entry of a
 // list into another of its units.
-double LargestOfModes(const char* fluid, const std::function<void(InputSheet&)>& change) {
+double LargestOfModes(tarvix::Fluid fluid, const std::function<void(InputSheet&)>& change) {
     double largest = 0;
     for (const NamedMode& mode : kModes) {
         InputSheet sheet = PlainSheet(fluid);
         change(sheet);
-        sheet.flow = NumberText(ExactResult(sheet, SolveFor::FlowRate, Units()), 9);
+        sheet.flow = Entry(NumberText(ExactResult(sheet, SolveFor::FlowRate, Units()), 9));
         sheet.mode = mode.mode;
         const double wanted = ExactResult(sheet, Units());
         const auto text = ShownResult(sheet);
@@ -119,7 +121,7 @@ std::string InUnit(const std::string& entry, double factor) {
 
 // Against the run in the first unit: an entry's unit must not change the quantity that it stands
 // for.
-double FromFirstUnit(const char* fluid, const std::function<void(InputSheet&)>& change) {
+double FromFirstUnit(tarvix::Fluid fluid, const std::function<void(InputSheet&)>& change) {
     double largest = LargestOfModes(fluid, change);
     InputSheet first = PlainSheet(fluid);
     InputSheet other = first;
@@ -156,19 +158,19 @@ void PrintInvariances() {
     const std::span<const NamedFluid> all(kFluids);
     PrintInvariance("pressure", all.subspan(1), kPressUnits,
                     [](InputSheet& sheet, const Unit& unit) {
-                        sheet.pf = InUnit(sheet.pf, Units().Of("press", unit.text));
+                        sheet.pf = Entry(InUnit(sheet.pf.text(), Units().Of("press", unit.text)));
                         sheet.pressUnit = unit;
                     });
-    PrintInvariance("differential pressure", all, kDeltaPUnits,
-                    [](InputSheet& sheet, const Unit& unit) {
-                        sheet.deltaP = InUnit(sheet.deltaP, Units().Of("deltaP", unit.text));
-                        sheet.deltaPUnit = unit;
-                    });
+    PrintInvariance(
+        "differential pressure", all, kDeltaPUnits, [](InputSheet& sheet, const Unit& unit) {
+            sheet.deltaP = Entry(InUnit(sheet.deltaP.text(), Units().Of("deltaP", unit.text)));
+            sheet.deltaPUnit = unit;
+        });
     PrintInvariance("density", all.subspan(1), kDensityUnits,
                     [](InputSheet& sheet, const Unit& unit) {
                         const double factor = Units().Of("density", unit.text);
-                        sheet.zf = InUnit(sheet.zf, factor);
-                        sheet.density = InUnit(sheet.density, factor);
+                        sheet.zf = Entry(InUnit(sheet.zf.text(), factor));
+                        sheet.density = Entry(InUnit(sheet.density.text(), factor));
                         sheet.zfDensityUnit = unit;
                         sheet.densityUnit = unit;
                     });
@@ -185,10 +187,10 @@ void PrintInvariances() {
 }
 
 Outcome SolveTrip(const NamedFluid& fluid, const MeteringRun& run, float psia, float density) {
-    if (fluid.code[0] == 'L') {
+    if (fluid.code == tarvix::Fluid::Liquid) {
         return SolveLiquid(run, {density, density});
     }
-    if (fluid.code[0] == 'S') {
+    if (fluid.code == tarvix::Fluid::Steam) {
         return SolveSteam(run, {psia, density});
     }
     return SolveGas(run, {.pressurePsia = psia,

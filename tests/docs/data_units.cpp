@@ -131,9 +131,11 @@ void PrintUnits() {
     PrintList("differential pressure", kDeltaPUnits, kDiffPressures, kPascalPerInchWater,
               Enters::Root);
     PrintList("density", kDensityUnits, kDensities, 1, Enters::Root);
-    PrintList("flow of liquid", FlowUnitsOf("L").units, kLiquidFlows, 1, Enters::Flow);
-    PrintList("flow of gas", FlowUnitsOf("G").units, kGasFlows, 1, Enters::Flow);
-    PrintList("flow of steam", FlowUnitsOf("S").units, kSteamFlows, 1, Enters::Flow);
+    PrintList("flow of liquid", FlowUnitsOf(tarvix::Fluid::Liquid).units, kLiquidFlows, 1,
+              Enters::Flow);
+    PrintList("flow of gas", FlowUnitsOf(tarvix::Fluid::Gas).units, kGasFlows, 1, Enters::Flow);
+    PrintList("flow of steam", FlowUnitsOf(tarvix::Fluid::Steam).units, kSteamFlows, 1,
+              Enters::Flow);
     // A flow is shown per time unit: a factor too large shows a flow too large.
     for (const Unit& unit : kTimeUnits) {
         const double ratio = double{unit.factor} / PlainOf(kTimes, unit.text);

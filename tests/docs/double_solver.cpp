@@ -16,30 +16,38 @@ constexpr double kAtmospherePsi = 14.7;
 constexpr double kRankine = 459.67;
 constexpr double kBaseTempR = 60 + kRankine;
 
+// The letter by which the copy of the tables names a fluid.
+std::string LetterOf(tarvix::Fluid fluid) {
+    if (fluid == tarvix::Fluid::Liquid) {
+        return "L";
+    }
+    return fluid == tarvix::Fluid::Gas ? "G" : "S";
+}
+
 struct Meter {
     testing::ReferenceMeter meter;
     double flowPerUnit;  // the calculation unit's flow in one of the shown unit
 };
 
 double PressurePsia(const InputSheet& sheet, const UnitFactors& units) {
-    const double psi = ValueOfText(sheet.pf) * units.Of("press", sheet.pressUnit.text);
+    const double psi = ValueOfText(sheet.pf.text()) * units.Of("press", sheet.pressUnit.text);
     return sheet.absolutePressure ? psi : psi + kAtmospherePsi;
 }
 
 testing::ReferenceMeter GasMeter(const InputSheet& sheet, const UnitFactors& units,
                                  double diameterIn) {
     const double p = PressurePsia(sheet, units);
-    const double typed = ValueOfText(sheet.tf);
+    const double typed = ValueOfText(sheet.tf.text());
     const double tempR = (sheet.degC ? 1.8 * typed + 32 : typed) + kRankine;
-    const double gravity = sheet.gasSGb.empty() ? 1 : ValueOfText(sheet.gasSGb);
+    const double gravity = sheet.gasSGb.empty() ? 1 : ValueOfText(sheet.gasSGb.text());
     const double ideal = 2.698825 * p * gravity / tempR;
     double density = ideal;
     if (sheet.compCorrection == CompCorrection::Zf) {
-        density = ideal / ValueOfText(sheet.zf);
+        density = ideal / ValueOfText(sheet.zf.text());
     } else if (sheet.compCorrection == CompCorrection::Density) {
-        density = ValueOfText(sheet.zf) * units.Of("density", sheet.zfDensityUnit.text);
+        density = ValueOfText(sheet.zf.text()) * units.Of("density", sheet.zfDensityUnit.text);
     }
-    if (sheet.flowKind == "M") {
+    if (sheet.flowKind == FlowKind::Mass) {
         return {358.927 / (39.6619322 / 519.67), std::sqrt(density), p, diameterIn};
     }
     const double zf = ideal / density;
@@ -48,17 +56,19 @@ testing::ReferenceMeter GasMeter(const InputSheet& sheet, const UnitFactors& uni
 }
 
 Meter MeterOf(const InputSheet& sheet, const UnitFactors& units) {
-    const double diameterIn = ValueOfText(sheet.pipeDiameter);
-    const double flowFactor = units.Of("flow " + sheet.fluidType, sheet.flowUnit.text) /
+    const double diameterIn = ValueOfText(sheet.pipeDiameter.text());
+    const double flowFactor = units.Of("flow " + LetterOf(sheet.fluid), sheet.flowUnit.text) /
                               units.Of("time", sheet.timeUnit.text);
-    if (sheet.fluidType == "L") {
-        const double base = sheet.flowKind == "M" ? 1 : ValueOfText(sheet.sgb);
-        return {{5.66646 / base, std::sqrt(ValueOfText(sheet.sgf)), 0, diameterIn}, flowFactor};
+    if (sheet.fluid == tarvix::Fluid::Liquid) {
+        const double base = sheet.flowKind == FlowKind::Mass ? 1 : ValueOfText(sheet.sgb.text());
+        return {{5.66646 / base, std::sqrt(ValueOfText(sheet.sgf.text())), 0, diameterIn},
+                flowFactor};
     }
-    if (sheet.fluidType == "G") {
+    if (sheet.fluid == tarvix::Fluid::Gas) {
         return {GasMeter(sheet, units, diameterIn), flowFactor * 60};
     }
-    const double density = ValueOfText(sheet.density) * units.Of("density", sheet.densityUnit.text);
+    const double density =
+        ValueOfText(sheet.density.text()) * units.Of("density", sheet.densityUnit.text);
     return {{358.927, std::sqrt(density), PressurePsia(sheet, units), diameterIn}, flowFactor * 60};
 }
 
@@ -98,13 +108,13 @@ double UnitFactors::Of(const std::string& list, std::string_view unit) const {
 double ExactResult(const InputSheet& sheet, const UnitFactors& units) {
     const Meter m = MeterOf(sheet, units);
     const double inches = units.Of("deltaP", sheet.deltaPUnit.text);
-    const auto flow = [&] { return ValueOfText(sheet.flow) * m.flowPerUnit; };
-    const auto h = [&] { return ValueOfText(sheet.deltaP) * inches; };
+    const auto flow = [&] { return ValueOfText(sheet.flow.text()) * m.flowPerUnit; };
+    const auto h = [&] { return ValueOfText(sheet.deltaP.text()) * inches; };
     switch (sheet.mode.value()) {
         case SolveFor::FlowRate:
-            return m.meter.Flow(ValueOfText(sheet.beta), h()) / m.flowPerUnit;
+            return m.meter.Flow(ValueOfText(sheet.beta.text()), h()) / m.flowPerUnit;
         case SolveFor::DiffPressure:
-            return m.meter.DiffPressure(flow(), ValueOfText(sheet.beta)) / inches;
+            return m.meter.DiffPressure(flow(), ValueOfText(sheet.beta.text())) / inches;
         case SolveFor::Beta:
             break;
     }

@@ -11,11 +11,11 @@ namespace {
 
 class DoubleSolver : public ::testing::Test {
   protected:
-    static InputSheet SheetOf(const char* fluid, SolveFor mode) {
+    static InputSheet SheetOf(tarvix::Fluid fluid, SolveFor mode) {
         InputSheet sheet;
-        sheet.fluidType = fluid;
+        sheet.fluid = fluid;
         sheet.mode = mode;
-        sheet.flowKind = "V";
+        sheet.flowKind = FlowKind::Volume;
         sheet.deltaPUnit = {"Inches Water", 0};  // the solver takes no factor from the sheet
         sheet.pressUnit = {"PSI", 0};
         sheet.densityUnit = {"lb/cubic foot", 0};
@@ -31,7 +31,7 @@ class DoubleSolver : public ::testing::Test {
 }  // namespace
 
 TEST_F(DoubleSolver, LiquidExample) {
-    InputSheet sheet = SheetOf("L", SolveFor::FlowRate);
+    InputSheet sheet = SheetOf(tarvix::Fluid::Liquid, SolveFor::FlowRate);
     sheet.flowUnit = {"Gallons", 0};
     sheet.timeUnit = {"Minute", 0};
     sheet.sgf = "1";
@@ -45,7 +45,7 @@ TEST_F(DoubleSolver, LiquidExample) {
 }
 
 TEST_F(DoubleSolver, GasExample) {
-    InputSheet sheet = SheetOf("G", SolveFor::FlowRate);
+    InputSheet sheet = SheetOf(tarvix::Fluid::Gas, SolveFor::FlowRate);
     sheet.flowUnit = {"Standard Cubic Feet", 0};
     sheet.timeUnit = {"Day", 0};
     sheet.pipeDiameter = "2.067";
@@ -61,8 +61,8 @@ TEST_F(DoubleSolver, GasExample) {
 }
 
 TEST_F(DoubleSolver, SteamExample) {
-    InputSheet sheet = SheetOf("S", SolveFor::FlowRate);
-    sheet.flowKind = "M";
+    InputSheet sheet = SheetOf(tarvix::Fluid::Steam, SolveFor::FlowRate);
+    sheet.flowKind = FlowKind::Mass;
     sheet.flowUnit = {"Pounds", 0};
     sheet.timeUnit = {"Hour", 0};
     sheet.pf = "100";

@@ -1,5 +1,6 @@
 // What docs/method.md says of entries and messages against the program's checks.
 #include "app/sheet/data_checks.h"
+#include "app/sheet/derived_densities.h"
 #include "app/sheet/solve_sheet.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
@@ -21,34 +22,33 @@ constexpr const char* kMethod = "method.md";
 std::string MessageOf(const InputSheet& sheet) {
     testing::RecordingPlatform platform;
     Module1 module(platform, testing::kUnitedStates);
-    CheckInputs(sheet, module);
-    return module.MsgText;
+    return CheckInputs(sheet, {}, module).message;
 }
 
 std::string SteamTableMessageOf(const InputSheet& sheet) {
     testing::RecordingPlatform platform;
     const Module1 module(platform, testing::kUnitedStates);
-    return CalcSteamDensity(sheet, module).message;
+    return SteamDensityTextOf(sheet, module).message;
 }
 
 // A run of which nothing has been entered yet.
-InputSheet EmptyRun(const char* fluidType) {
+InputSheet EmptyRun(Fluid fluid) {
     InputSheet sheet;
-    sheet.fluidType = fluidType;
+    sheet.fluid = fluid;
     sheet.mode = SolveFor::FlowRate;
-    sheet.flowKind = kVolumeKind;
+    sheet.flowKind = FlowKind::Volume;
     sheet.pressUnit = kPressUnits[0];
     return sheet;
 }
 
 InputSheet EmptyLiquid() {
-    InputSheet sheet = EmptyRun("L");
+    InputSheet sheet = EmptyRun(Fluid::Liquid);
     sheet.sgbVisible = true;
     return sheet;
 }
 
 InputSheet EmptyGas() {
-    InputSheet sheet = EmptyRun("G");
+    InputSheet sheet = EmptyRun(Fluid::Gas);
     sheet.gasSGbVisible = true;
     return sheet;
 }
@@ -80,7 +80,7 @@ InputSheet GoodGas() {
 }
 
 InputSheet SteamFromTable(const char* pressure) {
-    InputSheet sheet = EmptyRun("S");
+    InputSheet sheet = EmptyRun(Fluid::Steam);
     sheet.steamFromTable = true;
     sheet.pf = pressure;
     sheet.deltaP = "100";
@@ -143,7 +143,7 @@ TEST(MethodEntries, RequiredEntries) {
     liquid.sgCalculated = true;
     expect("Liquid, gravity from density", liquid);
     // The window hides the base gravity of a mass flow.
-    expect("Liquid, mass flow", EmptyRun("L"));
+    expect("Liquid, mass flow", EmptyRun(Fluid::Liquid));
 
     expect("Gas", EmptyGas());
     expect("Gas, correction by Zf", EmptyGasWith(CompCorrection::Zf));
@@ -152,7 +152,7 @@ TEST(MethodEntries, RequiredEntries) {
     gas.gasSGbVisible = false;
     expect("Gas, correction by density, mass flow", gas);
 
-    InputSheet steam = EmptyRun("S");
+    InputSheet steam = EmptyRun(Fluid::Steam);
     expect("Steam", steam);
     steam.steamFromTable = true;
     expect("Steam, density from the table", steam);

@@ -1,6 +1,7 @@
 // The worked examples of docs/method.md: every figure against an independent calculation in double
 // precision with the document's own constants, and against the program.
 #include "app/sheet/data_checks.h"
+#include "app/sheet/derived_densities.h"
 #include "app/sheet/solve_sheet.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
@@ -46,8 +47,9 @@ class MethodExamples : public ::testing::Test {
 std::string Shown(const InputSheet& sheet) {
     testing::RecordingPlatform platform;
     Module1 module(platform, testing::kUnitedStates);
-    EXPECT_EQ(CheckInputs(sheet, module), kDataGood) << module.MsgText;
-    const CalculationResult result = CalculateResult(sheet, module);
+    const CheckResult check = CheckInputs(sheet, {}, module);
+    EXPECT_EQ(check.message, "");
+    const CalculationResult result = CalculateResult(sheet, check.working, module);
     EXPECT_EQ(result.message, "");
     return result.text;
 }
@@ -65,10 +67,10 @@ void ExpectFigure(const FigureTable& table, std::string_view symbol, double inde
     }
 }
 
-InputSheet SheetFor(std::string fluidType, SolveFor mode, const FlowUnit& flow, const Unit& time,
-                    std::string diameter) {
+InputSheet SheetFor(Fluid fluid, SolveFor mode, const FlowUnit& flow, const Unit& time,
+                    const char* diameter) {
     InputSheet sheet;
-    sheet.fluidType = std::move(fluidType);
+    sheet.fluid = fluid;
     sheet.mode = mode;
     sheet.flowUnit = {flow.text, flow.factor};
     sheet.flowKind = flow.kind;
@@ -77,12 +79,13 @@ InputSheet SheetFor(std::string fluidType, SolveFor mode, const FlowUnit& flow, 
     sheet.pressUnit = kPressUnits[0];
     sheet.densityUnit = kDensityUnits[0];
     sheet.zfDensityUnit = kDensityUnits[0];
-    sheet.pipeDiameter = std::move(diameter);
+    sheet.pipeDiameter = diameter;
     return sheet;
 }
 
 InputSheet LiquidSheet(SolveFor mode) {
-    InputSheet sheet = SheetFor("L", mode, FlowUnitsOf("L").units[0], kTimeUnits[0], "4.026");
+    InputSheet sheet =
+        SheetFor(Fluid::Liquid, mode, FlowUnitsOf(Fluid::Liquid).units[0], kTimeUnits[0], "4.026");
     sheet.sgf = "1";
     sheet.sgb = "1";
     sheet.sgbVisible = true;
@@ -90,7 +93,8 @@ InputSheet LiquidSheet(SolveFor mode) {
 }
 
 InputSheet GasSheet(SolveFor mode) {
-    InputSheet sheet = SheetFor("G", mode, FlowUnitsOf("G").units[0], kTimeUnits[2], "2.067");
+    InputSheet sheet =
+        SheetFor(Fluid::Gas, mode, FlowUnitsOf(Fluid::Gas).units[0], kTimeUnits[2], "2.067");
     sheet.tf = "60";
     sheet.pf = "100";
     sheet.gasSGb = "1";
@@ -99,12 +103,13 @@ InputSheet GasSheet(SolveFor mode) {
 }
 
 InputSheet SteamSheet(SolveFor mode) {
-    InputSheet sheet = SheetFor("S", mode, FlowUnitsOf("S").units[0], kTimeUnits[1], "4.026");
+    InputSheet sheet =
+        SheetFor(Fluid::Steam, mode, FlowUnitsOf(Fluid::Steam).units[0], kTimeUnits[1], "4.026");
     sheet.pf = "100";
     sheet.steamFromTable = true;
     testing::RecordingPlatform platform;
     const Module1 module(platform, testing::kUnitedStates);
-    sheet.density = CalcSteamDensity(sheet, module).density;
+    sheet.density = {SteamDensityTextOf(sheet, module).density, module.locale()};
     return sheet;
 }
 
@@ -138,7 +143,7 @@ TEST_F(MethodExamples, Liquid) {
     run.diffPressInH2O = 100.0F;
     const Outcome solved = SolveLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
 
-    ExpectFigure(t, "Ff", 1, FlowUnitsOf("L").units[0].factor / kTimeUnits[0].factor);
+    ExpectFigure(t, "Ff", 1, FlowUnitsOf(Fluid::Liquid).units[0].factor / kTimeUnits[0].factor);
     ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
     ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
     ExpectFigure(t, "√(h Gf)", root);
@@ -171,7 +176,7 @@ TEST_F(MethodExamples, LiquidBack) {
     ExpectFigure(t, "h", h, solved.value);
 
     InputSheet sheet = LiquidSheet(SolveFor::Beta);
-    sheet.flow = t.Text("Q");
+    sheet.flow = {t.Text("Q"), testing::kUnitedStates};
     sheet.deltaP = "100";
     const std::string betaText = Shown(sheet);
     EXPECT_EQ(t.Text("β shown"), betaText);
@@ -183,7 +188,7 @@ TEST_F(MethodExamples, LiquidBack) {
     EXPECT_EQ(t.Text("bore shown"), FormatNumber(*bore, 3, testing::kUnitedStates, Grouping::Off));
 
     sheet = LiquidSheet(SolveFor::DiffPressure);
-    sheet.flow = t.Text("Q");
+    sheet.flow = {t.Text("Q"), testing::kUnitedStates};
     sheet.beta = "0.5";
     EXPECT_EQ(t.Text("h shown"), Shown(sheet));
 }
@@ -313,7 +318,7 @@ TEST_F(MethodExamples, Steam) {
     ExpectFigure(t, "Q", q, solved.value);
 
     InputSheet sheet = SteamSheet(SolveFor::FlowRate);
-    EXPECT_EQ(t.Text("ρ"), sheet.density);
+    EXPECT_EQ(t.Text("ρ"), sheet.density.text());
     sheet.deltaP = "100";
     sheet.beta = "0.5";
     EXPECT_EQ(t.Text("shown"), Shown(sheet));
@@ -326,7 +331,7 @@ TEST_F(MethodExamples, SteamBack) {
     ExpectFigure(t, "T", target);
 
     InputSheet sheet = SteamSheet(SolveFor::Beta);
-    sheet.flow = t.Text("Q");
+    sheet.flow = {t.Text("Q"), testing::kUnitedStates};
     sheet.deltaP = "100";
     EXPECT_EQ(t.Text("β shown"), Shown(sheet));
 

@@ -38,7 +38,7 @@ void ExpectKinds(const char* name, std::span<const FlowUnit> units) {
     const FigureTable table = ReadFigures(kMethod, name);
     for (const FlowUnit& unit : units) {
         EXPECT_EQ(table.Text(WithoutTrailingBlank(unit.text), 2),
-                  unit.kind == kMassKind ? "mass" : "volume")
+                  unit.kind == FlowKind::Mass ? "mass" : "volume")
             << unit.text;
     }
 }
@@ -73,15 +73,15 @@ TEST(MethodTables, UnitFactorsAreTheProgramsOwn) {
     ExpectUnits("density", std::span<const Unit>(kDensityUnits));
     ExpectUnits("length", std::span<const Unit>(kLengthUnits));
     ExpectUnits("time", std::span<const Unit>(kTimeUnits));
-    ExpectUnits("liquid flow", FlowUnitsOf("L").units);
-    ExpectUnits("gas flow", FlowUnitsOf("G").units);
-    ExpectUnits("steam flow", FlowUnitsOf("S").units);
+    ExpectUnits("liquid flow", FlowUnitsOf(Fluid::Liquid).units);
+    ExpectUnits("gas flow", FlowUnitsOf(Fluid::Gas).units);
+    ExpectUnits("steam flow", FlowUnitsOf(Fluid::Steam).units);
 }
 
 TEST(MethodTables, FlowUnitKindsAreTheProgramsOwn) {
-    ExpectKinds("liquid flow", FlowUnitsOf("L").units);
-    ExpectKinds("gas flow", FlowUnitsOf("G").units);
-    ExpectKinds("steam flow", FlowUnitsOf("S").units);
+    ExpectKinds("liquid flow", FlowUnitsOf(Fluid::Liquid).units);
+    ExpectKinds("gas flow", FlowUnitsOf(Fluid::Gas).units);
+    ExpectKinds("steam flow", FlowUnitsOf(Fluid::Steam).units);
 }
 
 // What the rounding of divisor and quotient to single adds.
@@ -123,11 +123,11 @@ TEST(MethodTables, SteamTableIsTheProgramsOwn) {
 }
 
 TEST(MethodTables, FiguresKeptOnPurpose) {
-    const auto liquid = FlowUnitsOf("L").units;
+    const auto liquid = FlowUnitsOf(Fluid::Liquid).units;
     ExpectKept("Metric Tons of a liquid, gallons", double{FactorOf(liquid, "Metric Tons")},
                1000 * double{FactorOf(liquid, "Kilograms")});
     ExpectKept("Kilograms of a gas, standard cubic feet (from 13.1)",
-               double{FactorOf(FlowUnitsOf("G").units, "Kilograms")}, 13.10249 / 0.4535924);
+               double{FactorOf(FlowUnitsOf(Fluid::Gas).units, "Kilograms")}, 13.10249 / 0.4535924);
     ExpectKept("Second, minutes", double{kTimeUnits[3].factor}, 1.0 / 60);
     ExpectKept("Steam at 68 psi gauge, lb per cubic foot", double{SteamDensityAt(68)},
                Midway(67, 69));

@@ -1,6 +1,7 @@
 #include "tests/docs/random_sheets.h"
 
 #include "app/sheet/data_checks.h"
+#include "app/sheet/derived_densities.h"
 #include "app/sheet/solve_sheet.h"
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
@@ -33,10 +34,11 @@ std::string NumberText(double value, int digits) {
 std::optional<std::string> ShownResult(const InputSheet& sheet) {
     testing::RecordingPlatform platform;
     Module1 module(platform, testing::kUnitedStates);
-    if (CheckInputs(sheet, module) != kDataGood) {
+    const CheckResult check = CheckInputs(sheet, {}, module);
+    if (check.status() != kDataGood) {
         return std::nullopt;
     }
-    const CalculationResult result = CalculateResult(sheet, module);
+    const CalculationResult result = CalculateResult(sheet, check.working, module);
     return result.text.empty() ? std::nullopt : std::optional(result.text);
 }
 
@@ -62,7 +64,7 @@ std::size_t RandomSheets::Pick(std::size_t count) {
 }
 
 void RandomSheets::PickUnits(InputSheet& sheet) {
-    const auto flowUnits = FlowUnitsOf(sheet.fluidType).units;
+    const auto flowUnits = FlowUnitsOf(sheet.fluid).units;
     const FlowUnit& flow = flowUnits[Pick(flowUnits.size())];
     sheet.flowUnit = {flow.text, flow.factor};
     sheet.flowKind = flow.kind;
@@ -75,38 +77,38 @@ void RandomSheets::PickUnits(InputSheet& sheet) {
 
 void RandomSheets::PickPipe(InputSheet& sheet) {
     const auto schedules = SchedulesOf(kNominalSizes[Pick(kNominalSizes.size())].value);
-    sheet.pipeDiameter = schedules[Pick(schedules.size())].insideDiameter;
+    sheet.pipeDiameter = Entry(std::string(schedules[Pick(schedules.size())].insideDiameter));
 }
 
 void RandomSheets::FillLiquid(InputSheet& sheet) {
-    sheet.sgbVisible = sheet.flowKind == kVolumeKind;
-    sheet.sgf = NumberText(Between(0.5, 1.9), kEntryDigits);
-    sheet.sgb = NumberText(Between(0.5, 1.9), kEntryDigits);
+    sheet.sgbVisible = sheet.flowKind == FlowKind::Volume;
+    sheet.sgf = Entry(NumberText(Between(0.5, 1.9), kEntryDigits));
+    sheet.sgb = Entry(NumberText(Between(0.5, 1.9), kEntryDigits));
 }
 
 void RandomSheets::FillPressure(InputSheet& sheet) {
     psia_ = LogBetween(20, 1500);
     sheet.absolutePressure = Coin();
     const double entered = sheet.absolutePressure ? psia_ : psia_ - 14.7;
-    sheet.pf = NumberText(entered / units_.Of("press", sheet.pressUnit.text), kEntryDigits);
+    sheet.pf = Entry(NumberText(entered / units_.Of("press", sheet.pressUnit.text), kEntryDigits));
 }
 
 void RandomSheets::FillGas(InputSheet& sheet) {
     FillPressure(sheet);
     sheet.degC = Coin();
-    sheet.tf = NumberText(Between(-40, 200), kEntryDigits);
+    sheet.tf = Entry(NumberText(Between(-40, 200), kEntryDigits));
     const std::size_t correction = Pick(3);
-    sheet.gasSGb = NumberText(Between(0.55, 1.6), kEntryDigits);
+    sheet.gasSGb = Entry(NumberText(Between(0.55, 1.6), kEntryDigits));
     sheet.gasSGbVisible = true;
     sheet.zfVisible = correction != 0;
     if (correction == 1) {
         sheet.compCorrection = CompCorrection::Zf;
-        sheet.zf = NumberText(Between(0.7, 1.2), kEntryDigits);
+        sheet.zf = Entry(NumberText(Between(0.7, 1.2), kEntryDigits));
     } else if (correction == 2) {
         sheet.compCorrection = CompCorrection::Density;
         const double density = 0.005 * psia_ * Between(0.5, 2);
-        sheet.zf =
-            NumberText(density / units_.Of("density", sheet.zfDensityUnit.text), kEntryDigits);
+        sheet.zf = Entry(
+            NumberText(density / units_.Of("density", sheet.zfDensityUnit.text), kEntryDigits));
     }
 }
 
@@ -116,35 +118,35 @@ void RandomSheets::FillSteam(InputSheet& sheet) {
     if (sheet.steamFromTable) {
         testing::RecordingPlatform platform;
         const Module1 module(platform, testing::kUnitedStates);
-        sheet.density = CalcSteamDensity(sheet, module).density;
+        sheet.density = Entry(SteamDensityTextOf(sheet, module).density);
     } else {
         const double density = 0.0023 * psia_ * Between(0.5, 1);
         sheet.density =
-            NumberText(density / units_.Of("density", sheet.densityUnit.text), kEntryDigits);
+            Entry(NumberText(density / units_.Of("density", sheet.densityUnit.text), kEntryDigits));
     }
 }
 
-InputSheet RandomSheets::Next(const std::string& fluid, SolveFor mode) {
+InputSheet RandomSheets::Next(tarvix::Fluid fluid, SolveFor mode) {
     InputSheet sheet;
-    sheet.fluidType = fluid;
+    sheet.fluid = fluid;
     sheet.mode = mode;
     psia_ = 0;
     PickUnits(sheet);
     PickPipe(sheet);
-    if (fluid == "L") {
+    if (fluid == tarvix::Fluid::Liquid) {
         FillLiquid(sheet);
-    } else if (fluid == "G") {
+    } else if (fluid == tarvix::Fluid::Gas) {
         FillGas(sheet);
     } else {
         FillSteam(sheet);
     }
     const double most = psia_ == 0 ? 400 : std::min(400.0, 0.3 * psia_ * kInchesOfWaterPerPsi);
     const double h = LogBetween(1, most);
-    sheet.beta = NumberText(Between(0.1, 0.75), kEntryDigits);
-    sheet.deltaP = NumberText(h / units_.Of("deltaP", sheet.deltaPUnit.text), kEntryDigits);
+    sheet.beta = Entry(NumberText(Between(0.1, 0.75), kEntryDigits));
+    sheet.deltaP = Entry(NumberText(h / units_.Of("deltaP", sheet.deltaPUnit.text), kEntryDigits));
     if (mode != SolveFor::FlowRate) {
-        sheet.flow = NumberText(ExactResult(sheet, SolveFor::FlowRate, units_), kFlowDigits);
-        (mode == SolveFor::Beta ? sheet.beta : sheet.deltaP).clear();
+        sheet.flow = Entry(NumberText(ExactResult(sheet, SolveFor::FlowRate, units_), kFlowDigits));
+        (mode == SolveFor::Beta ? sheet.beta : sheet.deltaP) = {};
     }
     return sheet;
 }

@@ -8,11 +8,17 @@
 #include <optional>
 #include <random>
 #include <string>
+#include <utility>
 
 namespace tarvix::accuracy {
 
 // `value` with so many significant digits, without an exponent.
 std::string NumberText(double value, int digits);
+
+// A text as a sheet holds it.
+inline EnteredNumber Entry(std::string text) {
+    return {std::move(text), NumberLocale{}};
+}
 
 // What the program shows for the sheet; nothing when it shows no result.
 std::optional<std::string> ShownResult(const InputSheet& sheet);
@@ -28,7 +34,7 @@ class RandomSheets {
     // inches of water, of a gas or steam at most 0.3 of the absolute pressure, which is 20 to 1500
     // psi. The quantity of the mode is empty; a flow that is an entry is the exact one, in 7
     // digits.
-    InputSheet Next(const std::string& fluid, SolveFor mode);
+    InputSheet Next(tarvix::Fluid fluid, SolveFor mode);
 
   private:
     double Between(double low, double high);

@@ -29,7 +29,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     tarvix::fuzz::FuzzPlatform platform;
     tarvix::Module1 module(platform, locale);
     const tarvix::ReportSheet sheet = tarvix::fuzz::AnyReportSheet(data, locale);
-    module.FluidType = sheet.inputs.fluidType;
     module.CustLine1 = data.ConsumeRandomLengthString(80);
     module.CustLine2 = data.ConsumeRandomLengthString(80);
     module.TagText = data.ConsumeRandomLengthString(80);

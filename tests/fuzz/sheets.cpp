@@ -16,9 +16,9 @@ const auto& Pick(FuzzedDataProvider& data, const List& list) {
 }  // namespace
 
 InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
-    const auto text = [&] { return AnyText(data, locale); };
+    const auto text = [&] { return EnteredNumber(AnyText(data, locale), locale); };
     InputSheet sheet;
-    sheet.fluidType = data.PickValueInArray({"L", "S", "G"});
+    sheet.fluid = data.PickValueInArray({Fluid::Liquid, Fluid::Steam, Fluid::Gas});
     sheet.mode =
         data.PickValueInArray({SolveFor::Beta, SolveFor::DiffPressure, SolveFor::FlowRate});
     sheet.flow = text();
@@ -31,7 +31,7 @@ InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
     sheet.sgf = text();
     sheet.gasSGb = text();
     sheet.zf = text();
-    const FlowUnit& flowUnit = Pick(data, FlowUnitsOf(sheet.fluidType).units);
+    const FlowUnit& flowUnit = Pick(data, FlowUnitsOf(sheet.fluid).units);
     sheet.flowUnit = {flowUnit.text, flowUnit.factor};
     sheet.flowKind = flowUnit.kind;
     sheet.timeUnit = Pick(data, kTimeUnits);
@@ -40,10 +40,11 @@ InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
     sheet.densityUnit = Pick(data, kDensityUnits);
     sheet.zfDensityUnit = Pick(data, kDensityUnits);
     // A pipe of the table, or the user's own.
-    sheet.pipeDiameter =
+    sheet.pipeDiameter = {
         data.ConsumeBool()
             ? std::string(Pick(data, SchedulesOf(Pick(data, kNominalSizes).value)).insideDiameter)
-            : FormatNumber(AnySingle(data), 3, locale, Grouping::Off);
+            : FormatNumber(AnySingle(data), 3, locale, Grouping::Off),
+        locale};
     sheet.sgCalculated = data.ConsumeBool();
     sheet.steamFromTable = data.ConsumeBool();
     sheet.absolutePressure = data.ConsumeBool();
@@ -52,7 +53,7 @@ InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
         data.PickValueInArray({CompCorrection::None, CompCorrection::Density, CompCorrection::Zf});
     sheet.sgbVisible = data.ConsumeBool();
     sheet.gasSGbVisible = data.ConsumeBool();
-    sheet.zfVisible = sheet.fluidType == "G" && sheet.compCorrection != CompCorrection::None;
+    sheet.zfVisible = sheet.fluid == Fluid::Gas && sheet.compCorrection != CompCorrection::None;
     sheet.activeField = static_cast<Field>(
         data.ConsumeIntegralInRange(static_cast<int>(Field::None), static_cast<int>(Field::Zf)));
     return sheet;
@@ -61,21 +62,21 @@ InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
 ReportSheet AnyReportSheet(FuzzedDataProvider& data, const NumberLocale& locale) {
     ReportSheet sheet;
     sheet.inputs = AnySheet(data, locale);
-    sheet.oriBoreDia = AnyText(data, locale);
+    sheet.oriBoreDia = {AnyText(data, locale), locale};
     sheet.oriBoreUnit = std::string(Pick(data, kLengthUnits).text);
     const Unit& pipeUnit = Pick(data, kLengthUnits);
     sheet.pipeIdUnit = std::string(pipeUnit.text);
-    sheet.pipeIdText =
-        data.ConsumeBool()
-            ? data.ConsumeRandomLengthString(60)
-            : ScheduleText(sheet.inputs.pipeDiameter, "Sch 40", pipeUnit, locale).value_or("");
+    sheet.pipeIdText = data.ConsumeBool() ? data.ConsumeRandomLengthString(60)
+                                          : ScheduleText(sheet.inputs.pipeDiameter.text(), "Sch 40",
+                                                         pipeUnit, locale)
+                                                .value_or("");
     sheet.saturated = data.ConsumeBool();
     sheet.message = data.ConsumeRandomLengthString(80);
     sheet.plateWarning = data.ConsumeBool();
     sheet.plateWarning1 = "Orifice plate deflection";
     sheet.plateWarning2 = "should be checked.";
-    sheet.zfCompWarning = data.ConsumeBool();
-    sheet.zfCompWarningYellow = data.ConsumeBool();
+    sheet.zfCompWarning = data.PickValueInArray(
+        {CompressibilityWarning::None, CompressibilityWarning::May, CompressibilityWarning::Will});
     sheet.date = "05 Mar 2024";
     return sheet;
 }

@@ -105,14 +105,7 @@ TEST_F(ReportPageTest, BoreAndBetaAreApproximateInEveryMode) {
 TEST_F(ReportPageTest, NoModeSelectedIsFatal) {
     ReportSheet sheet = LiquidSheet();
     sheet.inputs.mode.reset();
-    sheet.inputs.fluidType = "X";  // the mode is looked at first
     ExpectFatal(sheet, "Calculation type not selected");
-}
-
-TEST_F(ReportPageTest, UnknownFluidIsFatal) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.fluidType = "l";
-    ExpectFatal(sheet, "Orifice type not specified");
 }
 
 TEST_F(ReportPageTest, UnknownPipeUnitIsFatal) {
@@ -275,9 +268,9 @@ TEST_F(ReportPageTest, UnitTextsStandAsTheListHasThem) {
 TEST_F(ReportPageTest, NumbersAsTheUsersSystemWritesThem) {
     Module1 german(platform_, kGermany);
     ReportSheet sheet = LiquidSheet();
-    sheet.inputs.flow = "1.234,5";
-    sheet.inputs.deltaP = "-100";
-    sheet.inputs.beta = "0,53123";
+    sheet.inputs.flow = {"1.234,5", kGermany};
+    sheet.inputs.deltaP = {"-100", kGermany};
+    sheet.inputs.beta = {"0,53123", kGermany};
     ReportPage page = ComposeReport(sheet, german);
     EXPECT_TRUE(HasRow(page, "Flow Rate                       1.234,50 Gallons/Minute"));
     EXPECT_TRUE(HasRow(page, "Differential Pressure           (100,00) Inches Water"));
@@ -285,7 +278,7 @@ TEST_F(ReportPageTest, NumbersAsTheUsersSystemWritesThem) {
 
     // The group separator is three bytes long, but one character.
     Module1 french(platform_, kFrance);
-    sheet.inputs.flow = "12345";
+    sheet.inputs.flow = {"12345", kFrance};
     page = ComposeReport(sheet, french);
     EXPECT_TRUE(HasRow(page, "Flow Rate                      12\u202F345,00 Gallons/Minute"));
 

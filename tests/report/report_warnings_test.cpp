@@ -30,8 +30,7 @@ TEST_F(ReportWarningsTest, PlateWarningAlone) {
 
 TEST_F(ReportWarningsTest, CompressibilityBoxAlone) {
     ReportSheet sheet = GasSheet();
-    sheet.zfCompWarning = true;
-    sheet.zfCompWarningYellow = true;
+    sheet.zfCompWarning = CompressibilityWarning::May;
     const Rows rows = RowsOf(sheet);
     ASSERT_EQ(rows.size(), 26U);
     EXPECT_EQ(Rows(rows.begin() + 20, rows.end()),
@@ -47,10 +46,10 @@ TEST_F(ReportWarningsTest, CompressibilityBoxAlone) {
 
 TEST_F(ReportWarningsTest, CompressibilityBoxIsForGasOnly) {
     ReportSheet sheet = SteamSheet();
-    sheet.zfCompWarning = true;
+    sheet.zfCompWarning = CompressibilityWarning::Will;
     EXPECT_EQ(RowsOf(sheet).size(), 18U);
     sheet = LiquidSheet();
-    sheet.zfCompWarning = true;
+    sheet.zfCompWarning = CompressibilityWarning::Will;
     EXPECT_EQ(RowsOf(sheet).size(), 17U);
 }
 

@@ -24,7 +24,7 @@ ReportSheet TwoInchPipe() {
 
 ReportSheet LiquidSheet() {
     ReportSheet sheet = TwoInchPipe();
-    sheet.inputs.fluidType = "L";
+    sheet.inputs.fluid = Fluid::Liquid;
     sheet.inputs.flow = "1234.5";
     sheet.inputs.flowUnit = {"Gallons", 1};
     sheet.inputs.deltaP = "100";
@@ -37,7 +37,7 @@ ReportSheet LiquidSheet() {
 
 ReportSheet GasSheet() {
     ReportSheet sheet = TwoInchPipe();
-    sheet.inputs.fluidType = "G";
+    sheet.inputs.fluid = Fluid::Gas;
     sheet.inputs.flow = "25000";
     sheet.inputs.flowUnit = {"Standard Cubic Feet", 1};
     sheet.inputs.timeUnit = {"Day", 1440};
@@ -53,7 +53,7 @@ ReportSheet GasSheet() {
 
 ReportSheet SteamSheet() {
     ReportSheet sheet = TwoInchPipe();
-    sheet.inputs.fluidType = "S";
+    sheet.inputs.fluid = Fluid::Steam;
     sheet.inputs.flow = "5000";
     sheet.inputs.flowUnit = {"Pounds", 1};
     sheet.inputs.timeUnit = {"Hour", 60};
@@ -73,7 +73,7 @@ ReportSheet FullestSheet() {
     sheet.plateWarning = true;
     sheet.plateWarning1 = "Orifice plate deflection";
     sheet.plateWarning2 = "should be checked.";
-    sheet.zfCompWarning = true;
+    sheet.zfCompWarning = CompressibilityWarning::Will;
     return sheet;
 }
 

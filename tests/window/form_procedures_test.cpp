@@ -41,12 +41,6 @@ class FormProceduresTest : public ::testing::Test {
     MainForm form_{canvas_, footer_, menus_};
     FormContext context_{form_, state_, module_};
 };
-Warnings warnings_{context_};
-Densities densities_{context_, calculations_};
-NumericFields fields_{context_, calculations_, densities_, warnings_};
-FlowUnitBoxes flowUnitBoxes_{context_, calculations_};
-FluidOptions options_{context_, calculations_, densities_, warnings_, fields_, flowUnitBoxes_};
-};
 
 TEST_F(FormProceduresTest, TemperatureIsClosedAndOpened) {
     state_.SuspendCalc = true;

@@ -101,6 +101,18 @@ void NumericField::SetLocked(bool locked) {
     setFont(weight);
 }
 
+const EnteredNumber& NumericField::Number() const {
+    if (std::string now = Text(); now != number_.text()) {
+        number_ = EnteredNumber(std::move(now), locale_);
+    }
+    return number_;
+}
+
+void NumericField::SetLocale(const NumberLocale& locale) {
+    locale_ = locale;
+    number_ = EnteredNumber(Text(), locale);
+}
+
 FieldSelection NumericField::Selection() const {
     const QString whole = text();
     const auto start = hasSelectedText() ? selectionStart() : cursorPosition();
@@ -117,7 +129,7 @@ void NumericField::keyPressEvent(QKeyEvent* event) {
     QString typed = event->text();
     if (event->modifiers().testFlag(Qt::KeypadModifier) &&
         (event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma)) {
-        typed = QString(QLatin1Char(decimalSeparator_));
+        typed = QString(QLatin1Char(locale_.decimalSeparator));
     }
     event->accept();
     for (const QChar character : typed) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/shared/module1.h"
+#include "numbers/entered_number.h"
 #include "ui/controls/entry_line.h"
 
 #include <QComboBox>
@@ -42,8 +43,11 @@ class NumericField : public EntryLine {
     std::string Text() const { return text().toStdString(); }
     void SetText(const std::string& value) { setText(QString::fromStdString(value)); }
 
-    // What the decimal key of the number pad types.
-    void SetDecimalSeparator(char separator) { decimalSeparator_ = separator; }
+    // The text with its value, read once for each text.
+    const EnteredNumber& Number() const;
+
+    // How the field reads its text; the decimal key of the number pad types its separator.
+    void SetLocale(const NumberLocale& locale);
 
     // A locked field shows a result: in bold, and it can't be typed into.
     void SetLocked(bool locked);
@@ -62,7 +66,8 @@ class NumericField : public EntryLine {
     bool IsKept(QChar character) const;
 
     QString reportedText_;
-    char decimalSeparator_ = '.';
+    NumberLocale locale_;
+    mutable EnteredNumber number_;
 };
 
 // An option button. Selecting it from code runs its click handler, as a click does, also when it is

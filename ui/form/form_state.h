@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/shared/module1.h"
+#include "app/sheet/warning_rules.h"
+#include "numbers/entered_number.h"
 #include "ui/form/main_form.h"
 #include "units/flow_units.h"
 #include "units/unit_tables.h"
@@ -28,8 +30,12 @@ struct FormState {
     std::span<const Unit> TimeUnitTable;
     std::span<const Unit> PipeIDUnitTable;
     std::span<const Unit> OriBoreUnitTable;
-    std::vector<std::string> NomSizeTable;  // sizes in inches, as the locale writes them
-    std::vector<std::string> PipeIDTable;   // inside diameters in inches, as the locale writes them
+    // In inches, as the locale writes them.
+    std::vector<EnteredNumber> NomSizeTable;
+    std::vector<EnteredNumber> PipeIDTable;  // inside diameters
+
+    // What the compressibility warning says.
+    CompressibilityWarning zfCompWarning = CompressibilityWarning::None;
 };
 
 // What every handler of the window works on.
@@ -39,13 +45,19 @@ struct FormContext {
     Module1& module;
 };
 
-// The entry of `table` that is selected in `list`; null while there is none.
+// The entry of `table` that is selected in `list`; null while the table is not filled yet. A
+// position outside the table ends the program.
 template <typename Table>
-auto SelectedEntry(const Table& table, const DropDownList& list) -> decltype(&table[0]) {
+auto SelectedEntry(const FormContext& context, const Table& table, const DropDownList& list)
+    -> decltype(&table[0]) {
+    if (table.empty()) {
+        return nullptr;
+    }
     const int index = list.ListIndex();
-    return index >= 0 && static_cast<size_t>(index) < table.size()
-               ? &table[static_cast<size_t>(index)]
-               : nullptr;
+    if (index < 0 || static_cast<size_t>(index) >= table.size()) {
+        context.module.FatalError("List position outside its table.");
+    }
+    return &table[static_cast<size_t>(index)];
 }
 
 }  // namespace tarvix

@@ -6,8 +6,9 @@ namespace tarvix {
 
 namespace {
 
-SelectedUnit SelectedUnitOf(std::span<const Unit> table, const DropDownList& list) {
-    const Unit* unit = SelectedEntry(table, list);
+SelectedUnit SelectedUnitOf(const FormContext& context, std::span<const Unit> table,
+                            const DropDownList& list) {
+    const Unit* unit = SelectedEntry(context, table, list);
     return unit != nullptr ? *unit : SelectedUnit{"", 1};
 }
 
@@ -59,30 +60,31 @@ InputSheet ReadInputSheet(const FormContext& context) {
     const MainForm& form = context.form;
     const FormState& state = context.state;
     InputSheet sheet;
-    sheet.fluidType = context.module.FluidType;
+    sheet.fluid = context.module.CurrentFluid();
     sheet.mode = SelectedMode(form);
 
-    sheet.flow = form.txtFlow->Text();
-    sheet.deltaP = form.txtDeltaP->Text();
-    sheet.beta = form.txtBeta->Text();
-    sheet.pf = form.txtPf->Text();
-    sheet.tf = form.txtTf->Text();
-    sheet.density = form.txtDensity->Text();
-    sheet.sgb = form.txtSGb->Text();
-    sheet.sgf = form.txtSGf->Text();
-    sheet.gasSGb = form.txtGasSGb->Text();
-    sheet.zf = form.txtZf->Text();
+    sheet.flow = form.txtFlow->Number();
+    sheet.deltaP = form.txtDeltaP->Number();
+    sheet.beta = form.txtBeta->Number();
+    sheet.pf = form.txtPf->Number();
+    sheet.tf = form.txtTf->Number();
+    sheet.density = form.txtDensity->Number();
+    sheet.sgb = form.txtSGb->Number();
+    sheet.sgf = form.txtSGf->Number();
+    sheet.gasSGb = form.txtGasSGb->Number();
+    sheet.zf = form.txtZf->Number();
 
-    if (const FlowUnit* unit = SelectedEntry(state.FlowUnitTable, *form.cboFlowUnit)) {
+    if (const FlowUnit* unit = SelectedEntry(context, state.FlowUnitTable, *form.cboFlowUnit)) {
         sheet.flowUnit = {unit->text, unit->factor};
         sheet.flowKind = unit->kind;
     }
-    sheet.timeUnit = SelectedUnitOf(state.TimeUnitTable, *form.cboTimeUnit);
-    sheet.deltaPUnit = SelectedUnitOf(state.DeltaPUnitTable, *form.cboDeltaPunit);
-    sheet.pressUnit = SelectedUnitOf(state.PressUnitTable, *form.cboPressUnit);
-    sheet.densityUnit = SelectedUnitOf(state.DensityUnitTable, *form.cboDensityUnit);
-    sheet.zfDensityUnit = SelectedUnitOf(state.ZfDensityUnitTable, *form.cboZfDensityUnit);
-    if (const std::string* diameter = SelectedEntry(state.PipeIDTable, *form.cboPipeID)) {
+    sheet.timeUnit = SelectedUnitOf(context, state.TimeUnitTable, *form.cboTimeUnit);
+    sheet.deltaPUnit = SelectedUnitOf(context, state.DeltaPUnitTable, *form.cboDeltaPunit);
+    sheet.pressUnit = SelectedUnitOf(context, state.PressUnitTable, *form.cboPressUnit);
+    sheet.densityUnit = SelectedUnitOf(context, state.DensityUnitTable, *form.cboDensityUnit);
+    sheet.zfDensityUnit = SelectedUnitOf(context, state.ZfDensityUnitTable, *form.cboZfDensityUnit);
+    if (const EnteredNumber* diameter =
+            SelectedEntry(context, state.PipeIDTable, *form.cboPipeID)) {
         sheet.pipeDiameter = *diameter;
     }
 
@@ -102,9 +104,10 @@ ReportSheet ReadReportSheet(const FormContext& context) {
     const MainForm& form = context.form;
     ReportSheet sheet;
     sheet.inputs = ReadInputSheet(context);
-    sheet.oriBoreDia = form.txtOriBoreDia->Text();
+    sheet.oriBoreDia = form.txtOriBoreDia->Number();
     sheet.oriBoreUnit = form.cboOriBoreUnit->Text();
-    if (const Unit* unit = SelectedEntry(context.state.PipeIDUnitTable, *form.cboPipeIDUnit)) {
+    if (const Unit* unit =
+            SelectedEntry(context, context.state.PipeIDUnitTable, *form.cboPipeIDUnit)) {
         sheet.pipeIdUnit = unit->text;
     }
     sheet.pipeIdText = form.cboPipeID->Text();
@@ -113,8 +116,8 @@ ReportSheet ReadReportSheet(const FormContext& context) {
     sheet.plateWarning = form.IsVisible(*form.fraPlateThicknessWarning);
     sheet.plateWarning1 = Caption(*form.lbl1PlateThicknessWarning);
     sheet.plateWarning2 = Caption(*form.lbl2PlateThicknessWarning);
-    sheet.zfCompWarning = form.IsVisible(*form.fraZfCompWarning);
-    sheet.zfCompWarningYellow = BackColorOf(*form.fraZfCompWarning) == BackColor::Yellow;
+    sheet.zfCompWarning = form.IsVisible(*form.fraZfCompWarning) ? context.state.zfCompWarning
+                                                                 : CompressibilityWarning::None;
     return sheet;
 }
 

@@ -15,13 +15,14 @@ constexpr int kBetaDecimals = 5;
 constexpr const char* kLineEnd = "\n\r";
 
 float PipeDiameterIn(const FormContext& context) {
-    const std::string* diameter = SelectedEntry(context.state.PipeIDTable, *context.form.cboPipeID);
-    return diameter != nullptr ? TextToSingle(*diameter, context.module.locale()).value_or(0.0F)
-                               : 0.0F;
+    const EnteredNumber* diameter =
+        SelectedEntry(context, context.state.PipeIDTable, *context.form.cboPipeID);
+    return diameter != nullptr ? diameter->SingleOrZero() : 0.0F;
 }
 
 float BoreUnitFactor(const FormContext& context) {
-    const Unit* unit = SelectedEntry(context.state.OriBoreUnitTable, *context.form.cboOriBoreUnit);
+    const Unit* unit =
+        SelectedEntry(context, context.state.OriBoreUnitTable, *context.form.cboOriBoreUnit);
     return unit != nullptr ? unit->factor : 1.0F;
 }
 
@@ -29,7 +30,7 @@ float BoreUnitFactor(const FormContext& context) {
 void WriteBeta(const FormContext& context) {
     const MainForm& form = context.form;
     const NumberLocale& locale = context.module.locale();
-    const auto bore = TextToSingle(form.txtOriBoreDia->Text(), locale);
+    const auto bore = form.txtOriBoreDia->Number().Single();
     const auto beta =
         bore ? BetaFromBore(*bore, PipeDiameterIn(context), BoreUnitFactor(context)) : std::nullopt;
     form.txtBeta->SetText(beta ? FormatNumber(*beta, kBetaDecimals, locale, Grouping::Off) : "");
@@ -44,13 +45,16 @@ void WriteBore(const FormContext& context, float beta) {
 std::string BetaLimitMessage(const FormContext& context) {
     const MainForm& form = context.form;
     const NumberLocale& locale = context.module.locale();
-    const Unit* pipeUnit = SelectedEntry(context.state.PipeIDUnitTable, *form.cboPipeIDUnit);
-    const std::string* diameter = SelectedEntry(context.state.PipeIDTable, *form.cboPipeID);
+    const Unit* pipeUnit =
+        SelectedEntry(context, context.state.PipeIDUnitTable, *form.cboPipeIDUnit);
+    const EnteredNumber* diameter =
+        SelectedEntry(context, context.state.PipeIDTable, *form.cboPipeID);
 
     std::string pipeText;
     if (pipeUnit != nullptr && diameter != nullptr) {
         const std::string shown =
-            PipeDiameterInUnit(pipeUnit->text, *diameter, form.cboPipeID->Text()).value_or("");
+            PipeDiameterInUnit(pipeUnit->text, diameter->text(), form.cboPipeID->Text())
+                .value_or("");
         const int decimals = pipeUnit->text == kInches ? 3 : 2;
         if (const auto value = TextToSingle(shown, locale)) {
             pipeText = FormatNumber(*value, decimals, locale, Grouping::Off);
@@ -81,7 +85,7 @@ void ConnectBoreAndBeta(const FormContext& context) {
 void txtBeta_Change(const FormContext& context) {
     const MainForm& form = context.form;
     Module1& module = context.module;
-    const auto beta = TextToSingle(form.txtBeta->Text(), module.locale());
+    const auto beta = form.txtBeta->Number().Single();
     if (beta && *beta >= kMaxBeta) {
         module.MsgText = BetaLimitMessage(context);
         module.MsgTitle = "Beta Value";
@@ -115,7 +119,7 @@ void cboOriBoreUnit_Click(const FormContext& context) {
     const MainForm& form = context.form;
     form.cboOriBoreUnit->update();
     form.txtOriBoreDia->SetText("");
-    const auto beta = TextToSingle(form.txtBeta->Text(), context.module.locale());
+    const auto beta = form.txtBeta->Number().Single();
     // The limit itself, which the beta field refuses, is converted here.
     if (beta && *beta <= kMaxBeta) {
         WriteBore(context, *beta);
@@ -125,7 +129,7 @@ void cboOriBoreUnit_Click(const FormContext& context) {
 void FollowPipeDiameter(const FormContext& context) {
     const MainForm& form = context.form;
     const NumberLocale& locale = context.module.locale();
-    if (const auto bore = TextToSingle(form.txtOriBoreDia->Text(), locale)) {
+    if (const auto bore = form.txtOriBoreDia->Number().Single()) {
         form.txtOriBoreDia->SetText(FormatNumber(*bore, kBoreDecimals, locale, Grouping::Off));
     }
     WriteBeta(context);

@@ -1,7 +1,7 @@
 #include "ui/handlers/densities.h"
 
 #include "app/dispatch/do_orifice_calculations.h"
-#include "app/sheet/solve_sheet.h"
+#include "app/sheet/derived_densities.h"
 #include "ui/form/input_reader.h"
 
 namespace tarvix {
@@ -10,14 +10,15 @@ void CalcSGf(const FormContext& context) {
     const MainForm& form = context.form;
     const InputSheet sheet = ReadInputSheet(context);
     form.txtSGf->SetText("");
-    form.txtSGf->SetText(CalcSGf(sheet.density, sheet.densityUnit, context.module));
+    form.txtSGf->SetText(
+        FlowingGravityText(sheet.density, sheet.densityUnit, context.module.locale()));
 }
 
 bool CalcSteamDensity(const FormContext& context) {
     const MainForm& form = context.form;
     const InputSheet sheet = ReadInputSheet(context);
     form.txtDensity->SetText("");
-    const SteamDensityResult result = CalcSteamDensity(sheet, context.module);
+    const SteamDensityText result = SteamDensityTextOf(sheet, context.module);
     form.txtDensity->SetText(result.density);
     context.module.MsgText = result.message;
     ShowMessage(context, result.message, BackColor::Yellow);

@@ -12,13 +12,9 @@ void ConnectFlowUnitBoxes(const FormContext& context) {
 }
 
 void LoadcboFlowUnit(const FormContext& context) {
-    Module1& module = context.module;
     DropDownList& list = *context.form.cboFlowUnit;
-    const FluidFlowUnits fluid = FlowUnitsOf(module.FluidType);
-    if (fluid.units.empty()) {
-        module.MsgText = "Orifice flow type not specified.";
-        module.FatalError();
-    }
+    const FluidFlowUnits fluid =
+        FlowUnitsOf(context.module.CurrentFluid("Orifice flow type not specified."));
     list.Clear();
     context.state.FlowUnitTable = fluid.units;
     AddUnits(list, fluid.units);
@@ -27,9 +23,9 @@ void LoadcboFlowUnit(const FormContext& context) {
 
 void LoadcboTimeUnit(const FormContext& context) {
     DropDownList& list = *context.form.cboTimeUnit;
-    const FluidFlowUnits fluid = FlowUnitsOf(context.module.FluidType);
+    const std::optional<Fluid> fluid = FluidOf(context.module.FluidType);
     const std::string toSelect =
-        fluid.units.empty() ? list.Text() : std::string(fluid.defaultTimeUnit);
+        fluid ? std::string(FlowUnitsOf(*fluid).defaultTimeUnit) : list.Text();
     list.Clear();
     context.state.TimeUnitTable = kTimeUnits;
     AddUnits(list, kTimeUnits);
@@ -38,18 +34,19 @@ void LoadcboTimeUnit(const FormContext& context) {
 
 void cboFlowUnit_Click(const FormContext& context) {
     const MainForm& form = context.form;
-    Module1& module = context.module;
-    const bool isMass = SelectedFlowKind(context) == kMassKind;
-    if (module.FluidType == "L") {
-        // A mass rate needs no gravity at base conditions.
-        form.txtSGb->setVisible(!isMass);
-        form.lblSGb1->setVisible(!isMass);
-        form.lblSGb2->setVisible(!isMass);
-    } else if (module.FluidType == "G") {
-        form.fraGasSG->setVisible(!(form.optCompDensity->Value() && isMass));
-    } else if (module.FluidType != "S") {
-        module.MsgText = "Orifice type not specified";
-        module.FatalError();
+    const bool isMass = SelectedFlowKind(context) == FlowKind::Mass;
+    switch (context.module.CurrentFluid()) {
+        case Fluid::Liquid:
+            // A mass rate needs no gravity at base conditions.
+            form.txtSGb->setVisible(!isMass);
+            form.lblSGb1->setVisible(!isMass);
+            form.lblSGb2->setVisible(!isMass);
+            break;
+        case Fluid::Gas:
+            form.fraGasSG->setVisible(!(form.optCompDensity->Value() && isMass));
+            break;
+        case Fluid::Steam:
+            break;
     }
     CalculateUnlessSuspended(context);
 }
@@ -58,9 +55,10 @@ void cboTimeUnit_Click(const FormContext& context) {
     CalculateUnlessSuspended(context);
 }
 
-std::string_view SelectedFlowKind(const FormContext& context) {
-    const FlowUnit* unit = SelectedEntry(context.state.FlowUnitTable, *context.form.cboFlowUnit);
-    return unit != nullptr ? unit->kind : std::string_view();
+std::optional<FlowKind> SelectedFlowKind(const FormContext& context) {
+    const FlowUnit* unit =
+        SelectedEntry(context, context.state.FlowUnitTable, *context.form.cboFlowUnit);
+    return unit != nullptr ? std::optional(unit->kind) : std::nullopt;
 }
 
 }  // namespace tarvix

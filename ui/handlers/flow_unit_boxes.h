@@ -14,7 +14,7 @@ void LoadcboTimeUnit(const FormContext& context);
 void cboFlowUnit_Click(const FormContext& context);
 void cboTimeUnit_Click(const FormContext& context);
 
-// "V" or "M" of the selected flow unit; empty while there is none.
-std::string_view SelectedFlowKind(const FormContext& context);
+// Whether the selected flow unit measures volume or mass; nothing while there is none.
+std::optional<FlowKind> SelectedFlowKind(const FormContext& context);
 
 }  // namespace tarvix

@@ -98,7 +98,7 @@ void optGas_Click(const FormContext& context) {
     LoadcboFlowUnit(context);
     LoadcboTimeUnit(context);
     context.state.SuspendCalc = false;
-    form.canvas().update();
+    form.canvas().repaint();
     DoOrificeCalculations(context);
 }
 
@@ -211,7 +211,7 @@ void optCompDensity_Click(const FormContext& context) {
     form.txtZf->SetText("");
     CheckZfCompWarning(context);
     // A mass rate of a known density needs no gravity.
-    SetVisible(form.fraGasSG, SelectedFlowKind(context) != kMassKind);
+    SetVisible(form.fraGasSG, SelectedFlowKind(context) != FlowKind::Mass);
     CalculateUnlessSuspended(context);
 }
 

@@ -10,7 +10,7 @@ namespace tarvix {
 void ConnectNumericFields(const FormContext& context) {
     const MainForm& form = context.form;
     for (NumericField* field : form.NumericFields()) {
-        field->SetDecimalSeparator(context.module.locale().decimalSeparator);
+        field->SetLocale(context.module.locale());
         field->onGotFocus = [field] { NumericField_GotFocus(*field); };
         field->onKeyPress = [context, field](int keyCode) {
             return NumericField_KeyPress(context, *field, keyCode);
@@ -86,32 +86,35 @@ void txtDensity_Change(const FormContext& context) {
         return;
     }
     module.MsgText.clear();
-    if (module.FluidType == "L") {
-        if (form.optSgCalc->Value()) {
-            CalcSGf(context);
-        }
-    } else if (module.FluidType == "S") {
-        if (form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
-            return;
-        }
-    } else if (module.FluidType != "G") {
-        module.MsgText = "Orifice type not specified";
-        module.FatalError();
+    switch (module.CurrentFluid()) {
+        case Fluid::Liquid:
+            if (form.optSgCalc->Value()) {
+                CalcSGf(context);
+            }
+            break;
+        case Fluid::Steam:
+            if (form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
+                return;
+            }
+            break;
+        case Fluid::Gas:
+            break;
     }
     DoOrificeCalculations(context);
 }
 
 void txtPf_Change(const FormContext& context) {
-    Module1& module = context.module;
-    if (module.FluidType == "S") {
-        if (context.form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
-            return;
-        }
-    } else if (module.FluidType == "G") {
-        CheckZfCompWarning(context);
-    } else if (module.FluidType != "L") {
-        module.MsgText = "Orifice type not specified";
-        module.FatalError();
+    switch (context.module.CurrentFluid()) {
+        case Fluid::Steam:
+            if (context.form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
+                return;
+            }
+            break;
+        case Fluid::Gas:
+            CheckZfCompWarning(context);
+            break;
+        case Fluid::Liquid:
+            break;
     }
     CalculateUnlessSuspended(context);
 }

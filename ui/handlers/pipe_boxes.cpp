@@ -18,24 +18,24 @@ std::string WithoutBlanks(const std::string& text) {
 }
 
 const Unit& PipeUnit(const FormContext& context) {
-    const Unit* unit = SelectedEntry(context.state.PipeIDUnitTable, *context.form.cboPipeIDUnit);
+    const Unit* unit =
+        SelectedEntry(context, context.state.PipeIDUnitTable, *context.form.cboPipeIDUnit);
     return unit != nullptr ? *unit : kLengthUnits.front();
 }
 
 [[noreturn]] void UnknownPipeUnit(const FormContext& context) {
-    context.module.MsgText = "Unrecognized pipe ID unit for 'User Entered' pipe ID";
-    context.module.FatalError();
+    context.module.FatalError("Unrecognized pipe ID unit for 'User Entered' pipe ID");
 }
 
 void AskUserEnteredPipe(const FormContext& context) {
     Module1& module = context.module;
     DropDownList& list = *context.form.cboPipeID;
-    std::string& diameter = context.state.PipeIDTable[static_cast<size_t>(list.ListIndex())];
+    EnteredNumber& diameter = context.state.PipeIDTable[static_cast<size_t>(list.ListIndex())];
 
     const std::string answer = WithoutBlanks(
         module.platform()
             .ShowInputBox({"Enter a Pipe ID in " + context.form.cboPipeIDUnit->Text() + ".",
-                           "Pipe ID", diameter})
+                           "Pipe ID", diameter.text()})
             .value_or(""));
     const auto value = TextToDouble(answer, module.locale());
     if (!value || !(*value > 0)) {
@@ -49,7 +49,7 @@ void AskUserEnteredPipe(const FormContext& context) {
     if (!pipe) {
         UnknownPipeUnit(context);
     }
-    diameter = pipe->diameterText;
+    diameter = EnteredNumber(pipe->diameterText, module.locale());
     list.setItemText(list.ListIndex(), QString::fromStdString(pipe->shownText));
 }
 
@@ -79,21 +79,22 @@ void LoadcboPipeIDUnit(const FormContext& context) {
 void LoadcboNomSize(const FormContext& context) {
     const Module1& module = context.module;
     DropDownList& list = *context.form.cboNomSize;
-    std::vector<std::string>& table = context.state.NomSizeTable;
-    const std::string* selected = SelectedEntry(table, list);
-    const std::string toSelect = selected != nullptr ? *selected : std::string(kDefaultNominalSize);
+    std::vector<EnteredNumber>& table = context.state.NomSizeTable;
+    const EnteredNumber* selected = SelectedEntry(context, table, list);
+    const std::string toSelect =
+        selected != nullptr ? selected->text() : std::string(kDefaultNominalSize);
 
     list.Clear();
     table.clear();
     int position = 0;
     for (const NominalSize& size : kNominalSizes) {
-        const std::string value = module.LocalDecimal(std::string(size.value));
-        const float sizeIn = TextToSingle(value, module.locale()).value_or(0.0F);
-        list.AddItem(NominalSizeText(size.text, sizeIn, PipeUnit(context), module.locale()));
-        if (value == toSelect) {
+        EnteredNumber value(module.LocalDecimal(std::string(size.value)), module.locale());
+        list.AddItem(
+            NominalSizeText(size.text, value.SingleOrZero(), PipeUnit(context), module.locale()));
+        if (value.text() == toSelect) {
             position = static_cast<int>(table.size());
         }
-        table.push_back(value);
+        table.push_back(std::move(value));
     }
     list.SetListIndex(position);
 }
@@ -101,18 +102,18 @@ void LoadcboNomSize(const FormContext& context) {
 void LoadcboPipeID(const FormContext& context) {
     Module1& module = context.module;
     DropDownList& list = *context.form.cboPipeID;
-    std::vector<std::string>& table = context.state.PipeIDTable;
-    const std::string* size = SelectedEntry(context.state.NomSizeTable, *context.form.cboNomSize);
-    const std::string* selected = SelectedEntry(table, list);
+    std::vector<EnteredNumber>& table = context.state.PipeIDTable;
+    const EnteredNumber* size =
+        SelectedEntry(context, context.state.NomSizeTable, *context.form.cboNomSize);
+    const EnteredNumber* selected = SelectedEntry(context, table, list);
     const std::optional<std::string> remembered =
-        selected != nullptr ? std::optional(*selected) : std::nullopt;
+        selected != nullptr ? std::optional(selected->text()) : std::nullopt;
 
     // The rows are found by the size as it is written: where the system writes a decimal comma, the
     // sizes with a fraction have none.
-    const auto schedules = SchedulesOf(size != nullptr ? *size : std::string());
+    const auto schedules = SchedulesOf(size != nullptr ? size->text() : std::string());
     if (schedules.empty()) {
-        module.MsgText = "No pipe schedule data for nominal pipe size.";
-        module.FatalError();
+        module.FatalError("No pipe schedule data for nominal pipe size.");
     }
 
     list.Clear();
@@ -125,15 +126,15 @@ void LoadcboPipeID(const FormContext& context) {
             UnknownPipeUnit(context);
         }
         list.AddItem(*shown);
-        table.push_back(std::move(diameter));
+        table.emplace_back(std::move(diameter), module.locale());
     }
     list.AddItem(kOtherUserEntered);
-    table.emplace_back(kNoDiameterYet);
+    table.emplace_back(std::string(kNoDiameterYet), module.locale());
 
     // Of several entries with the remembered diameter the last.
     int position = 0;
     for (size_t i = 0; i < table.size(); ++i) {
-        if (table[i] == remembered) {
+        if (table[i].text() == remembered) {
             position = static_cast<int>(i);
         }
     }

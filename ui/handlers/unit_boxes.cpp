@@ -59,18 +59,20 @@ void cboDeltaPunit_Click(const FormContext& context) {
 }
 
 void cboDensityUnit_Click(const FormContext& context) {
-    Module1& module = context.module;
-    if (module.FluidType == "L") {
-        if (context.form.optSgCalc->Value()) {
-            CalcSGf(context);
-        }
-    } else if (module.FluidType == "S") {
-        if (context.form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
-            return;
-        }
-    } else if (module.FluidType != "G") {
-        module.MsgText = "Orifice type not specified";
-        module.FatalError();
+    const MainForm& form = context.form;
+    switch (context.module.CurrentFluid()) {
+        case Fluid::Liquid:
+            if (form.optSgCalc->Value()) {
+                CalcSGf(context);
+            }
+            break;
+        case Fluid::Steam:
+            if (form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
+                return;
+            }
+            break;
+        case Fluid::Gas:
+            break;
     }
     CalculateUnlessSuspended(context);
 }

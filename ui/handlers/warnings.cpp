@@ -1,6 +1,6 @@
 #include "ui/handlers/warnings.h"
 
-#include "app/sheet/solve_sheet.h"
+#include "app/sheet/warning_rules.h"
 #include "ui/controls/accessible_roles.h"
 #include "ui/form/input_reader.h"
 
@@ -8,17 +8,18 @@ namespace tarvix {
 
 void CheckPlateThicknessWarning(const FormContext& context) {
     const MainForm& form = context.form;
-    const std::string* nominalSize = SelectedEntry(context.state.NomSizeTable, *form.cboNomSize);
-    const Unit* unit = SelectedEntry(context.state.DeltaPUnitTable, *form.cboDeltaPunit);
-    const bool warn =
-        nominalSize != nullptr && unit != nullptr &&
-        CheckPlateThickness(*nominalSize, form.txtDeltaP->Text(), *unit, context.module.locale());
+    const EnteredNumber* nominalSize =
+        SelectedEntry(context, context.state.NomSizeTable, *form.cboNomSize);
+    const Unit* unit = SelectedEntry(context, context.state.DeltaPUnitTable, *form.cboDeltaPunit);
+    const bool warn = nominalSize != nullptr && unit != nullptr &&
+                      CheckPlateThickness(*nominalSize, form.txtDeltaP->Number(), *unit);
     form.fraPlateThicknessWarning->setVisible(warn);
 }
 
 void CheckZfCompWarning(const FormContext& context) {
     const MainForm& form = context.form;
-    const CompressibilityWarning warning = CheckZfComp(ReadInputSheet(context), context.module);
+    const CompressibilityWarning warning = CheckZfComp(ReadInputSheet(context));
+    context.state.zfCompWarning = warning;
     form.fraZfCompWarning->setVisible(warning != CompressibilityWarning::None);
     if (warning == CompressibilityWarning::None) {
         return;

@@ -1,6 +1,7 @@
 // What follows from a density or a pressure before anything is solved: the gravity of a liquid, the
 // density of saturated steam, and the two warnings.
-#include "app/sheet/solve_sheet.h"
+#include "app/sheet/derived_densities.h"
+#include "app/sheet/warning_rules.h"
 #include "app/sheets.h"
 #include "named_row.h"
 
@@ -25,28 +26,32 @@ class DensitiesTest : public SheetTest {
     const SelectedUnit kKilogram = kDensityUnits[1];
 };
 
-// CalcSGf -----------------------------------------------------------------------------------------
+// FlowingGravityText
+// --------------------------------------------------------------------------------
 
 TEST_F(DensitiesTest, TheGravityOfADensity) {
-    EXPECT_EQ(CalcSGf("62.366", kPound, module), "1.0000");
-    EXPECT_EQ(CalcSGf("50", kPound, module), "0.8017");
-    EXPECT_EQ(CalcSGf("124.732", kPound, module), "2.0000");
-    EXPECT_EQ(CalcSGf("1000", kKilogram, module), "1.0010");  // 62.42798 / 62.366 = 1.00099
-    EXPECT_EQ(CalcSGf("850", kKilogram, module), "0.8508");   // 53.06378 / 62.366 = 0.850845
-    EXPECT_EQ(CalcSGf("100000", kPound, module), "1,603.4380");
-    EXPECT_EQ(CalcSGf("0.000001", kPound, module), "0.0000");
+    EXPECT_EQ(FlowingGravityText("62.366", kPound, kUnitedStates), "1.0000");
+    EXPECT_EQ(FlowingGravityText("50", kPound, kUnitedStates), "0.8017");
+    EXPECT_EQ(FlowingGravityText("124.732", kPound, kUnitedStates), "2.0000");
+    EXPECT_EQ(FlowingGravityText("1000", kKilogram, kUnitedStates),
+              "1.0010");  // 62.42798 / 62.366 = 1.00099
+    EXPECT_EQ(FlowingGravityText("850", kKilogram, kUnitedStates),
+              "0.8508");  // 53.06378 / 62.366 = 0.850845
+    EXPECT_EQ(FlowingGravityText("100000", kPound, kUnitedStates), "1,603.4380");
+    EXPECT_EQ(FlowingGravityText("0.000001", kPound, kUnitedStates), "0.0000");
 }
 
 TEST_F(DensitiesTest, WithoutAPositiveDensityThereIsNoGravity) {
     for (const char* density : {"", "0", "-5", "abc", "1e60", " ", "1e-60"}) {
-        EXPECT_EQ(CalcSGf(density, kPound, module), "") << density;
+        EXPECT_EQ(FlowingGravityText(density, kPound, kUnitedStates), "") << density;
     }
 }
 
 TEST_F(DensitiesTest, TheGravityIsWrittenInTheLocale) {
     const Module1 german(platform, kGermany);
-    EXPECT_EQ(CalcSGf("62,366", kPound, german), "1,0000");
-    EXPECT_EQ(CalcSGf("62.366", kPound, german), "1.000,0000");  // sixty-two thousand
+    EXPECT_EQ(FlowingGravityText({"62,366", kGermany}, kPound, kGermany), "1,0000");
+    EXPECT_EQ(FlowingGravityText({"62.366", kGermany}, kPound, kGermany),
+              "1.000,0000");  // sixty-two thousand
 }
 
 // The factor is the double of its text, not the single: 0.06242798 x 8.4e10 / 62.366.
@@ -58,13 +63,13 @@ TEST_F(DensitiesTest, TheDensityFactorIsTakenInDoublePrecision) {
         const auto asSingle = 0.06242798F * value / 62.366F;
         const std::string expected = FormatNumber(asDouble, 4, kUnitedStates, Grouping::On);
         const std::string text = FormatNumber(value, 0, kUnitedStates, Grouping::Off);
-        EXPECT_EQ(CalcSGf(text, kKilogram, module), expected);
+        EXPECT_EQ(FlowingGravityText({text, kUnitedStates}, kKilogram, kUnitedStates), expected);
         differing += FormatNumber(asSingle, 4, kUnitedStates, Grouping::On) != expected ? 1 : 0;
     }
     EXPECT_GT(differing, 10);
 }
 
-// CalcSteamDensity --------------------------------------------------------------------------------
+// SteamDensityTextOf ------------------------------------------------------------------------------
 
 struct SteamDensityRow : NamedRow {
     const char* pressure;
@@ -83,7 +88,7 @@ TEST_P(SteamDensityOf, IsWrittenOrRefused) {
     InputSheet sheet = SteamAt(row.pressure, row.absolute);
     sheet.pressUnit = UnitNamed(kPressUnits, row.pressUnit);
     sheet.densityUnit = UnitNamed(kDensityUnits, row.densityUnit);
-    const SteamDensityResult result = CalcSteamDensity(sheet, module);
+    const SteamDensityText result = SteamDensityTextOf(sheet, module);
     EXPECT_EQ(result.density, row.density);
     EXPECT_EQ(result.message, row.message);
 }
@@ -137,9 +142,9 @@ INSTANTIATE_TEST_SUITE_P(Densities, SteamDensityOf, ::testing::ValuesIn(kSteamDe
 
 TEST_F(DensitiesTest, SteamDensityIsWrittenInTheLocale) {
     const Module1 german(platform, kGermany);
-    EXPECT_EQ(CalcSteamDensity(SteamAt("100"), german).density, "0,25704");
-    EXPECT_EQ(CalcSteamDensity(SteamAt("100,5"), german).density, "0,25810");
-    EXPECT_EQ(CalcSteamDensity(SteamAt("3.001"), german).message, Above("3.000 PSI (gauge)"));
+    EXPECT_EQ(SteamDensityTextOf(SteamAt("100"), german).density, "0,25704");
+    EXPECT_EQ(SteamDensityTextOf(SteamAt("100,5"), german).density, "0,25810");
+    EXPECT_EQ(SteamDensityTextOf(SteamAt("3.001"), german).message, Above("3.000 PSI (gauge)"));
 }
 
 // CheckZfComp -------------------------------------------------------------------------------------
@@ -161,7 +166,7 @@ TEST_P(ZfCompWarning, DependsOnTheGaugePressure) {
     sheet.pressUnit = UnitNamed(kPressUnits, row.pressUnit);
     sheet.absolutePressure = row.absolute;
     sheet.compCorrection = row.correction;
-    EXPECT_EQ(CheckZfComp(sheet, module), row.warning);
+    EXPECT_EQ(CheckZfComp(sheet), row.warning);
 }
 
 constexpr auto kNoCorrection = CompCorrection::None;
@@ -199,33 +204,33 @@ INSTANTIATE_TEST_SUITE_P(Warnings, ZfCompWarning, ::testing::ValuesIn(kWarningRo
 
 TEST(PlateThicknessTest, FromEightInchesAnd150InchesOfWaterOn) {
     const SelectedUnit& inches = kDeltaPUnits[0];
-    EXPECT_TRUE(CheckPlateThickness("8", "150", inches, kUnitedStates));
-    EXPECT_FALSE(CheckPlateThickness("8", "149.9", inches, kUnitedStates));
-    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", inches, kUnitedStates));
-    EXPECT_TRUE(CheckPlateThickness("42", "1000", inches, kUnitedStates));
-    EXPECT_TRUE(CheckPlateThickness("10", "150", inches, kUnitedStates));
-    EXPECT_FALSE(CheckPlateThickness("6", "150", inches, kUnitedStates));
-    EXPECT_FALSE(CheckPlateThickness("6", "1000000", inches, kUnitedStates));
-    EXPECT_FALSE(CheckPlateThickness("7.9999995", "150", inches, kUnitedStates));
-    EXPECT_FALSE(CheckPlateThickness("0.5", "150", inches, kUnitedStates));
+    EXPECT_TRUE(CheckPlateThickness("8", "150", inches));
+    EXPECT_FALSE(CheckPlateThickness("8", "149.9", inches));
+    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", inches));
+    EXPECT_TRUE(CheckPlateThickness("42", "1000", inches));
+    EXPECT_TRUE(CheckPlateThickness("10", "150", inches));
+    EXPECT_FALSE(CheckPlateThickness("6", "150", inches));
+    EXPECT_FALSE(CheckPlateThickness("6", "1000000", inches));
+    EXPECT_FALSE(CheckPlateThickness("7.9999995", "150", inches));
+    EXPECT_FALSE(CheckPlateThickness("0.5", "150", inches));
 }
 
 TEST(PlateThicknessTest, OtherUnitsAreConvertedFirst) {
     const SelectedUnit psi = UnitNamed(kDeltaPUnits, "PSI");
-    EXPECT_FALSE(CheckPlateThickness("8", "5.41", psi, kUnitedStates));  // 149.86
-    EXPECT_TRUE(CheckPlateThickness("8", "5.42", psi, kUnitedStates));   // 150.13
+    EXPECT_FALSE(CheckPlateThickness("8", "5.41", psi));  // 149.86
+    EXPECT_TRUE(CheckPlateThickness("8", "5.42", psi));   // 150.13
     const SelectedUnit pascal = UnitNamed(kDeltaPUnits, "Pa");
-    EXPECT_TRUE(CheckPlateThickness("8", "0.04", pascal, kUnitedStates));
+    EXPECT_TRUE(CheckPlateThickness("8", "0.04", pascal));
 }
 
 TEST(PlateThicknessTest, WithoutANumberThereIsNoWarning) {
     const SelectedUnit& inches = kDeltaPUnits[0];
     for (const char* deltaP : {"", "abc", "150,0", "-200", "1e39"}) {
-        EXPECT_FALSE(CheckPlateThickness("8", deltaP, inches, kUnitedStates)) << deltaP;
+        EXPECT_FALSE(CheckPlateThickness("8", deltaP, inches)) << deltaP;
     }
-    EXPECT_FALSE(CheckPlateThickness("", "200", inches, kUnitedStates));
-    EXPECT_TRUE(CheckPlateThickness("8", "150,5", inches, kGermany));
-    EXPECT_TRUE(CheckPlateThickness("8,0", "150", inches, kGermany));
+    EXPECT_FALSE(CheckPlateThickness("", "200", inches));
+    EXPECT_TRUE(CheckPlateThickness("8", {"150,5", kGermany}, inches));
+    EXPECT_TRUE(CheckPlateThickness({"8,0", kGermany}, "150", inches));
 }
 
 }  // namespace

@@ -14,9 +14,6 @@ using namespace testing;
 TEST(DataChecksTest, StatusesAndColours) {
     EXPECT_EQ(kDataGood, 1);
     EXPECT_EQ(kDataBad, 2);
-    EXPECT_EQ(kMessageNone, 0xE0E0E0);
-    EXPECT_EQ(kMessageCheck, 0x00FFFF);
-    EXPECT_EQ(kMessageCalculation, 0x0000FF);
     EXPECT_EQ(kAtmosphericPressurePsi, 14.7F);
 }
 
@@ -170,13 +167,14 @@ TEST_F(DataChkLiquidTest, ABadSheetLeavesTheWorkingValues) {
 TEST_F(DataChkLiquidTest, NumbersAreReadInTheLocale) {
     Module1 german(platform, kGermany);
     InputSheet sheet = LiquidSheet();
-    sheet.sgf = "0,82";
-    sheet.sgb = "0.85";
-    EXPECT_EQ(DataChkLiquid(sheet, german), kDataBad);
-    EXPECT_EQ(german.MsgText, "Non-Numeric fluid data (Base Specific Gravity).");
-    sheet.sgb = "0,85";
-    EXPECT_EQ(DataChkLiquid(sheet, german), kDataGood);
-    EXPECT_EQ(german.working.FlowingSG, 0.82F);
+    sheet.sgf = {"0,82", kGermany};
+    sheet.sgb = {"0.85", kGermany};
+    EXPECT_EQ(DataChkLiquid(sheet, {}, german).message,
+              "Non-Numeric fluid data (Base Specific Gravity).");
+    sheet.sgb = {"0,85", kGermany};
+    const CheckResult good = DataChkLiquid(sheet, {}, german);
+    EXPECT_EQ(good.status(), kDataGood);
+    EXPECT_EQ(good.working.FlowingSG, 0.82F);
 }
 
 }  // namespace

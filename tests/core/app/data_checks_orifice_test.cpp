@@ -1,5 +1,6 @@
 // The check of flow rate, differential pressure and beta, and the standard range of beta.
 #include "app/sheet/data_checks.h"
+#include "app/sheet/warning_rules.h"
 #include "app/sheets.h"
 #include "named_row.h"
 
@@ -12,12 +13,18 @@ namespace {
 
 using namespace testing;
 
+// Takes what the checks of the fluids take.
+constexpr auto kOrificeCheck = [](const InputSheet& sheet, const WorkingValues& before,
+                                  const Module1& /*module*/) {
+    return OrificeDataCheck(sheet, before);
+};
+
 class OrificeDataCheckRow : public SheetRowTest {};
 
 TEST_P(OrificeDataCheckRow, SaysWhatIsWrong) {
     InputSheet sheet = LiquidSheet(SolveFor::Beta);
     GetParam().change(sheet);
-    EXPECT_EQ(MessageOf(OrificeDataCheck, sheet), GetParam().message);
+    EXPECT_EQ(MessageOf(kOrificeCheck, sheet), GetParam().message);
 }
 
 // clang-format off
@@ -110,7 +117,7 @@ class OrificeDataCheckTest : public SheetTest {};
 
 TEST_F(OrificeDataCheckTest, StoresNothing) {
     module.working = {1, 2, 3, 4, 5, 6, 7, 8};
-    EXPECT_EQ(MessageOf(OrificeDataCheck, LiquidSheet(SolveFor::Beta)), "");
+    EXPECT_EQ(MessageOf(kOrificeCheck, LiquidSheet(SolveFor::Beta)), "");
     EXPECT_EQ(module.working.FlowingSG, 1.0F);
     EXPECT_EQ(module.working.UserZf, 8.0F);
 }
@@ -124,31 +131,31 @@ TEST(BetaRangeTest, TheWarning) {
 }
 
 TEST(BetaRangeTest, TheBoundsAreInside) {
-    EXPECT_FALSE(IsBetaOutsideStandardRange("0.15", kUnitedStates));
-    EXPECT_FALSE(IsBetaOutsideStandardRange("0.67", kUnitedStates));
-    EXPECT_FALSE(IsBetaOutsideStandardRange("0.5", kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange("0.14999", kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange("0.67001", kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange("0.7", kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange("0", kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange("-1", kUnitedStates));
+    EXPECT_FALSE(IsBetaOutsideStandardRange("0.15"));
+    EXPECT_FALSE(IsBetaOutsideStandardRange("0.67"));
+    EXPECT_FALSE(IsBetaOutsideStandardRange("0.5"));
+    EXPECT_TRUE(IsBetaOutsideStandardRange("0.14999"));
+    EXPECT_TRUE(IsBetaOutsideStandardRange("0.67001"));
+    EXPECT_TRUE(IsBetaOutsideStandardRange("0.7"));
+    EXPECT_TRUE(IsBetaOutsideStandardRange("0"));
+    EXPECT_TRUE(IsBetaOutsideStandardRange("-1"));
 }
 
 TEST(BetaRangeTest, TheBoundsAreSingles) {
     const auto text = [](float value) {
         return FormatNumber(double{value}, 9, kUnitedStates, Grouping::Off);
     };
-    EXPECT_TRUE(IsBetaOutsideStandardRange(text(std::nextafter(0.15F, 0.0F)), kUnitedStates));
-    EXPECT_FALSE(IsBetaOutsideStandardRange(text(std::nextafter(0.15F, 1.0F)), kUnitedStates));
-    EXPECT_FALSE(IsBetaOutsideStandardRange(text(std::nextafter(0.67F, 0.0F)), kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange(text(std::nextafter(0.67F, 1.0F)), kUnitedStates));
+    EXPECT_TRUE(IsBetaOutsideStandardRange({text(std::nextafter(0.15F, 0.0F)), kUnitedStates}));
+    EXPECT_FALSE(IsBetaOutsideStandardRange({text(std::nextafter(0.15F, 1.0F)), kUnitedStates}));
+    EXPECT_FALSE(IsBetaOutsideStandardRange({text(std::nextafter(0.67F, 0.0F)), kUnitedStates}));
+    EXPECT_TRUE(IsBetaOutsideStandardRange({text(std::nextafter(0.67F, 1.0F)), kUnitedStates}));
 }
 
 TEST(BetaRangeTest, WhatIsNoNumberIsNotOutside) {
-    EXPECT_FALSE(IsBetaOutsideStandardRange("", kUnitedStates));
-    EXPECT_FALSE(IsBetaOutsideStandardRange("abc", kUnitedStates));
-    EXPECT_FALSE(IsBetaOutsideStandardRange("0,7", kUnitedStates));
-    EXPECT_TRUE(IsBetaOutsideStandardRange("0,7", kGermany));
+    EXPECT_FALSE(IsBetaOutsideStandardRange(""));
+    EXPECT_FALSE(IsBetaOutsideStandardRange("abc"));
+    EXPECT_FALSE(IsBetaOutsideStandardRange("0,7"));
+    EXPECT_TRUE(IsBetaOutsideStandardRange({"0,7", kGermany}));
 }
 
 }  // namespace

@@ -146,9 +146,9 @@ TEST_F(DataChkSteamTest, TheVacuumIsTheLastPressureRefused) {
     InputSheet sheet = SteamSheet();
     const float above = std::nextafter(-14.7F, 0.0F);
     const float below = std::nextafter(-14.7F, -20.0F);
-    sheet.pf = FormatNumber(double{above}, 9, kUnitedStates, Grouping::Off);
+    sheet.pf = {FormatNumber(double{above}, 9, kUnitedStates, Grouping::Off), kUnitedStates};
     EXPECT_EQ(MessageOf(DataChkSteam, sheet), "");
-    sheet.pf = FormatNumber(double{below}, 9, kUnitedStates, Grouping::Off);
+    sheet.pf = {FormatNumber(double{below}, 9, kUnitedStates, Grouping::Off), kUnitedStates};
     EXPECT_NE(MessageOf(DataChkSteam, sheet), "");
     sheet.pf = "-14.7";
     EXPECT_NE(MessageOf(DataChkSteam, sheet), "");
@@ -157,11 +157,11 @@ TEST_F(DataChkSteamTest, TheVacuumIsTheLastPressureRefused) {
 TEST_F(DataChkSteamTest, TheLimitIsWrittenInTheLocale) {
     Module1 german(platform, kGermany);
     InputSheet sheet = SteamSheet();
-    sheet.density = "0,25704";
+    sheet.density = {"0,25704", kGermany};
     sheet.pressUnit = UnitNamed(kPressUnits, "Pa");
-    sheet.pf = "-200.000";
-    EXPECT_EQ(DataChkSteam(sheet, german), kDataBad);
-    EXPECT_EQ(german.MsgText, "Operating Pressure must be greater than -101.353,0000 Pa.");
+    sheet.pf = {"-200.000", kGermany};
+    EXPECT_EQ(DataChkSteam(sheet, {}, german).message,
+              "Operating Pressure must be greater than -101.353,0000 Pa.");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "app/shared/module1.h"
 #include "app/sheet/data_checks.h"
 #include "app/sheet/input_sheet.h"
+#include "app/sheet/solve_sheet.h"
 #include "locales.h"
 #include "named_row.h"
 #include "recording_platform.h"
@@ -28,7 +29,7 @@ SelectedUnit UnitNamed(const Units& units, std::string_view text) {
 }
 
 inline void SelectFlow(InputSheet& sheet, std::string_view flowUnit, std::string_view timeUnit) {
-    const auto units = FlowUnitsOf(sheet.fluidType).units;
+    const auto units = FlowUnitsOf(sheet.fluid).units;
     sheet.flowUnit = UnitNamed(units, flowUnit);
     for (const FlowUnit& unit : units) {
         if (unit.text == flowUnit) {
@@ -39,9 +40,9 @@ inline void SelectFlow(InputSheet& sheet, std::string_view flowUnit, std::string
 }
 
 // What every fluid has: a mode, a pipe, the first unit of each list.
-inline InputSheet SheetOf(std::string_view fluid, SolveFor mode) {
+inline InputSheet SheetOf(Fluid fluid, SolveFor mode) {
     InputSheet sheet;
-    sheet.fluidType = fluid;
+    sheet.fluid = fluid;
     sheet.mode = mode;
     sheet.flow = "140";
     sheet.deltaP = "100";
@@ -58,7 +59,7 @@ inline InputSheet SheetOf(std::string_view fluid, SolveFor mode) {
 
 // Water with typed gravities.
 inline InputSheet LiquidSheet(SolveFor mode = SolveFor::FlowRate) {
-    InputSheet sheet = SheetOf("L", mode);
+    InputSheet sheet = SheetOf(Fluid::Liquid, mode);
     sheet.sgf = "1";
     sheet.sgb = "1";
     sheet.sgbVisible = true;
@@ -67,7 +68,7 @@ inline InputSheet LiquidSheet(SolveFor mode = SolveFor::FlowRate) {
 
 // Saturated steam at 100 psi gauge with a typed density.
 inline InputSheet SteamSheet(SolveFor mode = SolveFor::FlowRate) {
-    InputSheet sheet = SheetOf("S", mode);
+    InputSheet sheet = SheetOf(Fluid::Steam, mode);
     sheet.flow = "1000";
     sheet.pf = "100";
     sheet.density = "0.25704";
@@ -76,13 +77,26 @@ inline InputSheet SteamSheet(SolveFor mode = SolveFor::FlowRate) {
 
 // Air at 60 deg F and 100 psi gauge, without compressibility correction.
 inline InputSheet GasSheet(SolveFor mode = SolveFor::FlowRate) {
-    InputSheet sheet = SheetOf("G", mode);
+    InputSheet sheet = SheetOf(Fluid::Gas, mode);
     sheet.flow = "500000";
     sheet.tf = "60";
     sheet.pf = "100";
     sheet.gasSGb = "1";
     sheet.gasSGbVisible = true;
     return sheet;
+}
+
+// Runs the checks of a sheet and keeps what they find, as the window does. Returns the status.
+inline int CheckAndKeep(const InputSheet& sheet, Module1& module) {
+    const CheckResult result = CheckInputs(sheet, module.working, module);
+    module.working = result.working;
+    module.MsgText = result.message;
+    return result.status();
+}
+
+// Solves a sheet from what its checks have found.
+inline CalculationResult Solved(const InputSheet& sheet, Module1& module) {
+    return CalculateResult(sheet, module.working, module);
 }
 
 // A row of a table of spoiled sheets: what is changed, and what the check says ("": good).
@@ -97,10 +111,12 @@ class SheetTest : public ::testing::Test {
     template <typename Check>
     std::string MessageOf(Check check, const InputSheet& sheet) {
         module.MsgText = "left from before";
-        const int result = check(sheet, module);
-        EXPECT_EQ(result, module.MsgText.empty() ? kDataGood : kDataBad);
+        const CheckResult result = check(sheet, module.working, module);
+        EXPECT_EQ(result.status(), result.message.empty() ? kDataGood : kDataBad);
+        EXPECT_EQ(module.MsgText, "left from before") << "checks write nothing";
         EXPECT_TRUE(platform.boxes.empty()) << "checks never show a box";
-        return module.MsgText;
+        module.working = result.working;
+        return result.message;
     }
 
     RecordingPlatform platform;

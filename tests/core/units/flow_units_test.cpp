@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 namespace tarvix {
 
@@ -13,36 +14,43 @@ namespace {
 
 using namespace testing;
 
-class FluidFlowUnitsTest : public ::testing::TestWithParam<const char*> {};
+// A fluid with the letter by which the copy names it.
+using NamedFluid = std::pair<const char*, Fluid>;
+
+class FluidFlowUnitsTest : public ::testing::TestWithParam<NamedFluid> {};
 
 TEST_P(FluidFlowUnitsTest, AreTheListedOnesEntryByEntry) {
-    const std::string fluid = GetParam();
+    const auto& [letter, fluid] = GetParam();
     const auto units = FlowUnitsOf(fluid).units;
-    const auto rows = RowsOf(ReadDataFile("units.tsv"), "flow " + fluid);
+    const auto rows = RowsOf(ReadDataFile("units.tsv"), std::string("flow ") + letter);
     ASSERT_EQ(units.size(), rows.size());
     ASSERT_FALSE(rows.empty());
     for (size_t i = 0; i < rows.size(); ++i) {
         SCOPED_TRACE(rows[i][2]);
         EXPECT_EQ(rows[i][1], std::to_string(i));
         EXPECT_EQ(units[i].text, rows[i][2]);
-        EXPECT_EQ(units[i].kind, rows[i][3]);
+        EXPECT_EQ(units[i].kind == FlowKind::Mass ? "M" : "V", rows[i][3]);
         EXPECT_EQ(units[i].factor, std::strtof(rows[i][4].c_str(), nullptr));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(FlowUnits, FluidFlowUnitsTest, ::testing::Values("L", "S", "G"));
+INSTANTIATE_TEST_SUITE_P(FlowUnits, FluidFlowUnitsTest,
+                         ::testing::Values(NamedFluid{"L", Fluid::Liquid},
+                                           NamedFluid{"S", Fluid::Steam},
+                                           NamedFluid{"G", Fluid::Gas}));
 
 TEST(FlowUnitsTest, EachFluidHasItsDefaults) {
-    EXPECT_EQ(FlowUnitsOf("L").defaultFlowUnit, "Gallons");
-    EXPECT_EQ(FlowUnitsOf("L").defaultTimeUnit, "Minute");
-    EXPECT_EQ(FlowUnitsOf("S").defaultFlowUnit, "Pounds");
-    EXPECT_EQ(FlowUnitsOf("S").defaultTimeUnit, "Hour");
-    EXPECT_EQ(FlowUnitsOf("G").defaultFlowUnit, "Standard Cubic Feet");
-    EXPECT_EQ(FlowUnitsOf("G").defaultTimeUnit, "Day");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Liquid).defaultFlowUnit, "Gallons");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Liquid).defaultTimeUnit, "Minute");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Steam).defaultFlowUnit, "Pounds");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Steam).defaultTimeUnit, "Hour");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Gas).defaultFlowUnit, "Standard Cubic Feet");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Gas).defaultTimeUnit, "Day");
 }
 
 TEST(FlowUnitsTest, EveryDefaultIsInItsList) {
-    for (const char* fluid : {"L", "S", "G"}) {
+    for (const Fluid fluid : {Fluid::Liquid, Fluid::Steam, Fluid::Gas}) {
+        SCOPED_TRACE(static_cast<int>(fluid));
         const auto flowUnits = FlowUnitsOf(fluid);
         int flow = 0;
         for (const FlowUnit& unit : flowUnits.units) {
@@ -52,27 +60,22 @@ TEST(FlowUnitsTest, EveryDefaultIsInItsList) {
         for (const Unit& unit : kTimeUnits) {
             time += unit.text == flowUnits.defaultTimeUnit ? 1 : 0;
         }
-        EXPECT_EQ(flow, 1) << fluid;
-        EXPECT_EQ(time, 1) << fluid;
+        EXPECT_EQ(flow, 1);
+        EXPECT_EQ(time, 1);
     }
 }
 
-TEST(FlowUnitsTest, AnyOtherFluidHasNoUnits) {
-    for (const char* fluid : {"", "l", "g", "s", "LG", "X", " L"}) {
-        const auto flowUnits = FlowUnitsOf(fluid);
-        EXPECT_TRUE(flowUnits.units.empty()) << fluid;
-        EXPECT_EQ(flowUnits.defaultFlowUnit, "") << fluid;
-        EXPECT_EQ(flowUnits.defaultTimeUnit, "") << fluid;
+TEST(FlowUnitsTest, AFluidHasACodeOfOneCapitalLetter) {
+    EXPECT_EQ(FluidOf("L"), Fluid::Liquid);
+    EXPECT_EQ(FluidOf("S"), Fluid::Steam);
+    EXPECT_EQ(FluidOf("G"), Fluid::Gas);
+    for (const char* code : {"", "l", "g", "s", "LG", "X", " L"}) {
+        EXPECT_EQ(FluidOf(code), std::nullopt) << code;
     }
-}
-
-TEST(FlowUnitsTest, KindsAreOneLetter) {
-    EXPECT_EQ(kVolumeKind, "V");
-    EXPECT_EQ(kMassKind, "M");
 }
 
 TEST(FlowUnitsTest, TenStandardCubicMetersPerHourInCubicFeet) {
-    const float cubicFeetPerHour = 10.0F * FlowUnitsOf("G").units[3].factor;
+    const float cubicFeetPerHour = 10.0F * FlowUnitsOf(Fluid::Gas).units[3].factor;
     EXPECT_EQ(cubicFeetPerHour, 353.1466F);
     EXPECT_EQ(cubicFeetPerHour / kTimeUnits[1].factor, 5.885777F);
 }
