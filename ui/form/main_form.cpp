@@ -1,6 +1,7 @@
 #include "ui/form/main_form.h"
 
 #include "ui/controls/frame_box.h"
+#include "ui/form/places.h"
 
 #include <QFontMetricsF>
 #include <QLayout>
@@ -32,7 +33,7 @@ constexpr int kRounding = 3;
 // rows begin below its caption, and the frames on the tab control below its tab.
 constexpr std::pair<const char*, int> kCompCorrLines[] = {
     {"Operating Density", 1500},
-    {"Flowing Conditions (Zf)", 1700},
+    {"Flowing Conditions (Zf)", kCompCorrWidthZf},
 };
 constexpr int kRowHeight = 270;
 constexpr int kCaptionHeight = 240;

@@ -1,6 +1,7 @@
 // The controls of the main window: captions and places. Twips, relative to the frame around them.
 #include "ui/controls/tab_control.h"
 #include "ui/form/main_form.h"
+#include "ui/form/places.h"
 
 #include <QHBoxLayout>
 
@@ -33,13 +34,6 @@ constexpr int kField = 1500;
 
 // From the left edge of a warning's box to its text.
 constexpr int kWarningInset = 180;
-
-// The frames on the tab.
-constexpr int kTabLeft = 165;
-constexpr int kTabWidth = 9015;
-constexpr int kSlot1 = 360;
-constexpr int kSlot2 = 1320;
-constexpr int kSlot3 = 2280;
 
 // The widest entry that each list ever shows.
 constexpr const char* kWidestDensityUnit = "kg/cubic meter";
@@ -170,7 +164,7 @@ void MainForm::BuildCompressibility(QWidget* tab) {
     optCompZf = AddOption(fraCompCorrection, "optCompZf", "Zf", {kColumnA, kOption3, 1260, kRow});
     // On one line or two, the last one in the row above the field.
     lblCompCorr = AddLabel(fraCompCorrection, "lblCompCorr", "Operating Density",
-                           {kColumnB, kOption1, 735, kOption2 + kRow - kOption1});
+                           {kColumnB, kOption1, kCompCorrWidthDensity, kOption2 + kRow - kOption1});
     lblCompCorr->setWordWrap(true);
     lblCompCorr->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     txtZf = AddField(fraCompCorrection, "txtZf", {kColumnB, kOption3, kField, kRow});

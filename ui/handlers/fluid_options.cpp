@@ -2,6 +2,7 @@
 
 #include "app/dispatch/do_orifice_calculations.h"
 #include "ui/form/handler_links.h"
+#include "ui/form/places.h"
 #include "ui/handlers/densities.h"
 #include "ui/handlers/flow_unit_boxes.h"
 #include "ui/handlers/numeric_fields.h"
@@ -10,14 +11,6 @@
 namespace tarvix {
 
 namespace {
-
-// Places in twips that change with the fluid and the option.
-constexpr int kDensityTopLiquid = 1320;
-constexpr int kDensityTopSteam = 360;
-constexpr int kPressWidthGas = 6555;
-constexpr int kPressWidthSteam = 9015;
-constexpr int kCompCorrWidthDensity = 735;
-constexpr int kCompCorrWidthZf = 1700;
 
 void SetVisible(QWidget* widget, bool visible) {
     widget->setVisible(visible);
@@ -63,7 +56,7 @@ void optLiquid_Click(const FormContext& context) {
     SetVisible(form.fraPress, false);
     SetVisible(form.fraDensity, true);
     SetVisible(form.fraCompCorrection, false);
-    form.SetTop(*form.fraDensity, kDensityTopLiquid);
+    form.SetTop(*form.fraDensity, kSlot2);
     form.fraDensity->setEnabled(false);
     SetVisible(form.lblSteamTbl, false);
     DenOptEnableOff(context);
@@ -114,8 +107,8 @@ void optSteam_Click(const FormContext& context) {
     SetVisible(form.fraPress, true);
     SetVisible(form.fraDensity, true);
     SetVisible(form.fraCompCorrection, false);
-    form.SetTop(*form.fraDensity, kDensityTopSteam);
-    form.SetWidth(*form.fraPress, kPressWidthSteam);
+    form.SetTop(*form.fraDensity, kSlot1);
+    form.SetWidth(*form.fraPress, kTabWidth);
     form.fraDensity->setEnabled(true);
     SetVisible(form.lblSteamTbl, true);
     DenEnableOn(context);
