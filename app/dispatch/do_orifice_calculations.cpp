@@ -9,10 +9,9 @@ namespace tarvix {
 namespace {
 
 void StandardBetaRangeCheck(const FormContext& context) {
-    Module1& module = context.module;
     if (IsBetaOutsideStandardRange(context.form.txtBeta->Number())) {
-        module.MsgText = kBetaRangeWarning;
-        ShowMessage(context, module.MsgText, BackColor::Yellow);
+        context.module.MsgText = kBetaRangeWarning;
+        ShowMessage(context, context.module.MsgText, BackColor::Yellow);
     }
 }
 

@@ -84,9 +84,9 @@ void ConnectBoreAndBeta(const FormContext& context) {
 
 void txtBeta_Change(const FormContext& context) {
     const MainForm& form = context.form;
-    Module1& module = context.module;
     const auto beta = form.txtBeta->Number().Single();
     if (beta && *beta >= kMaxBeta) {
+        Module1& module = context.module;
         module.MsgText = BetaLimitMessage(context);
         module.MsgTitle = "Beta Value";
         module.MsgResult = module.platform().ShowMessageBox(
