@@ -16,7 +16,7 @@ using namespace testing;
 
 class DensitiesTest : public SheetTest {
   protected:
-    static InputSheet SteamAt(const char* pressure, bool absolute = false) {
+    static InputSheet SteamAt(const EnteredNumber& pressure, bool absolute = false) {
         InputSheet sheet = SteamSheet();
         sheet.pf = pressure;
         sheet.absolutePressure = absolute;
@@ -142,9 +142,10 @@ INSTANTIATE_TEST_SUITE_P(Densities, SteamDensityOf, ::testing::ValuesIn(kSteamDe
 
 TEST_F(DensitiesTest, SteamDensityIsWrittenInTheLocale) {
     const Module1 german(platform, kGermany);
-    EXPECT_EQ(SteamDensityTextOf(SteamAt("100"), german).density, "0,25704");
-    EXPECT_EQ(SteamDensityTextOf(SteamAt("100,5"), german).density, "0,25810");
-    EXPECT_EQ(SteamDensityTextOf(SteamAt("3.001"), german).message, Above("3.000 PSI (gauge)"));
+    EXPECT_EQ(SteamDensityTextOf(SteamAt({"100", kGermany}), german).density, "0,25704");
+    EXPECT_EQ(SteamDensityTextOf(SteamAt({"100,5", kGermany}), german).density, "0,25810");
+    EXPECT_EQ(SteamDensityTextOf(SteamAt({"3.001", kGermany}), german).message,
+              Above("3.000 PSI (gauge)"));
 }
 
 // CheckZfComp -------------------------------------------------------------------------------------
