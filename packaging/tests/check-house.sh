@@ -54,6 +54,14 @@ for file in "${scripts[@]}"; do
 done
 none_of "shellcheck finds nothing" bash -c '! shellcheck -x -S warning "$@"' - "${scripts[@]}"
 
+# Spelled right but for what the product spells its own way ("mimimum", "Diamter"), names in the code,
+# and words of other languages and notations.
+none_of "codespell finds nothing" \
+    bash -c '! codespell --ignore-words packaging/spellings.txt "$@"' - "${texts[@]}"
+
+# Every file has a copyright holder and a licence, its own or that of .reuse/dep5.
+none_of "reuse lint finds nothing" bash -c '! { reuse --root . lint --quiet || reuse --root . lint; }'
+
 # The logos say their size, and the report's fits into three lines of 12 point text.
 for logo in BrindleLogo VeltraneLogo; do
     # JFIF: unit (1 is dots per inch) and density across and down, at 13 bytes from the start.
