@@ -3,9 +3,9 @@
 
 #include "tests/core/locales.h"
 #include "tests/core/recording_platform.h"
-#include "tests/report/modal_driver.h"
 #include "tests/report/pdf_reader.h"
 #include "tests/report/sample_sheets.h"
+#include "tests/window/modal_driver.h"
 
 #include <QFile>
 #include <QLineEdit>

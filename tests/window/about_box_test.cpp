@@ -1,6 +1,6 @@
 #include "ui/windows/about_box.h"
 
-#include "tests/report/modal_driver.h"
+#include "tests/window/modal_driver.h"
 
 #include <QTest>
 

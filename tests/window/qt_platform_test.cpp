@@ -1,0 +1,109 @@
+// The program's own boxes, answered in every way that a user has.
+#include "ui/windows/qt_platform.h"
+
+#include "tests/window/modal_driver.h"
+
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTime>
+
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+namespace {
+
+MessageBoxRequest Box(BoxButtons buttons) {
+    MessageBoxRequest request;
+    request.title = "Program Termination";
+    request.text = "One line\n\rand another";
+    request.buttons = buttons;
+    request.style = BoxStyle::Critical;
+    return request;
+}
+
+int AnswerTo(const MessageBoxRequest& request, const std::function<void(QMessageBox&)>& act) {
+    ModalDriver<QMessageBox> driver(act);
+    const int answer = QtPlatform().ShowMessageBox(request);
+    EXPECT_TRUE(driver.done());
+    return answer;
+}
+
+TEST(QtPlatformTest, AnswersOfABoxThatCanBeCancelled) {
+    const MessageBoxRequest box = Box(BoxButtons::OkCancel);
+    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.button(QMessageBox::Ok)->click(); }), kAnswerOk);
+    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.button(QMessageBox::Cancel)->click(); }),
+              kAnswerCancel);
+    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.close(); }), kAnswerCancel);
+    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.reject(); }), kAnswerCancel);
+}
+
+TEST(QtPlatformTest, ABoxWithoutCancelIsConfirmedHoweverItIsClosed) {
+    const MessageBoxRequest box = Box(BoxButtons::Ok);
+    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.button(QMessageBox::Ok)->click(); }), kAnswerOk);
+    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.close(); }), kAnswerOk);
+}
+
+TEST(QtPlatformTest, ABoxShowsWhatIsAsked) {
+    const std::pair<BoxStyle, QMessageBox::Icon> icons[] = {
+        {BoxStyle::Critical, QMessageBox::Critical},
+        {BoxStyle::Exclamation, QMessageBox::Warning},
+        {BoxStyle::Information, QMessageBox::Information}};
+    for (const auto& [style, icon] : icons) {
+        MessageBoxRequest request = Box(BoxButtons::OkCancel);
+        request.style = style;
+        AnswerTo(request, [icon = icon](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), icon);
+            EXPECT_EQ(box.windowTitle(), "Program Termination");
+            EXPECT_EQ(box.text(), "One line\nand another");
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_TRUE(box.defaultButton() == box.button(QMessageBox::Ok));
+            box.close();
+        });
+    }
+    AnswerTo(Box(BoxButtons::Ok), [](QMessageBox& box) {
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+        box.close();
+    });
+}
+
+std::optional<std::string> InputAfter(const std::function<void(QInputDialog&)>& act) {
+    ModalDriver<QInputDialog> driver(act);
+    const auto answer = QtPlatform().ShowInputBox({"Enter a Pipe ID in Inches.", "Pipe ID", "4.5"});
+    EXPECT_TRUE(driver.done());
+    return answer;
+}
+
+TEST(QtPlatformTest, AnswersOfAnInputBox) {
+    EXPECT_EQ(InputAfter([](QInputDialog& box) {
+                  EXPECT_EQ(box.windowTitle(), "Pipe ID");
+                  EXPECT_EQ(box.labelText(), "Enter a Pipe ID in Inches.");
+                  EXPECT_EQ(box.textValue(), "4.5");
+                  box.accept();
+              }),
+              "4.5");
+    EXPECT_EQ(InputAfter([](QInputDialog& box) {
+                  box.setTextValue("");
+                  box.accept();
+              }),
+              "");
+    EXPECT_EQ(InputAfter([](QInputDialog& box) { box.reject(); }), std::nullopt);
+    EXPECT_EQ(InputAfter([](QInputDialog& box) { box.close(); }), std::nullopt);
+}
+
+TEST(QtPlatformTest, TheClockIsTheSystems) {
+    const int before = QTime::currentTime().second();
+    const int second = QtPlatform().CurrentSecond();
+    const int after = QTime::currentTime().second();
+    EXPECT_TRUE(second == before || second == after) << second;
+}
+
+TEST(QtPlatformDeathTest, EndsWithTheStatusAsked) {
+    EXPECT_EXIT(QtPlatform().EndProgram(0), ::testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(QtPlatform().EndProgram(1), ::testing::ExitedWithCode(1), "");
+}
+
+}  // namespace
+}  // namespace tarvix::testing
