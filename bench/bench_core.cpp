@@ -1,10 +1,12 @@
 // The calculator without its window: whole recalculations, the equations alone, and the gas
-// iteration beside the bare loop of its square roots and powers.
+// and steam iterations beside bare loops of their square roots and products.
 #include "app/sheet/data_checks.h"
 #include "app/sheet/solve_sheet.h"
+#include "bench/bare_loops.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
+#include "numbers/decimal_form.h"
 #include "units/flow_units.h"
 
 #include <benchmark/benchmark.h>
@@ -136,90 +138,67 @@ constexpr MeteringRun BetaOf(float flow, float h) {
 
 // Typical runs have a beta of about 0.6 and 100 inches of water. The worst ones settle on the last
 // of the hundred steps, or not at all.
+constexpr MeteringRun kTypicalGasDiffPressure = DiffPressureOf(130000.0F, 0.6F);
 constexpr MeteringRun kTypicalGasBeta = BetaOf(130000.0F, 100.0F);
+constexpr MeteringRun kTypicalSteamDiffPressure = DiffPressureOf(6500.0F, 0.6F);
+constexpr MeteringRun kTypicalSteamBeta = BetaOf(6500.0F, 100.0F);
 constexpr MeteringRun kWorstGasBeta = BetaOf(232353.359375F, 50.0F);
 
 BENCHMARK_CAPTURE(TimeLiquid, Flow, FlowOf(100.0F, 0.6F));
 BENCHMARK_CAPTURE(TimeLiquid, DiffPressure, DiffPressureOf(200.0F, 0.6F));
 BENCHMARK_CAPTURE(TimeLiquid, Beta, BetaOf(200.0F, 100.0F));
 BENCHMARK_CAPTURE(TimeGas, Flow, FlowOf(100.0F, 0.6F), true);
-BENCHMARK_CAPTURE(TimeGas, DiffPressureTypical, DiffPressureOf(130000.0F, 0.6F), true);
+BENCHMARK_CAPTURE(TimeGas, DiffPressureTypical, kTypicalGasDiffPressure, true);
 BENCHMARK_CAPTURE(TimeGas, DiffPressureLastStep, DiffPressureOf(659775.9375F, 0.7F), true);
 BENCHMARK_CAPTURE(TimeGas, DiffPressureUnresolved, DiffPressureOf(661399.25F, 0.7F), false);
 BENCHMARK_CAPTURE(TimeGas, BetaTypical, kTypicalGasBeta, true);
 BENCHMARK_CAPTURE(TimeGas, BetaLastStep, kWorstGasBeta, true);
 BENCHMARK_CAPTURE(TimeGas, BetaUnresolved, BetaOf(240926.546875F, 50.0F), false);
 BENCHMARK_CAPTURE(TimeSteam, Flow, FlowOf(100.0F, 0.6F), true);
-BENCHMARK_CAPTURE(TimeSteam, DiffPressureTypical, DiffPressureOf(6500.0F, 0.6F), true);
+BENCHMARK_CAPTURE(TimeSteam, DiffPressureTypical, kTypicalSteamDiffPressure, true);
 BENCHMARK_CAPTURE(TimeSteam, DiffPressureLastStep, DiffPressureOf(31320.947265625F, 0.7F), true);
 BENCHMARK_CAPTURE(TimeSteam, DiffPressureUnresolved, DiffPressureOf(31527.25390625F, 0.7F), false);
-BENCHMARK_CAPTURE(TimeSteam, BetaTypical, BetaOf(6500.0F, 100.0F), true);
+BENCHMARK_CAPTURE(TimeSteam, BetaTypical, kTypicalSteamBeta, true);
 BENCHMARK_CAPTURE(TimeSteam, BetaLastStep, BetaOf(22972.4296875F, 200.0F), true);
 BENCHMARK_CAPTURE(TimeSteam, BetaUnresolved, BetaOf(17174.03125F, 100.0F), false);
 
-// The bare loop -----------------------------------------------------------------------------------
+// The bare loops ----------------------------------------------------------------------------------
 
-// What the gas beta iteration cannot do without, written plainly for one run: the square roots and
-// powers of each step and the conditions that end it, with nothing around them.
-struct BareResult {
-    float beta;
-    int steps;
-};
-
-template <bool withPow>
-BareResult BareGasBeta(float q, float h, float d) {
-    const float p = 114.7F;
-    const double root = std::sqrt(double{h * p / (519.67F * 1.0F * 1.0F)});
-    const auto t = static_cast<float>(double{q} / (218.468 * double{519.67F / 14.7F} * root));
-    float beta = 0.5F;
-    for (int n = 1; n <= 100; ++n) {
-        double b4 = 0;
-        if constexpr (withPow) {
-            b4 = std::pow(double{beta}, 4.0);
-        } else {
-            const double b2 = double{beta} * double{beta};
-            b4 = b2 * b2;
-        }
-        const auto e = static_cast<float>(double{0.6F} / std::sqrt(1.0 - b4));
-        const auto y =
-            static_cast<float>(1.0 - (0.41 + 0.35 * b4) * (double{h} / (27.707 * double{p})) / 1.3);
-        const float r = t / (y * e * beta * beta);
-        if (r < 0) {
-            return {0, n};
-        }
-        const auto s = static_cast<float>(std::sqrt(double{r}) / double{d});
-        if (s > 0.999999F && s < 1.000001F) {
-            return {beta, n};
-        }
-        beta = beta * s;
-        if (beta >= 1 || beta <= 0) {
-            return {0, n};
-        }
+// Beside each solve that iterates: what it cannot do without, in a loop that ends with the same
+// value.
+void Bare(benchmark::State& state, bare::Result (*loop)(float, float, float), MeteringRun run,
+          const Outcome& solved) {
+    const float known = run.solveFor == SolveFor::Beta ? run.diffPressInH2O : run.beta;
+    const float value = loop(run.flow, known, run.pipeDiameterIn).value;
+    const float shown =
+        run.solveFor == SolveFor::Beta ? static_cast<float>(Round(value, 5)) : value;
+    if (solved.value != shown) {
+        state.SkipWithError("not the solve's value");
+        return;
     }
-    return {0, 100};
-}
-
-template <bool withPow>
-void BareLoop(benchmark::State& state, MeteringRun run) {
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(run);
-        const BareResult result =
-            BareGasBeta<withPow>(run.flow, run.diffPressInH2O, run.pipeDiameterIn);
+        const bare::Result result =
+            loop(run.flow, run.solveFor == SolveFor::Beta ? run.diffPressInH2O : run.beta,
+                 run.pipeDiameterIn);
         benchmark::DoNotOptimize(result);
     }
 }
 
-void BareByMultiplication(benchmark::State& state, MeteringRun run) {
-    BareLoop<false>(state, run);
+void BareGas(benchmark::State& state, bare::Result (*loop)(float, float, float), MeteringRun run) {
+    Bare(state, loop, run, SolveGas(run, kAir));
 }
-void BareByPow(benchmark::State& state, MeteringRun run) {
-    BareLoop<true>(state, run);
+void BareSteam(benchmark::State& state, bare::Result (*loop)(float, float, float),
+               MeteringRun run) {
+    Bare(state, loop, run, SolveSteam(run, kSaturated));
 }
 
-BENCHMARK_CAPTURE(BareByMultiplication, GasBetaTypical, kTypicalGasBeta);
-BENCHMARK_CAPTURE(BareByMultiplication, GasBetaLastStep, kWorstGasBeta);
-BENCHMARK_CAPTURE(BareByPow, GasBetaTypical, kTypicalGasBeta);
-BENCHMARK_CAPTURE(BareByPow, GasBetaLastStep, kWorstGasBeta);
+BENCHMARK_CAPTURE(BareGas, DiffPressureTypical, bare::GasDiffPressure, kTypicalGasDiffPressure);
+BENCHMARK_CAPTURE(BareGas, BetaTypical, bare::GasBeta, kTypicalGasBeta);
+BENCHMARK_CAPTURE(BareGas, BetaLastStep, bare::GasBeta, kWorstGasBeta);
+BENCHMARK_CAPTURE(BareSteam, DiffPressureTypical, bare::SteamDiffPressure,
+                  kTypicalSteamDiffPressure);
+BENCHMARK_CAPTURE(BareSteam, BetaTypical, bare::SteamBeta, kTypicalSteamBeta);
 
 // Ratios ------------------------------------------------------------------------------------------
 
@@ -242,11 +221,12 @@ class RememberingReporter : public benchmark::ConsoleReporter {
         ConsoleReporter::ReportRuns(runs);
     }
 
-    void PrintRatio(const char* text, const std::string& of, const std::string& to) const {
-        const auto a = nanoseconds_.find(of);
-        const auto b = nanoseconds_.find(to);
-        if (a != nanoseconds_.end() && b != nanoseconds_.end()) {
-            std::printf("%s: %.2f\n", text, a->second / b->second);
+    // The time of a solve as a multiple of its bare loop's.
+    void PrintRatio(const std::string& run) const {
+        const auto solve = nanoseconds_.find("Time" + run);
+        const auto loop = nanoseconds_.find("Bare" + run);
+        if (solve != nanoseconds_.end() && loop != nanoseconds_.end()) {
+            std::printf("ratio %s %.2f\n", run.c_str(), solve->second / loop->second);
         }
     }
 
@@ -265,13 +245,9 @@ int main(int argc, char** argv) {
     }
     tarvix::RememberingReporter reporter(benchmark::ConsoleReporter::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.PrintRatio("Gas beta solve to the bare loop, typical run (aim 1.25)",
-                        "SolveGas/BetaTypical", "BareByMultiplication/GasBetaTypical");
-    reporter.PrintRatio("Gas beta solve to the bare loop, last step (aim 1.25)",
-                        "SolveGas/BetaLastStep", "BareByMultiplication/GasBetaLastStep");
-    reporter.PrintRatio("Gas beta solve to the bare loop with pow, typical run",
-                        "SolveGas/BetaTypical", "BareByPow/GasBetaTypical");
-    reporter.PrintRatio("Gas beta solve to the bare loop with pow, last step",
-                        "SolveGas/BetaLastStep", "BareByPow/GasBetaLastStep");
+    for (const char* run : {"Gas/DiffPressureTypical", "Gas/BetaTypical", "Gas/BetaLastStep",
+                            "Steam/DiffPressureTypical", "Steam/BetaTypical"}) {
+        reporter.PrintRatio(run);
+    }
     return 0;
 }
