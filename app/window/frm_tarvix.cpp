@@ -21,12 +21,29 @@
 
 namespace tarvix {
 
+namespace {
+
+// Links the controls of the form with their handlers. What a screen reader is told of a control
+// follows what its handler has done, so the names are linked after this.
+MainForm& LinkedForm(const FormContext& context) {
+    ConnectNumericFields(context);
+    ConnectBoreAndBeta(context);
+    ConnectUnitBoxes(context);
+    ConnectFlowUnitBoxes(context);
+    ConnectPipeBoxes(context);
+    ConnectFluidOptions(context);
+    ConnectModeOptions(context);
+    return context.form;
+}
+
+}  // namespace
+
 frmTarvix::frmTarvix(Module1& module, WindowHost& host)
     : module_(module),
       host_(host),
       form_(view_.canvas(), view_.footer(), *menuBar()),
       context_{form_, state_, module_},
-      accessibleNames_(form_) {
+      accessibleNames_(LinkedForm(context_)) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
     setCentralWidget(&view_);
     ApplyReadableColors();
@@ -50,13 +67,6 @@ frmTarvix::~frmTarvix() {
 }
 
 void frmTarvix::ConnectHandlers() {
-    ConnectNumericFields(context_);
-    ConnectBoreAndBeta(context_);
-    ConnectUnitBoxes(context_);
-    ConnectFlowUnitBoxes(context_);
-    ConnectPipeBoxes(context_);
-    ConnectFluidOptions(context_);
-    ConnectModeOptions(context_);
     QObject::connect(form_.cmdPrint, &QAbstractButton::clicked, this, &frmTarvix::cmdPrint_Click);
     QObject::connect(form_.cmdExit, &QAbstractButton::clicked, this, &frmTarvix::cmdExit_Click);
     QObject::connect(form_.mnuPrint, &QAction::triggered, this, &frmTarvix::mnuPrint_Click);
