@@ -2,6 +2,7 @@
 
 #include "app/window/mode_options.h"
 #include "app/window/system_locale.h"
+#include "app/window/window_frame.h"
 #include "app/window/window_place.h"
 #include "ui/controls/readable_palette.h"
 #include "ui/form/input_reader.h"
@@ -45,6 +46,10 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       context_{form_, state_, module_},
       accessibleNames_(LinkedForm(context_)) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
+    // Never larger than the form, so there is nothing to maximize.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowCloseButtonHint);
     setCentralWidget(&view_);
     ApplyReadableColors();
     ConnectHandlers();
@@ -95,11 +100,14 @@ void frmTarvix::mnuAbout_Click() {
 }
 
 void frmTarvix::Form_Load() {
+    frame_ = FrameOf(*this);
     FitToScreen();
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const QSize whole = size().grownBy(frame_);
     const ScreenPoint place =
-        StartPlace(screen.width(), screen.height(), width(), height() + FrameHeight());
-    move(screen.topLeft() + QPoint(place.x, place.y));
+        StartPlace(screen.width(), screen.height(), whole.width(), whole.height());
+    const QPoint inFrame(frame_.left(), frame_.top());
+    setGeometry(QRect(screen.topLeft() + QPoint(place.x, place.y) + inFrame, size()));
     state_.SuspendCalc = true;
     module_.FluidType = "G";
     LoadcboPipeIDUnit(context_);
@@ -138,6 +146,12 @@ void frmTarvix::changeEvent(QEvent* event) {
         case QEvent::PaletteChange:
             ApplyReadableColors();
             break;
+        case QEvent::WindowStateChange:
+            // A window manager may maximize what has no button for it.
+            if (isMaximized()) {
+                showNormal();
+            }
+            break;
         default:
             break;
     }
@@ -149,20 +163,16 @@ void frmTarvix::ApplyReadableColors() {
     form_.mnuFile->setPalette(colors);
 }
 
-// What a window manager adds above and below the window. It is not there before the window is
-// shown; what the toolkit gives windows within a window is about the same.
-int frmTarvix::FrameHeight() const {
-    return style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this) +
-           2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, this);
-}
-
 void frmTarvix::FitToScreen() {
-    const QSize whole = form_.WholeSize() + QSize(0, menuBar()->sizeHint().height());
-    const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, FrameHeight());
+    const int menu = menuBar()->sizeHint().height();
+    const QSize whole = form_.WholeSize() + QSize(0, menu);
+    const QSize room = QGuiApplication::primaryScreen()->availableSize().shrunkBy(frame_);
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     // The scroll bar for one direction must not take room away in the other.
     const QSize scrolling(whole.height() > room.height() ? scrollBar : 0,
                           whole.width() > room.width() ? scrollBar : 0);
+    const QSize least = form_.LeastSize() + QSize(scrollBar, scrollBar + menu);
+    setMinimumSize(least.boundedTo(room));
     setMaximumSize(whole + scrolling);
     resize((whole + scrolling).boundedTo(room));
 }

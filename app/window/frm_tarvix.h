@@ -48,7 +48,6 @@ class frmTarvix : public QMainWindow {
     void mnuAbout_Click();
     void ShowLogo();
     void ApplyReadableColors();
-    int FrameHeight() const;
     void FitToScreen();
     void PrintOrificeReport();
 
@@ -60,6 +59,7 @@ class frmTarvix : public QMainWindow {
     FormContext context_;
     AccessibleNames accessibleNames_;
     std::optional<Logo> logo_;  // from Form_Load on
+    QMargins frame_;            // that the window manager adds
 };
 
 }  // namespace tarvix

@@ -6,7 +6,7 @@
 find_main_window() {
     local window
     for window in $(xdotool search --onlyvisible --name '^Brindle Tarvix$' 2>/dev/null); do
-        if ! xprop -id "$window" _NET_WM_WINDOW_TYPE | grep -qE 'SPLASH|OVERRIDE|DIALOG'; then
+        if ! xprop -id "$window" _NET_WM_WINDOW_TYPE | grep -qE 'TYPE_(SPLASH|DIALOG)'; then
             say "$window"
             return 0
         fi

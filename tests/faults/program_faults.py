@@ -22,6 +22,7 @@ SKIPPED = 77
 TARVIX = None
 LOGOS = ("BrindleLogo.jpg", "VeltraneLogo.jpg")
 TITLE = "Brindle Tarvix"
+SPLASH = "_NET_WM_WINDOW_TYPE_SPLASH"
 
 
 class ProgramCase(unittest.TestCase):
@@ -61,11 +62,14 @@ class ProgramCase(unittest.TestCase):
                                              "Width", "Height")]
 
     def main_windows(self):
-        """The main windows that are there; the splash, of the same title, has no frame."""
+        """The main windows that are there; the splash has the same title."""
         managed = self.properties("-root", "_NET_CLIENT_LIST").split()
         clients = [int(word.strip(","), 16) for word in managed if word.startswith("0x")]
         return [window for window in self.windows() if int(window) in clients and
-                "OVERRIDE" not in self.properties("-id", window, "_NET_WM_WINDOW_TYPE")]
+                not self.is_splash(window)]
+
+    def is_splash(self, window):
+        return SPLASH in self.properties("-id", window, "_NET_WM_WINDOW_TYPE")
 
     def wait_for_main_window(self, count=1):
         return desk.wait_until(f"{count} main windows",
@@ -136,6 +140,24 @@ class LogoFault(ProgramCase):
         """True once the splash waits: it sleeps between two looks at the clock."""
         state = pathlib.Path(f"/proc/{process.pid}/wchan").read_text(encoding="ascii")
         return "nanosleep" in state
+
+
+class WindowTypes(ProgramCase):
+    """Window managers know the splash for a splash, which gets no entry in a task bar, and the main
+    window for one that has nothing to be maximized."""
+
+    def test_splash_and_main_window(self):
+        self.start()
+        desk.wait_until("the splash", self.windows)
+        self.assertTrue(self.is_splash(self.windows()[0]))
+        window = self.wait_for_main_window()[0]
+        types = self.properties("-id", window, "_NET_WM_WINDOW_TYPE")
+        self.assertIn("_NET_WM_WINDOW_TYPE_NORMAL", types)
+        # Of decorations: a border, handles, the title, the menu and the minimize button.
+        hints = self.properties("-id", window, "_MOTIF_WM_HINTS").split("=")[1].split(",")
+        maximize_function, maximize_button = 1 << 4, 1 << 6
+        self.assertEqual(int(hints[1], 0) & maximize_function, 0, hints)
+        self.assertEqual(int(hints[2], 0) & maximize_button, 0, hints)
 
 
 class FontFault(ProgramCase):

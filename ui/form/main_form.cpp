@@ -112,6 +112,12 @@ QSize MainForm::WholeSize() const {
     return CanvasSize() + QSize(0, FooterHeight());
 }
 
+QSize MainForm::LeastSize() const {
+    const QSize frame = fraBeta->size().expandedTo(fraCalcOptions->size());
+    const QPoint margin = fraCalcOptions->pos();
+    return {frame.width() + 2 * margin.x(), frame.height() + 2 * margin.y() + FooterHeight()};
+}
+
 void MainForm::PlaceFooter() {
     const auto x = static_cast<int>(std::lround(kFooterMargin * pixelsPerTwipX_));
     const auto top = static_cast<int>(std::lround(kFooterTop * pixelsPerTwipY_));

@@ -161,6 +161,9 @@ class MainForm {
     // Pixels that the form takes when it is seen whole, the footer included.
     QSize WholeSize() const;
 
+    // Pixels of the least part of it that can be worked in: one frame, and the footer.
+    QSize LeastSize() const;
+
     // As the user sees it: the control's own state and that of every frame around it. Before the
     // window is shown, it is taken as if it were.
     bool IsVisible(const QWidget& widget) const;

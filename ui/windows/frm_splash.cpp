@@ -74,6 +74,8 @@ frmSplash::frmSplash(Module1& module, HandOver handOver)
     setObjectName("frmSplash");
     setWindowTitle("Brindle Tarvix");
     // Not the window type Qt::SplashScreen: showing one before the event loop runs handles events.
+    // The toolkit passes the attribute on only to a native window that is there.
+    winId();
     setAttribute(Qt::WA_X11NetWmWindowTypeSplash);
     // The program doesn't end between the splash and the main window.
     setAttribute(Qt::WA_QuitOnClose, false);
