@@ -38,8 +38,11 @@ def wait_until(what, condition):
 class Desk:
     """The desktop. `environment` is what a program needs to run on it."""
 
-    def __init__(self, folder, screen="1280x1024x24"):
-        missing = [tool for tool in TOOLS if shutil.which(tool) is None]
+    def __init__(self, folder, screen="1280x1024x24", window_manager="openbox"):
+        """Without a window manager where that is None."""
+        self.window_manager = window_manager
+        missing = [tool for tool in (*TOOLS, window_manager or "Xvfb")
+                   if shutil.which(tool) is None]
         if not os.path.exists(BUS_LAUNCHER):
             missing.append(BUS_LAUNCHER)
         if importlib.util.find_spec("pyatspi") is None:
@@ -63,6 +66,7 @@ class Desk:
         try:
             self.start_screen(screen)
             self.start_buses()
+            self.start_window_manager()
         except BaseException:
             self.stop()
             raise
@@ -71,6 +75,16 @@ class Desk:
         display = self.spawn_and_read("Xvfb", "-displayfd", "{}", "-screen", "0", screen,
                                       "-nolisten", "tcp")
         self.environment["DISPLAY"] = f":{display}"
+
+    def start_window_manager(self):
+        if self.window_manager is None:
+            return
+        if self.window_manager != "openbox":
+            self.spawn(self.window_manager)
+            wait_until(f"{self.window_manager} is ready", lambda: "window id" in subprocess.run(
+                ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment, text=True,
+                capture_output=True, check=False).stdout)
+            return
         # What the window manager starts when it is ready inherits no pipe, so that has a name.
         ready = self.folder / "ready"
         os.mkfifo(ready)

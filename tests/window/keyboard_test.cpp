@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(AllFluidsAndModes, TabOrderTest,
 // Frame by frame as they stand in the window, without the result fields.
 Names ExpectedOrder(const std::string& fluid, const std::string& mode, bool canPrint) {
     static const std::map<std::string, Names> kProperties = {
-        {"optLiquid", {"optSgUser", "txtSGb", "txtSGf"}},
+        {"optLiquid", {"optSgUser", "txtSGf", "txtSGb"}},
         {"optGas",
          {"txtTf", "optDegF", "txtPf", "cboPressUnit", "optPgauge", "txtGasSGb",
           "optCompCorrNone"}},

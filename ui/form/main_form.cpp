@@ -17,10 +17,10 @@ namespace {
 
 // The size of the form, and of the footer below it, in which the message line keeps these margins.
 constexpr int kFormWidth = 9600;
-constexpr int kFormHeight = 7140;
-constexpr int kFooterHeight = 465;
+constexpr int kFormHeight = 7185;
+constexpr int kFooterHeight = 420;
 constexpr int kFooterMargin = 120;
-constexpr int kFooterTop = 90;
+constexpr int kFooterTop = 45;
 constexpr int kFooterBottom = 75;
 
 // Window managers may make a window a little smaller than it asks to be: where a pixel of the form

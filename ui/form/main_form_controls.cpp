@@ -104,12 +104,13 @@ void MainForm::BuildSpecificGravity(QWidget* tab) {
     optSgCalc =
         AddOption(fraSG, "optSgCalc", "Calculated (from density)", {kColumnA, kRow1, 3300, kRow});
     optSgUser = AddOption(fraSG, "optSgUser", "User Entered", {kColumnA, kRow2, 3300, kRow});
-    lblSGb1 = AddLabel(fraSG, "lblSGb1", "Base", {kLabelLeft, kRow1, kLabelWidth, kRow});
-    txtSGb = AddField(fraSG, "txtSGb", {kColumnD, kRow1, kField, kRow});
-    lblSGb2 = AddLabel(fraSG, "lblSGb2", "(water = 1)", {kColumnE, kRow1, 1500, kRow});
-    lblSGf1 = AddLabel(fraSG, "lblSGf1", "Flowing", {kLabelLeft, kRow2, kLabelWidth, kRow});
-    txtSGf = AddField(fraSG, "txtSGf", {kColumnD, kRow2, kField, kRow});
-    lblSGf2 = AddLabel(fraSG, "lblSGf2", "(water = 1)", {kColumnE, kRow2, 1500, kRow});
+    // Flowing first: there the focus goes when the fluid is chosen, and from there on to Base.
+    lblSGf1 = AddLabel(fraSG, "lblSGf1", "Flowing", {kLabelLeft, kRow1, kLabelWidth, kRow});
+    txtSGf = AddField(fraSG, "txtSGf", {kColumnD, kRow1, kField, kRow});
+    lblSGf2 = AddLabel(fraSG, "lblSGf2", "(water = 1)", {kColumnE, kRow1, 1500, kRow});
+    lblSGb1 = AddLabel(fraSG, "lblSGb1", "Base", {kLabelLeft, kRow2, kLabelWidth, kRow});
+    txtSGb = AddField(fraSG, "txtSGb", {kColumnD, kRow2, kField, kRow});
+    lblSGb2 = AddLabel(fraSG, "lblSGb2", "(water = 1)", {kColumnE, kRow2, 1500, kRow});
 }
 
 void MainForm::BuildDensity(QWidget* tab) {

@@ -31,13 +31,38 @@ QString Displayed(const std::string& text) {
     return QString::fromStdString(text).remove(QLatin1Char('\r'));
 }
 
+// Lines with tabs become the rows of a table, so that what follows the tabs stands in a column
+// whatever the font.
+QString WithColumns(const QString& text) {
+    QString page;
+    bool isInTable = false;
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        const bool isRow = line.contains(QLatin1Char('\t'));
+        if (isRow != isInTable) {
+            page += isRow ? QStringLiteral("<table cellspacing='0'>") : QStringLiteral("</table>");
+            isInTable = isRow;
+        }
+        QString shown = line.toHtmlEscaped();
+        if (isRow) {
+            shown.replace(QLatin1Char('\t'), QStringLiteral("&nbsp;&nbsp;</td><td>"));
+            page += QStringLiteral("<tr><td>%1</td></tr>").arg(shown);
+        } else {
+            page += QStringLiteral("<p style='margin: 0'>%1</p>")
+                        .arg(shown.isEmpty() ? QStringLiteral("&nbsp;") : shown);
+        }
+    }
+    return isInTable ? page + QStringLiteral("</table>") : page;
+}
+
 }  // namespace
 
 int QtPlatform::ShowMessageBox(const MessageBoxRequest& request) {
     QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle(QString::fromStdString(request.title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(Displayed(request.text));
+    const QString text = Displayed(request.text);
+    const bool hasColumns = text.contains(QLatin1Char('\t'));
+    box.setTextFormat(hasColumns ? Qt::RichText : Qt::PlainText);
+    box.setText(hasColumns ? WithColumns(text) : text);
     box.setIcon(IconOf(request.style));
     const bool canCancel = request.buttons == BoxButtons::OkCancel;
     box.setStandardButtons(canCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
