@@ -57,6 +57,25 @@ TEST_F(EntryLineTest, PressAfterTheMenuSetsTheCaret) {
     EXPECT_FALSE(line_.hasSelectedText());
 }
 
+// Whoever came by a press and typed is in the line already: the next press sets the caret.
+TEST_F(EntryLineTest, PressAfterAKeySetsTheCaret) {
+    line_.show();
+    FocusComes(Qt::MouseFocusReason);
+    QTest::keyClick(&line_, Qt::Key_1);
+    line_.selectAll();
+    QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
+    EXPECT_FALSE(line_.hasSelectedText());
+}
+
+// The press that brings the focus leaves the whole text selected.
+TEST_F(EntryLineTest, PressThatBringsTheFocusKeepsTheSelection) {
+    line_.show();
+    FocusComes(Qt::MouseFocusReason);
+    line_.selectAll();
+    QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
+    EXPECT_EQ(line_.selectedText(), line_.text());
+}
+
 // ---- The mnemonic of the tab ----
 
 class TabControlTest : public ::testing::Test {
