@@ -4,6 +4,7 @@
 #include "app/window/system_locale.h"
 #include "app/window/window_frame.h"
 #include "app/window/window_place.h"
+#include "report/printer/printed_text.h"
 #include "ui/controls/readable_palette.h"
 #include "ui/form/input_reader.h"
 #include "ui/handlers/bore_and_beta_fields.h"
@@ -35,6 +36,12 @@ MainForm& LinkedForm(const FormContext& context) {
     ConnectFluidOptions(context);
     ConnectModeOptions(context);
     return context.form;
+}
+
+// With the month's name as the system's locale has it; in English where no font has its letters.
+std::string PrintableDate(const QDate& date) {
+    const std::string text = DateText(date, QLocale::system());
+    return CanBePrinted(QString::fromStdString(text)) ? text : DateText(date, QLocale::c());
 }
 
 }  // namespace
@@ -193,7 +200,7 @@ void frmTarvix::PrintOrificeReport() {
     }
     setCursor(Qt::BusyCursor);
     ReportSheet sheet = ReadReportSheet(context_);
-    sheet.date = DateText(QDate::currentDate(), QLocale::system());
+    sheet.date = PrintableDate(QDate::currentDate());
     host_.PrintPage(*this, ComposeReport(sheet, module_), logo_->Picture());
     unsetCursor();
 }

@@ -24,10 +24,15 @@ void PageWriter::Print(std::string text) {
     MoveTo(yTwips_ + font_.sizePt * kTwipsPerPoint * kFontLineHeight);
 }
 
+void PageWriter::PrintCustomerLine(std::string text) {
+    Print(std::move(text));
+    page_.lines.back().customer = true;
+}
+
 void PageWriter::PrintPiece(std::string text) {
     const double advance = font_.sizePt * kTwipsPerPoint * kFontAdvance;
     const double width = advance * CharacterCount(text);
-    page_.lines.push_back({std::move(text), font_, xTwips_, yTwips_});
+    page_.lines.push_back({std::move(text), font_, xTwips_, yTwips_, false});
     xTwips_ += width;
 }
 

@@ -16,6 +16,9 @@ class PageWriter {
     // Writes `text` and begins a new line below it.
     void Print(std::string text);
 
+    // Print for a line that ends in what the user typed.
+    void PrintCustomerLine(std::string text);
+
     // Writes `text` and stays on its line, right of it.
     void PrintPiece(std::string text);
 

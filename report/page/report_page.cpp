@@ -1,5 +1,6 @@
 #include "report/page/report_page.h"
 
+#include "report/page/document_name.h"
 #include "report/page/page_writer.h"
 #include "report/page/report_notes.h"
 #include "units/pipe_id_texts.h"
@@ -10,8 +11,6 @@
 namespace tarvix {
 
 namespace {
-
-constexpr ReportFont kReportFont{12, true, false};
 
 // The logo, drawn by the painter, has these empty lines to itself.
 constexpr int kLogoLines = 3;
@@ -72,7 +71,9 @@ ReportPage ReportComposer::Compose() {
     PrintWarnings();
     PrintNotes(writer_);
     PrintFooter(writer_, sheet_.date);
-    return writer_.Page();
+    ReportPage page = writer_.Page();
+    page.name = DocumentName(module_.TagText);
+    return page;
 }
 
 std::string ReportComposer::Title() {
@@ -99,12 +100,12 @@ std::string ReportComposer::Title() {
 }
 
 void ReportComposer::PrintCustomer() {
-    writer_.Print("Customer: " + OnOneLine(module_.CustLine1));
+    writer_.PrintCustomerLine("Customer: " + OnOneLine(module_.CustLine1));
     const std::string second = OnOneLine(module_.CustLine2);
     if (second.find_first_not_of(' ') != std::string::npos) {
-        writer_.Print(std::string(10, ' ') + second);
+        writer_.PrintCustomerLine(std::string(kCustomerPrefix, ' ') + second);
     }
-    writer_.Print("     Tag: " + OnOneLine(module_.TagText));
+    writer_.PrintCustomerLine("     Tag: " + OnOneLine(module_.TagText));
 }
 
 void ReportComposer::PrintRates() {

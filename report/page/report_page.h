@@ -44,6 +44,14 @@ inline constexpr double kFontLineHeight = (1705.0 + 615.0) / 2048.0;
 inline constexpr double kFontAdvance = 1229.0 / 2048.0;
 inline constexpr double kTwipsPerPoint = 20;
 
+// Of the title, the customer lines, the values and the warnings.
+inline constexpr ReportFont kReportFont{12, true, false};
+
+// A customer line begins with a word of so many characters ("Customer: "), and then has room for so
+// many on A4, the narrowest paper that the page is made for.
+inline constexpr int kCustomerPrefix = 10;
+inline constexpr int kCustomerColumns = 62;
+
 // The value of a value line ends in this column, counted from 1.
 inline constexpr int kValueColumn = 40;
 
@@ -56,11 +64,14 @@ struct ReportLine {
     ReportFont font;   // "Courier New"
     double xTwips = 0;
     double yTwips = 0;  // upper edge
+    // What follows the first kCustomerPrefix characters was typed by the user, and is drawn
+    // narrower when one of the page's customer lines is too long.
+    bool customer = false;
 };
 
-// In the order of printing.
 struct ReportPage {
-    std::vector<ReportLine> lines;
+    std::vector<ReportLine> lines;  // in the order of printing
+    std::string name;               // of the document
 };
 
 // Composes the page from the sheet and the customer lines in `module`. No selected mode or an

@@ -1,7 +1,8 @@
 #include "report/printer/page_painter.h"
 
-#include <QFont>
-#include <QFontMetricsF>
+#include "report/printer/customer_lines.h"
+#include "report/printer/printed_text.h"
+
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPainter>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace tarvix {
 
@@ -20,8 +22,9 @@ constexpr double kTwipsPerInch = 1440;
 constexpr double kTwipsPerMillimeter = kTwipsPerInch / 25.4;
 constexpr double kInchesPerMeter = 1 / 0.0254;
 
-// The widest line of every report, the warning beside a density, in characters of the largest font.
-constexpr double kWidestLineTwips = 70 * 12 * kTwipsPerPoint * kFontAdvance;
+// The widest lines of every report, the customer's, in characters of the largest font.
+constexpr double kWidestLineTwips =
+    (kCustomerPrefix + kCustomerColumns) * kReportFont.sizePt * kTwipsPerPoint * kFontAdvance;
 
 // The paper, all in twips, whole numbers of them as a page size is read.
 struct Paper {
@@ -56,54 +59,35 @@ double ScaleToFit(const ReportPage& page, const Paper& paper) {
     return std::min({1.0, paper.textWidth() / kWidestLineTwips, paper.textHeight() / bottom});
 }
 
-// The report's font for a coordinate system in twips. Where it is not installed, the fixed-pitch
-// fonts with the same measures come first, then whatever fixed-pitch font there is.
-QFont FontOf(const ReportFont& reportFont) {
-    const QString family = QString::fromUtf8(kReportFontFamily.data(),
-                                             static_cast<qsizetype>(kReportFontFamily.size()));
-    QFont font;
-    font.setFamilies({family, "Liberation Mono", "Cousine", "Nimbus Mono PS", "Courier"});
-    font.setStyleHint(QFont::TypeWriter);
-    font.setFixedPitch(true);
-    font.setPixelSize(static_cast<int>(std::lround(reportFont.sizePt * kTwipsPerPoint)));
-    font.setBold(reportFont.bold);
-    font.setItalic(reportFont.italic);
-    font.setKerning(false);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
-
-// A blank of every kind (locales group digits with narrow ones) is as wide as a character, so that
-// columns stay columns.
-QString WithPlainBlanks(QString text) {
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.isSpace(); }, QChar(' '));
-    return text;
-}
-
+// A line that is too long is drawn narrower, as long as it can be read, then cut.
 void PaintLine(QPainter& painter, const ReportLine& line, double textWidth) {
-    QFont font = FontOf(line.font);
-    // A font that is a shade wider or narrower than the one that the page was laid out for.
-    const double advance = font.pixelSize() * kFontAdvance;
-    const double spacing = advance - QFontMetricsF(font).horizontalAdvance(QChar('0'));
-    font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
-    painter.setFont(font);
-
-    QString text = WithPlainBlanks(QString::fromStdString(line.text));
-    while (text.endsWith(' ')) {
-        text.chop(1);
-    }
-    // A line that is too long is drawn narrower, as long as it can be read, then cut.
     constexpr double kNarrowest = 0.6;
-    const QFontMetricsF metrics(font);
+    const PrintedText text(QString::fromStdString(line.text), line.font);
     const double room = textWidth - line.xTwips;
-    const double narrowed = std::clamp(room / metrics.horizontalAdvance(text), kNarrowest, 1.0);
-    text = metrics.elidedText(text, Qt::ElideRight, room / narrowed);
-    painter.save();
-    painter.translate(line.xTwips, line.yTwips + font.pixelSize() * kFontAscent);
-    painter.scale(narrowed, 1);
-    painter.drawText(QPointF(0, 0), text);
-    painter.restore();
+    const double narrowed = std::clamp(room / std::max(text.Width(), 1.0), kNarrowest, 1.0);
+    text.CutTo(room / narrowed).Paint(painter, line.xTwips, line.yTwips, narrowed);
+}
+
+// The word in front keeps its width, so that the lines of the block begin below each other.
+void PaintCustomerLine(QPainter& painter, const ReportLine& line, double narrowed) {
+    const QString text = QString::fromStdString(line.text);
+    const double left =
+        line.xTwips + kCustomerPrefix * line.font.sizePt * kTwipsPerPoint * kFontAdvance;
+    PrintedText(text.left(kCustomerPrefix), line.font).Paint(painter, line.xTwips, line.yTwips, 1);
+    PrintedText(text.mid(kCustomerPrefix), line.font)
+        .CutTo(kCustomerRoom / narrowed)
+        .Paint(painter, left, line.yTwips, narrowed);
+}
+
+double CustomerWidth(const ReportPage& page) {
+    CustomerLines lines;
+    std::size_t count = 0;
+    for (const ReportLine& line : page.lines) {
+        if (line.customer && count < lines.size()) {
+            lines[count++] = line.text.substr(kCustomerPrefix);
+        }
+    }
+    return FitCustomerLines(lines).narrowed;
 }
 
 QRectF LogoPlace(const QImage& logo) {
@@ -148,8 +132,11 @@ bool PaintReport(QPagedPaintDevice& device, const ReportPage& page, const QImage
     if (!logo.isNull()) {
         painter.drawImage(LogoPlace(logo), OnWhite(logo));
     }
+    const double narrowed = CustomerWidth(page);
     for (const ReportLine& line : page.lines) {
-        if (!line.text.empty()) {
+        if (line.customer) {
+            PaintCustomerLine(painter, line, narrowed);
+        } else if (!line.text.empty()) {
             PaintLine(painter, line, paper.textWidth() / scale);
         }
     }

@@ -1,5 +1,6 @@
 #include "report/printer/report_printer.h"
 
+#include "report/page/document_name.h"
 #include "report/printer/page_painter.h"
 #include "report/printer/print_system.h"
 
@@ -21,8 +22,8 @@ namespace tarvix {
 
 namespace {
 
-const char* const kDocumentName = "Orifice calculation";
 const char* const kProgramName = "Brindle Tarvix";
+const char* const kCreator = "Brindle Tarvix 3.0";
 
 // A page takes a few hundred kilobytes on its way to the printer. The toolkit doesn't notice when
 // there is no room for it, and sends what came of it.
@@ -61,8 +62,8 @@ PrintOutcome PrintToFile(const QPrinter& printer, const ReportPage& page, const 
         QBuffer buffer(&pdf);
         buffer.open(QIODevice::WriteOnly);
         QPdfWriter writer(&buffer);
-        writer.setTitle(kDocumentName);
-        writer.setCreator(kProgramName);
+        writer.setTitle(QString::fromStdString(page.name));
+        writer.setCreator(kCreator);
         writer.setResolution(printer.resolution());
         writer.setPageLayout(printer.pageLayout());
         if (!PaintReport(writer, page, logo)) {
@@ -80,8 +81,6 @@ PrintOutcome PrintToPrinter(QPrinter& printer, const ReportPage& page, const QIm
         return Failed(QString("There is no room left on the disk (%1).")
                           .arg(QDir::toNativeSeparators(disk.rootPath())));
     }
-    printer.setDocName(kDocumentName);
-    printer.setCreator(kProgramName);
     if (!PaintReport(printer, page, logo) || printer.printerState() == QPrinter::Error ||
         printer.printerState() == QPrinter::Aborted) {
         return Failed({});
@@ -109,6 +108,19 @@ QPageSize PaperOf(const QPrinterInfo& printer) {
     return paper;
 }
 
+// On its way to the printer a name is taken for a path, of which only what follows the last slash
+// arrives.
+QString JobName(const ReportPage& page) {
+    return QString::fromStdString(FileNameOf(page.name));
+}
+
+// The toolkit's own choice: the folder that the program was started in, where that is the user's.
+QString FolderOfFiles() {
+    const QString current = QDir::currentPath();
+    const QString home = QDir::homePath();
+    return current == home || current.startsWith(home + '/') ? current : home;
+}
+
 // Lets the user choose where the page goes on a system without a printer; false when they don't
 // want it printed.
 bool ChoosePrinter(QPrinter& printer, QWidget& owner) {
@@ -119,23 +131,43 @@ bool ChoosePrinter(QPrinter& printer, QWidget& owner) {
     return dialog.exec() == QDialog::Accepted;
 #else
     // The system's own dialog knows printers alone, and the toolkit doesn't show it without one.
-    const QString file = QFileDialog::getSaveFileName(
-        &owner, "Print to File", QString("%1.pdf").arg(kDocumentName), "PDF (*.pdf)");
+    const QString file = QFileDialog::getSaveFileName(&owner, "Print to File",
+                                                      printer.outputFileName(), "PDF (*.pdf)");
     printer.setOutputFileName(file);
     return !file.isEmpty();
 #endif
 }
 
-QString NameOf(const QPrinter& printer) {
-    return printer.outputFormat() == QPrinter::PdfFormat
-               ? QDir::toNativeSeparators(printer.outputFileName())
-               : printer.printerName();
+QString FailureText(const QPrinter& printer, const QString& reason) {
+    const bool file = printer.outputFormat() == QPrinter::PdfFormat;
+    QString text = file ? QString("The report could not be written.\n\nFile: %1\n")
+                              .arg(QDir::toNativeSeparators(printer.outputFileName()))
+                        : QString("The report could not be printed.\n\nPrinter: %1\n")
+                              .arg(printer.printerName());
+    if (!reason.isEmpty()) {
+        text += QString("Reason: %1\n").arg(reason);
+    }
+    return text +
+           QString("\nThe calculation and the customer lines are kept. %1, then print again.")
+               .arg(file ? "Choose another file" : "Check the printer");
 }
 
 }  // namespace
 
+QString FreeFileName(const QString& folder, const std::string& documentName) {
+    const QDir in(folder);
+    const QString name = QString::fromStdString(FileNameOf(documentName));
+    QString file = name + ".pdf";
+    for (int number = 2; in.exists(file); ++number) {
+        file = QString("%1 (%2).pdf").arg(name, QString::number(number));
+    }
+    return in.filePath(file);
+}
+
 PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QImage& logo) {
     printer.setFullPage(true);
+    printer.setDocName(JobName(page));
+    printer.setCreator(kCreator);
     return printer.outputFormat() == QPrinter::PdfFormat ? PrintToFile(printer, page, logo)
                                                          : PrintToPrinter(printer, page, logo);
 }
@@ -143,24 +175,17 @@ PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QIma
 MessageBoxRequest PrintOutcomeBox(const QPrinter& printer, const PrintOutcome& outcome) {
     MessageBoxRequest box;
     box.title = kProgramName;
-    QString text;
     if (outcome.status == PrintOutcome::Status::Failed) {
         box.style = BoxStyle::Exclamation;
-        text = QString("The report could not be printed.\n\nPrinter: %1\n").arg(NameOf(printer));
-        if (!outcome.reason.isEmpty()) {
-            text += QString("Reason: %1\n").arg(outcome.reason);
-        }
-        text +=
-            "\nThe calculation and the customer lines are kept. Check the printer, then print "
-            "again.";
-    } else {
-        box.style = BoxStyle::Information;
-        text = QString(
+        box.text = FailureText(printer, outcome.reason).toStdString();
+        return box;
+    }
+    box.style = BoxStyle::Information;
+    box.text = QString(
                    "The printer \"%1\" is not ready.\n\nThe report waits in its queue and is "
                    "printed as soon as the printer is ready again.")
-                   .arg(NameOf(printer));
-    }
-    box.text = text.toStdString();
+                   .arg(printer.printerName())
+                   .toStdString();
     return box;
 }
 
@@ -169,8 +194,12 @@ void PrintReport(QWidget& owner, Platform& platform, const ReportPage& page, con
     QPrinter printer(defaultPrinter, QPrinter::HighResolution);
     // The toolkit starts with A4, whatever paper the printer holds.
     printer.setPageSize(PaperOf(defaultPrinter));
-    if (defaultPrinter.isNull() && !ChoosePrinter(printer, owner)) {
-        return;
+    if (defaultPrinter.isNull()) {
+        printer.setDocName(JobName(page));
+        printer.setOutputFileName(FreeFileName(FolderOfFiles(), page.name));
+        if (!ChoosePrinter(printer, owner)) {
+            return;
+        }
     }
     const PrintOutcome outcome = PrintReportOn(printer, page, logo);
     if (outcome.status != PrintOutcome::Status::Printed) {

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <string>
+
 namespace tarvix {
 
 // How a page fared.
@@ -21,6 +23,10 @@ struct PrintOutcome {
     Status status = Status::Printed;
     QString reason;  // of a failure, where it is known
 };
+
+// The file in `folder` that a document with this name is proposed to be written to: one that is not
+// there yet.
+QString FreeFileName(const QString& folder, const std::string& documentName);
 
 // Prints the page on the printer, or into the PDF file, that `printer` stands for.
 PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QImage& logo);

@@ -1,60 +1,13 @@
 // The page on paper: painted into PDF files and read back with poppler's tools.
 #include "report/printer/page_painter.h"
 
-#include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
-#include "tests/report/pdf_reader.h"
-#include "tests/report/sample_sheets.h"
-
-#include <QPageLayout>
-#include <QPageSize>
-#include <QPdfWriter>
-#include <QTemporaryDir>
+#include "tests/report/painted_page.h"
 
 #include <gtest/gtest.h>
 #include <ostream>
 
 namespace tarvix::testing {
 namespace {
-
-constexpr double kCharacter12 = 12 * 1229.0 / 2048.0;  // points
-
-class PagePainterTest : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        if (!CanReadPdf()) {
-            GTEST_SKIP() << "poppler-utils is not installed";
-        }
-        ASSERT_TRUE(folder_.isValid());
-        FillCustomer(module_);
-    }
-
-    QString File() const { return folder_.filePath("page.pdf"); }
-
-    bool Paint(const ReportSheet& sheet, QPageSize::PageSizeId paper,
-               const QMarginsF& unprintable = {}) {
-        QPdfWriter writer(File());
-        QPageLayout layout(QPageSize(paper), QPageLayout::Portrait, unprintable);
-        if (unprintable.isNull()) {
-            layout.setMode(QPageLayout::FullPageMode);
-        }
-        writer.setPageLayout(layout);
-        return PaintReport(writer, ComposeReport(sheet, module_), logo_);
-    }
-
-    PdfPage PageOf(const ReportSheet& sheet, QPageSize::PageSizeId paper,
-                   const QMarginsF& unprintable = {}) {
-        EXPECT_TRUE(Paint(sheet, paper, unprintable));
-        std::vector<PdfPage> pages = ReadPdf(File());
-        EXPECT_EQ(pages.size(), 1U);
-        return pages.empty() ? PdfPage{} : pages.front();
-    }
-
-    QTemporaryDir folder_;
-    RecordingPlatform platform_;
-    Module1 module_{platform_, kUnitedStates};
-    QImage logo_;
-};
 
 // The papers that the page is made for, with the margins in points: 6% of the width and 4.5% of the
 // height of 12240 x 15840 and 11906 x 16838 twips.

@@ -105,6 +105,10 @@ std::vector<PdfPage> ReadPdf(const QString& file) {
     return pages;
 }
 
+QString AboutPdf(const QString& file) {
+    return QString::fromUtf8(OutputOf("pdfinfo", {"-enc", "UTF-8", file}));
+}
+
 QStringList FontsOf(const QString& file) {
     QStringList fonts;
     for (const QStringList& row : TableRows(OutputOf("pdffonts", {file}))) {

@@ -36,6 +36,9 @@ bool CanReadPdf();
 
 std::vector<PdfPage> ReadPdf(const QString& file);
 
+// What the file says about itself: "Title:           ..." and so on, a line each.
+QString AboutPdf(const QString& file);
+
 // The names of the fonts, without the mark of a subset; an unembedded font is followed by " (not
 // embedded)".
 QStringList FontsOf(const QString& file);

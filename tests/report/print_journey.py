@@ -190,10 +190,13 @@ SystemGroup root
             raise AssertionError(f"{tool} {' '.join(arguments)}: {result.stdout}")
         return result.stdout
 
-    def add_printer(self, port):
+    def add_printer(self, port, name=PRINTER, description=DESCRIPTION, **options):
+        """A queue for the printer at that port; it becomes the default printer."""
         device = f"socket://127.0.0.1:{port}/?snmp=false&waiteof=false"
-        self.run("lpadmin", "-p", PRINTER, "-E", "-v", device, "-P", DESCRIPTION)
-        self.run("lpadmin", "-d", PRINTER)
+        settings = [argument for option, value in options.items()
+                    for argument in ("-o", f"{option.replace('_', '-')}={value}")]
+        self.run("lpadmin", "-p", name, "-E", "-v", device, "-P", str(description), *settings)
+        self.run("lpadmin", "-d", name)
 
     def jobs(self):
         return [line.split()[0] for line in self.run("lpstat", "-o").splitlines()]

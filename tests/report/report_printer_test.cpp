@@ -7,6 +7,7 @@
 #include "tests/report/sample_sheets.h"
 #include "tests/window/modal_driver.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QPrintDialog>
@@ -54,6 +55,32 @@ TEST_F(ReportPrinterTest, WritesAPdfFile) {
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].width, 612);
     EXPECT_NEAR(pages[0].Word("Customer:").left, 36.72, 0.1);
+}
+
+TEST_F(ReportPrinterTest, PdfSaysWhatItIs) {
+    if (!CanReadPdf()) {
+        GTEST_SKIP() << "poppler-utils is not installed";
+    }
+    module_.TagText = " FE-4102/B \xC3\x96st ";
+    ASSERT_EQ(PrintTo(File()).status, PrintOutcome::Status::Printed);
+    const QString about = AboutPdf(File());
+    EXPECT_TRUE(
+        about.contains(QString::fromUtf8("Title:           Orifice calculation FE-4102/B Öst\n")))
+        << about.toStdString();
+    EXPECT_TRUE(about.contains("Creator:         Brindle Tarvix 3.0\n")) << about.toStdString();
+}
+
+TEST_F(ReportPrinterTest, ProposesAFileThatIsNotThere) {
+    const auto proposed = [this] {
+        return FreeFileName(folder_.path(), "Orifice calculation FE-4102/B");
+    };
+    EXPECT_EQ(proposed(), folder_.filePath("Orifice calculation FE-4102-B.pdf"));
+    QFile(proposed()).open(QIODevice::WriteOnly);
+    EXPECT_EQ(proposed(), folder_.filePath("Orifice calculation FE-4102-B (2).pdf"));
+    QFile(proposed()).open(QIODevice::WriteOnly);
+    EXPECT_EQ(proposed(), folder_.filePath("Orifice calculation FE-4102-B (3).pdf"));
+    // A per cent sign is a letter like others.
+    EXPECT_EQ(FreeFileName(folder_.path(), "50 %1 %2"), folder_.filePath("50 %1 %2.pdf"));
 }
 
 TEST_F(ReportPrinterTest, ReplacesAFileThatIsThere) {
@@ -109,7 +136,7 @@ TEST_F(ReportPrinterTest, FullDiskIsAFailureAndLeavesTheOldFile) {
 }
 #endif
 
-TEST_F(ReportPrinterTest, FailureBoxNamesThePlaceAndTheReason) {
+TEST_F(ReportPrinterTest, FailureBoxOfAFileSpeaksOfAFile) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName("/reports/page.pdf");
@@ -118,9 +145,11 @@ TEST_F(ReportPrinterTest, FailureBoxNamesThePlaceAndTheReason) {
     EXPECT_EQ(box.title, "Brindle Tarvix");
     EXPECT_EQ(box.style, BoxStyle::Exclamation);
     EXPECT_EQ(box.buttons, BoxButtons::Ok);
-    EXPECT_NE(box.text.find("could not be printed"), std::string::npos) << box.text;
-    EXPECT_NE(box.text.find("page.pdf"), std::string::npos) << box.text;
-    EXPECT_NE(box.text.find("Reason: Permission denied"), std::string::npos) << box.text;
+    const std::string name = QDir::toNativeSeparators("/reports/page.pdf").toStdString();
+    EXPECT_EQ(box.text,
+              "The report could not be written.\n\nFile: " + name +
+                  "\nReason: Permission denied\n\nThe calculation and the customer lines are kept. "
+                  "Choose another file, then print again.");
     const MessageBoxRequest unknown = PrintOutcomeBox(printer, {PrintOutcome::Status::Failed, {}});
     EXPECT_EQ(unknown.text.find("Reason"), std::string::npos) << unknown.text;
 }
@@ -146,6 +175,37 @@ TEST_F(NoPrinterTest, CancelledDialogPrintsNothing) {
     EXPECT_TRUE(user.done());
     EXPECT_TRUE(platform_.boxes.empty());
     EXPECT_FALSE(QFile::exists(File()));
+}
+
+// What the dialog proposes, in the folder that the program was started in where that is the user's.
+TEST_F(NoPrinterTest, DialogProposesAFileOfItsOwnForEachReport) {
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder_.path().toLocal8Bit());
+    ASSERT_NE(QDir::currentPath(), folder_.path());
+    module_.TagText = "FE-4102";
+    QStringList proposed;
+    for (int report = 0; report < 3; ++report) {
+        const ModalDriver<QPrintDialog> user([&proposed](QPrintDialog& dialog) {
+            proposed << dialog.findChild<QLineEdit*>("filename")->text();
+            for (auto* button : dialog.findChildren<QPushButton*>()) {
+                if (button->isDefault()) {
+                    button->click();
+                }
+            }
+        });
+        PrintReport(owner_, platform_, Page(), QImage());
+        EXPECT_TRUE(user.done());
+    }
+    qputenv("HOME", home);
+    EXPECT_TRUE(platform_.boxes.empty());
+    const QStringList names{"Orifice calculation FE-4102.pdf",
+                            "Orifice calculation FE-4102 (2).pdf",
+                            "Orifice calculation FE-4102 (3).pdf"};
+    ASSERT_EQ(proposed.size(), names.size());
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(proposed.at(i), folder_.filePath(names.at(i)));
+        EXPECT_TRUE(QFile::exists(proposed.at(i)));
+    }
 }
 
 TEST_F(NoPrinterTest, DialogPrintsIntoAPdfFile) {

@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -213,6 +215,57 @@ TEST_F(CustomerWindowTest, TabGoesRoundInOrder) {
         EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
     }
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(CustomerWindowTest, FieldsShowWhatThePaperHolds) {
+    frmCustInfo& window = Open();
+    for (const EntryLine* field : {window.txtCust1, window.txtCust2, window.txtTag}) {
+        const double line = QFontMetricsF(field->font()).horizontalAdvance(QString(62, 'M'));
+        EXPECT_GE(field->width(), line);
+        EXPECT_LE(field->width(), line + 40);
+        EXPECT_TRUE(QFontInfo(field->font()).fixedPitch());
+    }
+}
+
+TEST_F(CustomerWindowTest, SaysWhenLinesWillBePrintedNarrower) {
+    frmCustInfo& window = Open();
+    const QSize size = window.size();
+    Type(window.txtCust1, QString(62, 'M'));
+    EXPECT_EQ(window.lblFit->text(), "");
+    QTest::keyClicks(window.txtCust1, "MM");  // 62 of 64
+    EXPECT_EQ(window.lblFit->text(),
+              "To fit on the paper, these lines will be printed narrower (97 %).");
+    EXPECT_EQ(window.txtCust1->accessibleDescription(), window.lblFit->text());
+    // Nothing moves because of it.
+    EXPECT_EQ(window.size(), size);
+    EXPECT_TRUE(window.cmdPrint->isEnabled());
+    QTest::keyClick(window.txtCust1, Qt::Key_Backspace);
+    QTest::keyClick(window.txtCust1, Qt::Key_Backspace);
+    EXPECT_EQ(window.lblFit->text(), "");
+}
+
+TEST_F(CustomerWindowTest, SaysWhichLinesWillBeCut) {
+    module_.TagText = std::string(104, 'T');
+    frmCustInfo& window = Open();
+    EXPECT_EQ(window.lblFit->text(), "Too long for the paper, the end will be cut off: tag.");
+    window.txtCust1->setText(QString(200, 'x'));
+    EXPECT_EQ(window.lblFit->text(),
+              "Too long for the paper, the end will be cut off: first customer line, tag.");
+    EXPECT_LE(window.lblFit->heightForWidth(window.lblFit->width()), window.lblFit->height());
+    // It is said, not refused.
+    window.cmdPrint->click();
+    EXPECT_EQ(module_.MsgResult, kPrint);
+    ExpectStored(std::string(200, 'x'), "", std::string(104, 'T'));
+}
+
+TEST_F(CustomerWindowTest, SaysWhenNoFontHasACharacter) {
+    frmCustInfo& window = Open();
+    window.txtTag->setText(QString::fromUtf8("FE-41\xF0\x92\x80\x80"));
+    if (window.lblFit->text().isEmpty()) {
+        GTEST_SKIP() << "a font for cuneiform is installed";
+    }
+    EXPECT_EQ(window.lblFit->text(),
+              "Characters that no font here has will be printed as question marks.");
 }
 
 TEST_F(CustomerWindowTest, AnyCharacterAndAnyLengthAreKept) {

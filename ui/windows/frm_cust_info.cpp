@@ -1,8 +1,17 @@
 #include "ui/windows/frm_cust_info.h"
 
+#include "report/printer/customer_lines.h"
+#include "report/printer/printed_text.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QStringList>
 #include <QVBoxLayout>
+
+#include <cmath>
+#include <cstddef>
 
 namespace tarvix {
 
@@ -12,8 +21,27 @@ namespace {
 constexpr int kPrint = 1;
 constexpr int kDoNotPrint = 2;
 
-// The width of the lines.
-constexpr int kEntryCharacters = 44;
+// What there is to say about the lines, in one or two sentences; nothing when all is well.
+QString FitText(const CustomerFit& fit) {
+    const char* const names[] = {"first customer line", "second customer line", "tag"};
+    QStringList cut;
+    for (std::size_t i = 0; i < fit.cut.size(); ++i) {
+        if (fit.cut[i]) {
+            cut << names[i];
+        }
+    }
+    QStringList sentences;
+    if (!cut.isEmpty()) {
+        sentences << "Too long for the paper, the end will be cut off: " + cut.join(", ") + ".";
+    } else if (fit.narrowed < 1) {
+        sentences << QString("To fit on the paper, these lines will be printed narrower (%1 %).")
+                         .arg(std::lround(100 * fit.narrowed));
+    }
+    if (fit.missingCharacters) {
+        sentences << "Characters that no font here has will be printed as question marks.";
+    }
+    return sentences.join(' ');
+}
 
 QString Shown(const std::string& text) {
     return QString::fromStdString(text);
@@ -29,6 +57,7 @@ frmCustInfo::frmCustInfo(Module1& module, QWidget* parent)
       txtCust2(new EntryLine(Frame1)),
       Label2(new QLabel("Tag", Frame1)),
       txtTag(new EntryLine(Frame1)),
+      lblFit(new QLabel(Frame1)),
       cmdPrint(new QPushButton("Print", this)),
       cmdClear(new QPushButton("Clear", this)),
       cmdCancel(new QPushButton("Cancel", this)),
@@ -49,6 +78,7 @@ void frmCustInfo::NameControls() {
     txtCust2->setObjectName("txtCust2");
     Label2->setObjectName("Label2");
     txtTag->setObjectName("txtTag");
+    lblFit->setObjectName("lblFit");
     cmdPrint->setObjectName("cmdPrint");
     cmdClear->setObjectName("cmdClear");
     cmdCancel->setObjectName("cmdCancel");
@@ -69,11 +99,24 @@ void frmCustInfo::LayOut() {
     entries->addWidget(txtCust2, 1, 1);
     entries->addWidget(Label2, 2, 0);
     entries->addWidget(txtTag, 2, 1);
+    entries->addWidget(lblFit, 3, 1);
     entries->setColumnStretch(1, 1);
     const int blank = fontMetrics().horizontalAdvance('x');
     entries->setHorizontalSpacing(2 * blank);
     entries->setContentsMargins(2 * blank, 2 * blank, 2 * blank, 2 * blank);
-    txtCust1->setMinimumWidth(kEntryCharacters * fontMetrics().averageCharWidth());
+    // The fields hold what the paper holds at full width, in its font.
+    QFont printed = ReportFontFamily();
+    printed.setPointSizeF(QFontInfo(font()).pointSizeF());
+    printed.setHintingPreference(QFont::PreferDefaultHinting);
+    const double paper = kCustomerColumns * QFontMetricsF(printed).horizontalAdvance('0');
+    for (EntryLine* field : {txtCust1, txtCust2, txtTag}) {
+        field->setFont(printed);
+        field->setMinimumWidth(static_cast<int>(std::ceil(paper)) + 2 * blank);
+    }
+    // Room for two lines is kept, so that nothing moves while the user types.
+    lblFit->setWordWrap(true);
+    lblFit->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblFit->setMinimumHeight(2 * fontMetrics().lineSpacing());
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -94,6 +137,9 @@ void frmCustInfo::ConnectHandlers() {
     txtCust1->onGotFocus = [this] { txtCust1_GotFocus(); };
     txtCust2->onGotFocus = [this] { txtCust2_GotFocus(); };
     txtTag->onGotFocus = [this] { txtTag_GotFocus(); };
+    for (const EntryLine* field : {txtCust1, txtCust2, txtTag}) {
+        connect(field, &QLineEdit::textChanged, this, [this] { ShowFit(); });
+    }
     connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
     connect(cmdClear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
@@ -105,6 +151,16 @@ void frmCustInfo::Form_Load() {
     txtTag->setText(Shown(module_.TagText));
     // However the window is closed, nothing is printed unless Print was pressed.
     module_.MsgResult = kDoNotPrint;
+}
+
+void frmCustInfo::ShowFit() {
+    const QString text =
+        FitText(FitCustomerLines({txtCust1->text().toStdString(), txtCust2->text().toStdString(),
+                                  txtTag->text().toStdString()}));
+    lblFit->setText(text);
+    for (EntryLine* field : {txtCust1, txtCust2, txtTag}) {
+        field->setAccessibleDescription(text);
+    }
 }
 
 void frmCustInfo::cmdPrint_Click() {

@@ -30,6 +30,7 @@ class frmCustInfo : public QDialog {
     EntryLine* const txtCust2;
     QLabel* const Label2;
     EntryLine* const txtTag;
+    QLabel* const lblFit;  // how the lines will fit on the paper, when there is something to say
     QPushButton* const cmdPrint;
     QPushButton* const cmdClear;
     QPushButton* const cmdCancel;
@@ -38,6 +39,7 @@ class frmCustInfo : public QDialog {
     void NameControls();
     void LayOut();
     void ConnectHandlers();
+    void ShowFit();
 
     Module1& module_;
 };
