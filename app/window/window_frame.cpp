@@ -108,7 +108,9 @@ class WindowManager {
 QMargins FrameOf(QWidget& window) {
     const WId id = window.winId();
 #ifdef TARVIX_XCB
-    if (const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
+    // The offscreen platform has that interface, too, but no window of it is the X server's.
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 != nullptr && QGuiApplication::platformName() == QLatin1String("xcb")) {
         const WindowManager manager(x11->connection());
         if (!manager.IsThere()) {
             return {};
