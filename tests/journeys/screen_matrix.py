@@ -81,6 +81,11 @@ def faults_of(measured, frame, screen, scale):
     framing = (right - left - measured["window"][0] * scale,
                bottom - top - measured["window"][1] * scale)
     fits = [measured["whole"][i] * scale + framing[i] + scale <= screen[i] for i in (0, 1)]
+    # A scroll bar for one direction takes room in the other.
+    bar = 20 * scale
+    bars_fit = [fits[i] and (fits[1 - i] or
+                             measured["whole"][i] * scale + framing[i] + bar <= screen[i])
+                for i in (0, 1)]
     faults = []
     # Two pixels of the form on the screen: what is rounded in the toolkit and by window managers.
     tolerance = 2 * scale + 1
@@ -93,7 +98,7 @@ def faults_of(measured, frame, screen, scale):
         faults.append(f"not on the screen: {frame}")
     if fits[0] and fits[1] and not measured["last"]:
         faults.append("the last controls are cut")
-    if fits[0] and measured["across"] or fits[1] and measured["down"]:
+    if bars_fit[0] and measured["across"] or bars_fit[1] and measured["down"]:
         faults.append("a needless scroll bar")
     if not measured["message"]:
         faults.append("the message line is cut")
