@@ -94,7 +94,7 @@ std::string WithSeparators(const std::string& digits, bool negative, int decimal
     const size_t wholeDigits = digits.size() - static_cast<size_t>(decimals);
     const bool grouped =
         grouping == Grouping::On &&
-        wholeDigits >= static_cast<size_t>(locale.lowestGroup + locale.firstGroupMinimum);
+        static_cast<int>(wholeDigits) >= locale.lowestGroup + locale.firstGroupMinimum;
     std::string text = digits.substr(0, wholeDigits);
     if (grouped) {
         text = Grouped(text, locale);
