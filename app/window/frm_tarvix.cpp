@@ -15,10 +15,12 @@
 #include "ui/handlers/unit_boxes.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDate>
 #include <QEvent>
 #include <QLocale>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 
 namespace tarvix {
@@ -51,7 +53,8 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       host_(host),
       form_(view_.canvas(), view_.footer(), *menuBar()),
       context_{form_, state_, module_},
-      accessibleNames_(LinkedForm(context_)) {
+      accessibleNames_(LinkedForm(context_)),
+      spokenResult_(form_, form_.announcements) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
     // Never larger than the form, so there is nothing to maximize.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -84,6 +87,22 @@ void frmTarvix::ConnectHandlers() {
     QObject::connect(form_.mnuPrint, &QAction::triggered, this, &frmTarvix::mnuPrint_Click);
     QObject::connect(form_.mnuExit, &QAction::triggered, this, &frmTarvix::mnuExit_Click);
     QObject::connect(form_.mnuAbout, &QAction::triggered, this, &frmTarvix::mnuAbout_Click);
+
+    const auto onKeys = [this](const QKeySequence& keys, auto action) {
+        QObject::connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    onKeys(Qt::Key_F10, [this] { menuBar()->setActiveAction(form_.mnuFile->menuAction()); });
+    // The Tab key passes the solved value by, so without a mouse it can't be selected.
+    for (const QKeySequence& copy : QKeySequence::keyBindings(QKeySequence::Copy)) {
+        onKeys(copy, [this] { CopySolvedValue(); });
+    }
+}
+
+void frmTarvix::CopySolvedValue() const {
+    const NumericField* solved = form_.SolvedField();
+    if (solved != nullptr && !solved->text().isEmpty()) {
+        QGuiApplication::clipboard()->setText(solved->text());
+    }
 }
 
 void frmTarvix::cmdPrint_Click() {

@@ -8,6 +8,7 @@
 #include "ui/form/accessible_names.h"
 #include "ui/form/form_state.h"
 #include "ui/form/form_view.h"
+#include "ui/form/spoken_result.h"
 #include "ui/windows/logo_picture.h"
 #include "ui/windows/window_host.h"
 
@@ -46,6 +47,7 @@ class frmTarvix : public QMainWindow {
     void mnuPrint_Click();
     void mnuExit_Click();
     void mnuAbout_Click();
+    void CopySolvedValue() const;
     void ShowLogo();
     void ApplyReadableColors();
     void FitToScreen();
@@ -58,6 +60,7 @@ class frmTarvix : public QMainWindow {
     MainForm form_;
     FormContext context_;
     AccessibleNames accessibleNames_;
+    SpokenResult spokenResult_;
     std::optional<Logo> logo_;  // from Form_Load on
     QMargins frame_;            // that the window manager adds
 };

@@ -124,7 +124,11 @@ class Desk:
         for process in reversed(self.processes):
             with contextlib.suppress(ProcessLookupError):
                 os.killpg(process.pid, signal.SIGTERM)
-            process.wait(PATIENCE)
+            try:
+                process.wait(PATIENCE)
+            except subprocess.TimeoutExpired:
+                os.killpg(process.pid, signal.SIGKILL)
+                process.wait()
         self.processes.clear()
 
     def log(self):

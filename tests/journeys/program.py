@@ -51,6 +51,10 @@ class Control:
         return self.has(pyatspi.STATE_ENABLED)
 
     @property
+    def focused(self):
+        return self.has(pyatspi.STATE_FOCUSED)
+
+    @property
     def checked(self):
         return self.has(pyatspi.STATE_CHECKED)
 

@@ -1,6 +1,7 @@
 // What screen readers are told, seen from inside; the journeys read it from outside.
 #include "tests/window/window_states.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCoreApplication>
 
@@ -8,6 +9,8 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tarvix::testing {
 namespace {
@@ -49,13 +52,12 @@ TEST_F(AccessibleNamesTest, EveryControlHasANameAndTheRoleOfItsKind) {
         {"fraZfCompWarning", QAccessible::AlertMessage},
         {"fraPlateThicknessWarning", QAccessible::AlertMessage},
         {"txtMaskNomSize", QAccessible::StaticText},
-        {"txtOptionsFrame", QAccessible::Border},
-        {"txtFlowTypeFrame", QAccessible::Border},
     };
     for (const WindowState& state : AllWindowStates()) {
         Play(state.actions);
         for (const NamedControl& control : form().Controls()) {
-            if (control.widget == nullptr || !form().IsVisible(*control.widget)) {
+            if (control.widget == nullptr || !form().IsVisible(*control.widget) ||
+                IsHiddenFromHelpers(*control.widget)) {
                 continue;
             }
             EXPECT_NE(Name(control.widget), "")
@@ -70,20 +72,31 @@ TEST_F(AccessibleNamesTest, EveryControlHasANameAndTheRoleOfItsKind) {
     }
 }
 
-TEST_F(AccessibleNamesTest, NoTwoControlsThatCanBeUsedShareAName) {
+// The frame around them is said before.
+TEST_F(AccessibleNamesTest, NoTwoControlsOfAFrameThatCanBeUsedShareAName) {
     for (const WindowState& state : AllWindowStates()) {
         Play(state.actions);
-        std::set<std::string> names;
+        std::set<std::pair<QWidget*, std::string>> names;
         for (const NamedControl& control : form().Controls()) {
             const bool canBeUsed =
                 control.kind == ControlKind::TextBox || control.kind == ControlKind::ComboBox ||
                 control.kind == ControlKind::Option || control.kind == ControlKind::Button;
-            if (canBeUsed && form().IsVisible(*control.widget)) {
-                EXPECT_TRUE(names.insert(Name(control.widget)).second)
+            if (canBeUsed && form().IsVisible(*control.widget) &&
+                !IsHiddenFromHelpers(*control.widget)) {
+                EXPECT_TRUE(
+                    names.insert({control.widget->parentWidget(), Name(control.widget)}).second)
                     << Name(control.widget) << " in " << state.name.toStdString();
             }
         }
     }
+}
+
+TEST_F(AccessibleNamesTest, AnOptionDoesNotRepeatItsFrame) {
+    EXPECT_EQ(Name(form().fraFlowType), "Flow Type");
+    EXPECT_EQ(Name(form().optGas), "Air - Gas");
+    EXPECT_EQ(Name(form().fraCompCorrection), "Compressibility Correction");
+    EXPECT_EQ(Name(form().optCompZf), "Zf");
+    EXPECT_EQ(Name(form().optSteamTbl), "From ASME Table (Op.Press. based)");
 }
 
 TEST_F(AccessibleNamesTest, AFieldSaysItsQuantityAndUnit) {
@@ -141,13 +154,151 @@ TEST_F(AccessibleNamesTest, AResultIsAnnouncedAsSuch) {
     EXPECT_EQ(Name(form().txtFlow), "Flow Rate, Standard Cubic Feet per Day");
 }
 
-TEST_F(AccessibleNamesTest, LabelsBelongToTheirFields) {
-    QStringList labels;
-    for (const auto& relation : Of(form().txtPf).relations(QAccessible::Label)) {
-        labels += relation.first->text(QAccessible::Name);
+// Readers say a label instead of the name.
+TEST_F(AccessibleNamesTest, NothingLabelsAControlBesideItsName) {
+    for (const WindowState& state : AllWindowStates()) {
+        Play(state.actions);
+        for (const NamedControl& control : form().Controls()) {
+            const bool isNamed = control.kind == ControlKind::TextBox ||
+                                 control.kind == ControlKind::ComboBox ||
+                                 control.kind == ControlKind::Option;
+            if (isNamed && form().IsVisible(*control.widget) &&
+                !IsHiddenFromHelpers(*control.widget)) {
+                EXPECT_TRUE(Of(control.widget).relations(QAccessible::Label).isEmpty())
+                    << control.name.toStdString();
+            }
+        }
     }
-    EXPECT_TRUE(labels.contains("Operating Pressure"));
 }
+
+TEST_F(AccessibleNamesTest, WhatIsOnlyForTheEyesIsNotInTheTree) {
+    for (QWidget* frame : {form().fraCalcOptions, form().fraFlowType}) {
+        QAccessibleInterface& group = Of(frame);
+        ASSERT_EQ(group.childCount(), 3);
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(group.child(i)->role(), QAccessible::RadioButton);
+            EXPECT_EQ(group.indexOfChild(group.child(i)), i);
+        }
+        EXPECT_EQ(group.child(3), nullptr);
+    }
+    EXPECT_EQ(Of(form().fraFlowType).indexOfChild(&Of(form().txtFlowTypeFrame)), -1);
+}
+
+TEST_F(AccessibleNamesTest, TheTabDoesNotClaimTheFocus) {
+    std::vector<QAccessibleInterface*> waiting = {&Of(form().tabOrifice)};
+    while (!waiting.empty()) {
+        QAccessibleInterface* accessible = waiting.back();
+        waiting.pop_back();
+        EXPECT_FALSE(accessible->state().focused)
+            << accessible->text(QAccessible::Name).toStdString();
+        for (int i = 0; i < accessible->childCount(); ++i) {
+            waiting.push_back(accessible->child(i));
+        }
+    }
+}
+
+// ---- What helpers may change ----
+
+TEST_F(AccessibleNamesTest, AFieldThatCanBeTypedIntoCanBeChanged) {
+    Play({"click optCalcFR"});
+    QAccessibleInterface& field = Of(form().txtDeltaP);
+    EXPECT_TRUE(field.state().editable);
+    EXPECT_FALSE(field.state().readOnly);
+    QAccessibleEditableTextInterface* text = field.editableTextInterface();
+    ASSERT_NE(text, nullptr);
+    text->insertText(0, "150");
+    EXPECT_EQ(form().txtDeltaP->Text(), "150");
+    text->replaceText(0, 1, "2");
+    EXPECT_EQ(form().txtDeltaP->Text(), "250");
+    text->deleteText(1, 2);
+    EXPECT_EQ(form().txtDeltaP->Text(), "20");
+    field.setText(QAccessible::Value, "100");
+    EXPECT_EQ(form().txtDeltaP->Text(), "100");
+}
+
+void ExpectUnchangeable(QAccessibleInterface& field, QAccessibleEditableTextInterface* text) {
+    EXPECT_FALSE(field.state().editable);
+    EXPECT_EQ(field.editableTextInterface(), nullptr);
+    EXPECT_NE(field.textInterface(), nullptr) << "it can be read";
+    const QString before = field.text(QAccessible::Value);
+    field.setText(QAccessible::Value, "999");
+    // By what a helper has asked for before, too.
+    text->insertText(0, "9");
+    text->deleteText(0, 1);
+    text->replaceText(0, 1, "9");
+    EXPECT_EQ(field.text(QAccessible::Value), before);
+}
+
+TEST_F(AccessibleNamesTest, ALockedFieldRefusesEveryChange) {
+    Play({"click optLiquid", "click optCalcBeta"});
+    QAccessibleInterface& flow = Of(form().txtFlow);
+    QAccessibleEditableTextInterface* text = flow.editableTextInterface();
+    ASSERT_NE(text, nullptr);
+    Play({"click optCalcFR", "type txtSGf 1", "type txtSGb 1", "type txtDeltaP 100",
+          "type txtBeta 0.5"});
+    ASSERT_NE(form().txtFlow->Text(), "");
+    EXPECT_TRUE(flow.state().readOnly);
+    ExpectUnchangeable(flow, text);
+}
+
+TEST_F(AccessibleNamesTest, ADisabledFieldRefusesEveryChange) {
+    Play({"click optLiquid", "click optSgUser", "type txtSGf 1"});
+    QAccessibleInterface& gravity = Of(form().txtSGf);
+    QAccessibleEditableTextInterface* text = gravity.editableTextInterface();
+    ASSERT_NE(text, nullptr);
+    Play({"click optSgCalc", "type txtDensity 62.4"});
+    ASSERT_FALSE(form().IsEnabled(*form().txtSGf));
+    ASSERT_NE(form().txtSGf->Text(), "");
+    ExpectUnchangeable(gravity, text);
+}
+
+TEST_F(AccessibleNamesTest, TheTextOfAFieldIsReadByCharacters) {
+    Play({"click optGas", "type txtPf 142.3"});
+    QAccessibleTextInterface& text = *Of(form().txtPf).textInterface();
+    EXPECT_EQ(text.characterCount(), 5);
+    EXPECT_EQ(text.text(1, 4), "42.");
+    text.setSelection(0, 1, 3);
+    int start = -1;
+    int end = -1;
+    text.selection(0, &start, &end);
+    EXPECT_EQ(start, 1);
+    EXPECT_EQ(end, 3);
+    EXPECT_EQ(text.cursorPosition(), 3);
+    text.removeSelection(0);
+    EXPECT_EQ(text.selectionCount(), 0);
+    // The characters stand in their order, within the field.
+    const QRect first = text.characterRect(0);
+    const QRect last = text.characterRect(4);
+    EXPECT_LT(first.left(), last.left());
+    EXPECT_TRUE(Of(form().txtPf).rect().contains(last));
+    EXPECT_EQ(text.characterRect(5), QRect());
+}
+
+TEST_F(AccessibleNamesTest, ACoveredListIsOutOfReach) {
+    QAccessibleInterface& list = Of(form().cboNomSize);
+    QAccessibleInterface& frame = Of(form().fraPipe);
+    const int children = frame.childCount();
+    ASSERT_GE(frame.indexOfChild(&list), 0);
+    Play({"answer text 4", "choose cboPipeID Other (User Entered)"});
+    EXPECT_EQ(frame.indexOfChild(&list), -1);
+    EXPECT_EQ(frame.childCount(), children - 1);
+    EXPECT_TRUE(list.state().invisible);
+    EXPECT_TRUE(list.actionInterface()->actionNames().isEmpty());
+    const int index = form().cboNomSize->ListIndex();
+    for (const QString& action : {QAccessibleActionInterface::increaseAction(),
+                                  QAccessibleActionInterface::showMenuAction(),
+                                  QAccessibleActionInterface::setFocusAction()}) {
+        list.actionInterface()->doAction(action);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form().cboNomSize->ListIndex(), index);
+    EXPECT_FALSE(form().cboNomSize->view()->isVisible());
+    EXPECT_FALSE(form().cboNomSize->hasFocus());
+    Play({"choose cboPipeID #0"});
+    EXPECT_GE(frame.indexOfChild(&list), 0);
+}
+
+// ---- Actions ----
 
 TEST_F(AccessibleNamesTest, HelpersClickOptions) {
     QAccessibleInterface& option = Of(form().optCalcFR);
@@ -193,6 +344,23 @@ TEST_F(AccessibleNamesTest, HelpersPickNothingInADisabledList) {
         ->doAction(QAccessibleActionInterface::increaseAction());
     QCoreApplication::processEvents();
     EXPECT_EQ(form().cboDensityUnit->ListIndex(), 0);
+}
+
+// The bore of earlier entries stands when beta can no longer be solved.
+TEST_F(AccessibleNamesTest, ABoreThatIsNotCurrentIsNoResult) {
+    Play({"click optLiquid", "type txtSGf 1", "type txtSGb 1", "type txtDeltaP 100",
+          "type txtFlow 30"});
+    ASSERT_NE(form().txtBeta->Text(), "");
+    EXPECT_EQ(Name(form().txtOriBoreDia), "Orifice Bore Diameter, Inches, result");
+    EXPECT_EQ(Of(form().txtOriBoreDia).text(QAccessible::Description), "");
+    Play({"type txtFlow 0"});
+    ASSERT_EQ(form().txtBeta->Text(), "");
+    ASSERT_NE(form().txtOriBoreDia->Text(), "");
+    EXPECT_EQ(Name(form().txtOriBoreDia), "Orifice Bore Diameter, Inches");
+    EXPECT_EQ(Of(form().txtOriBoreDia).text(QAccessible::Description),
+              "Not current: it belongs to earlier entries");
+    Play({"type txtFlow 30"});
+    EXPECT_EQ(Name(form().txtOriBoreDia), "Orifice Bore Diameter, Inches, result");
 }
 
 TEST_F(AccessibleNamesTest, TheMessageLineSaysItsMessage) {

@@ -106,6 +106,99 @@ TEST_F(DropDownListTest, KeysPickAndRunTheHandler) {
     EXPECT_EQ(Calculations(), before + 5);
 }
 
+// Where a decimal comma makes a size end the program, passing over one must not pick it.
+TEST_F(DropDownListTest, KeysAndTheWheelOpenTheClosedNominalSizes) {
+    DropDownList& list = *form().cboNomSize;
+    const int size = list.ListIndex();
+    const int before = Calculations();
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                              Qt::Key_Home, Qt::Key_End, Qt::Key_1, Qt::Key_Space}) {
+        SCOPED_TRACE(key);
+        list.setFocus();
+        QTest::keyClick(&list, key);
+        EXPECT_TRUE(list.view()->isVisible());
+        EXPECT_EQ(list.ListIndex(), size);
+        QTest::keyClick(list.view(), Qt::Key_Escape);
+        EXPECT_FALSE(list.view()->isVisible());
+    }
+    TurnWheel(list, -1);
+    EXPECT_TRUE(list.view()->isVisible());
+    TurnWheel(*list.view()->viewport(), -1);
+    QTest::keyClick(list.view(), Qt::Key_Escape);
+    EXPECT_EQ(list.ListIndex(), size);
+    EXPECT_EQ(Calculations(), before);
+}
+
+TEST_F(DropDownListTest, ANominalSizeIsPickedWithEnter) {
+    DropDownList& list = *form().cboNomSize;
+    list.setFocus();
+    ASSERT_EQ(list.Text(), "2");
+    const int before = Calculations();
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(list.view(), Qt::Key_Down);
+    QTest::keyClick(list.view(), Qt::Key_Down);
+    EXPECT_EQ(list.Text(), "2");
+    QTest::keyClick(list.view(), Qt::Key_Return);
+    EXPECT_FALSE(list.view()->isVisible());
+    EXPECT_EQ(list.Text(), "3");
+    EXPECT_EQ(Calculations(), before + 1);
+}
+
+TEST_F(DropDownListTest, ATypedSizeIsLedToAndPickedWithEnter) {
+    DropDownList& list = *form().cboNomSize;
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_8);
+    EXPECT_EQ(list.Text(), "2");
+    QTest::keyClick(list.view(), Qt::Key_Return);
+    EXPECT_EQ(list.Text(), "8");
+}
+
+// ---- The list behind the blank ----
+
+class CoveredListTest : public DropDownListTest {
+  protected:
+    CoveredListTest() {
+        player_.desk().QueueAnswer({true, "4"});
+        form().cboPipeID->SetListIndex(form().cboPipeID->count() - 1);
+        size_ = form().cboNomSize->ListIndex();
+    }
+
+    void ExpectNothingHappened() {
+        EXPECT_FALSE(form().cboNomSize->view()->isVisible());
+        EXPECT_EQ(form().cboNomSize->ListIndex(), size_);
+        EXPECT_EQ(form().cboPipeID->Text(), "4.000\" (User Entered)");
+        EXPECT_TRUE(form().IsVisible(*form().txtMaskNomSize));
+    }
+
+    int size_ = -1;
+};
+
+TEST_F(CoveredListTest, TheBlankTakesTheMouse) {
+    QWidget& blank = *form().txtMaskNomSize;
+    const QPoint middle = blank.geometry().center();
+    ASSERT_EQ(form().fraPipe->childAt(middle), &blank);
+    QTest::mouseClick(&blank, Qt::LeftButton);
+    QTest::mouseDClick(&blank, Qt::LeftButton);
+    QTest::mouseClick(&blank, Qt::RightButton);
+    ExpectNothingHappened();
+    EXPECT_FALSE(blank.hasFocus());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(CoveredListTest, KeysAndTheWheelDoNotReachTheList) {
+    DropDownList& list = *form().cboNomSize;
+    list.setFocus();  // as it has when the list itself has led here
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_F4, Qt::Key_Space, Qt::Key_3}) {
+        QTest::keyClick(&list, key);
+        ExpectNothingHappened();
+    }
+    TurnWheel(*form().txtMaskNomSize, -1);
+    TurnWheel(list, -1);
+    ExpectNothingHappened();
+    QTest::keyClick(&list, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), form().cboPipeID);
+}
+
 TEST_F(DropDownListTest, TheOpenListShowsEveryEntryWhole) {
     for (DropDownList* list : {form().cboPipeID, form().cboFlowUnit, form().cboPressUnit,
                                form().cboDeltaPunit, form().cboNomSize}) {

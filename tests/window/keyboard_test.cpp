@@ -5,6 +5,7 @@
 #include "ui/windows/frm_cust_info.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMenuBar>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -256,6 +257,62 @@ TEST_F(KeyboardTest, CtrlPPrintsOnlyWhatIsSolved) {
     EXPECT_EQ(Focus(), "txtBeta") << "the focus is where it was";
 }
 
+TEST_F(KeyboardTest, CtrlQAsksToExit) {
+    player_.desk().QueueAnswer({false, std::nullopt});
+    Play({"focus txtPf"});
+    Press(Qt::Key_Q, Qt::ControlModifier);
+    const auto boxes = player_.desk().TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Program Complete. EXIT PROGRAM");
+}
+
+TEST_F(KeyboardTest, F10OpensTheMenu) {
+    Play({"focus txtPf"});
+    Press(Qt::Key_F10);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form().mnuFile->isVisible(); }));
+    QTest::keyClick(form().mnuFile, Qt::Key_Escape);
+    window().menuBar()->setActiveAction(nullptr);
+}
+
+TEST_F(KeyboardTest, CtrlCCopiesTheSolvedValueFromAnywhere) {
+    QClipboard& clipboard = *QApplication::clipboard();
+    Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
+          "choose cboNomSize 4", "type txtDeltaP 100", "type txtBeta 0.5"});
+    const auto copied = [&](const char* from) {
+        clipboard.setText("something else");
+        Play({QString("focus ") + from});
+        if (auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+            field->deselect();
+        }
+        Press(Qt::Key_C, Qt::ControlModifier);
+        return clipboard.text().toStdString();
+    };
+    for (const char* control : {"txtDeltaP", "txtBeta", "cboTimeUnit", "optCalcFR", "cmdExit"}) {
+        EXPECT_EQ(copied(control), form().txtFlow->Text()) << control;
+    }
+    EXPECT_EQ(form().txtFlow->Text(), "142.3");
+    Play({"choose cboFlowUnit Cubic Centimeters"});
+    EXPECT_EQ(copied("txtBeta"), form().txtFlow->Text()) << "as it stands, with its groups";
+    Play({"choose cboFlowUnit Gallons", "click optCalcDP"});
+    EXPECT_EQ(copied("txtFlow"), form().txtDeltaP->Text());
+    Play({"click optCalcBeta"});
+    EXPECT_EQ(copied("txtFlow"), form().txtBeta->Text());
+}
+
+TEST_F(KeyboardTest, CtrlCCopiesASelectionBeforeTheSolvedValue) {
+    Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
+          "type txtDeltaP 100", "type txtBeta 0.5", "focus txtDeltaP"});
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "100");
+}
+
+TEST_F(KeyboardTest, WhereNothingIsSolvedCtrlCCopiesNothing) {
+    QApplication::clipboard()->setText("something else");
+    Play({"click optGas", "focus cboTimeUnit"});
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "something else");
+}
+
 TEST_F(KeyboardTest, EnterAndSpacePressTheButtonThatHasTheFocus) {
     player_.desk().QueueAnswer({false, std::nullopt});
     player_.desk().QueueAnswer({false, std::nullopt});
@@ -296,6 +353,26 @@ TEST_F(KeyboardTest, EnterPrintsAndEscCancelsInTheCustomerWindow) {
         EXPECT_EQ(module.MsgResult, result);
         EXPECT_EQ(module.CustLine1, result == kPrint ? "ACME" : "");
     }
+}
+
+TEST_F(KeyboardTest, ClearLeadsToTheFirstLineAndEnterThenPrints) {
+    constexpr int kPrint = 1;
+    ScriptDesk desk([](int) {});
+    Module1 module(desk, NumberLocale{});
+    module.CustLine1 = "ACME";
+    frmCustInfo customer(module, &window());
+    customer.show();
+    customer.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return customer.txtCust1->hasFocus(); }));
+    customer.cmdClear->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(customer.cmdClear, Qt::Key_Return);
+    ASSERT_TRUE(customer.isVisible());
+    EXPECT_EQ(Focus(), "txtCust1");
+    QTest::keyClicks(QApplication::focusWidget(), "Northfield");
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(customer.isVisible());
+    EXPECT_EQ(module.MsgResult, kPrint);
+    EXPECT_EQ(module.CustLine1, "Northfield");
 }
 
 }  // namespace

@@ -5,10 +5,13 @@
 #include "ui/controls/readable_palette.h"
 #include "ui/windows/window_icon.h"
 
+#include <QResizeEvent>
+#include <QSignalBlocker>
 #include <QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 namespace tarvix::testing {
@@ -78,6 +81,34 @@ TEST_P(LooksAtFontTest, OnlyTheLongCaptionOfTheCompressibilityFieldBreaks) {
     EXPECT_EQ(form.Of(label).place.width, 1700);
 }
 
+// 999,999,999 gallons per minute of mercury in grams per day are 7.4e16, and 1,000,000 inches of
+// water 25,400,051 mm; 8 is as wide as any digit.
+TEST_P(LooksAtFontTest, TheLongestResultsAreShownWhole) {
+    const std::pair<QString, std::pair<QString, QString>> longest[] = {
+        {"optCalcFR", {"txtFlow", "88,888,888,888,888,888"}},
+        {"optCalcDP", {"txtDeltaP", "88,888,888"}},
+        {"optCalcBeta", {"txtBeta", "0.88888"}},
+        {"optCalcBeta", {"txtOriBoreDia", "1088.888"}},
+    };
+    for (const auto& [mode, result] : longest) {
+        SCOPED_TRACE(result.first.toStdString());
+        Play({"", {"click optLiquid", "click " + mode}});
+        auto& field = dynamic_cast<NumericField&>(*Player().form().Find(result.first)->widget);
+        const double whole = QFontInfo(field.parentWidget()->font()).pointSizeF();
+        Player().form().txtBeta->setText("0.5");  // a bore without a beta is not current
+        field.setText("1");
+        EXPECT_NEAR(QFontInfo(field.font()).pointSizeF(), whole, 0.1);
+        const QSignalBlocker noLimit(field);  // a beta is refused from 0.95 on, a bore moves beta
+        field.setText(result.second);
+        QResizeEvent resized(field.size(), field.size());
+        QApplication::sendEvent(&field, &resized);
+        EXPECT_TRUE(field.font().bold());
+        const QFontMetrics metrics(field.font());
+        EXPECT_LE(metrics.horizontalAdvance(result.second), field.TextArea().width());
+        EXPECT_GT(QFontInfo(field.font()).pointSizeF(), whole / 2);
+    }
+}
+
 // Left, top, width and height of what is painted on the background in an area of a picture.
 QRect PaintedIn(const QImage& picture, const QRect& area) {
     const QRgb background = picture.pixel(area.topLeft());
@@ -90,6 +121,20 @@ QRect PaintedIn(const QImage& picture, const QRect& area) {
         }
     }
     return painted;
+}
+
+// Painted, too: the first digit is there.
+TEST_P(LooksAtFontTest, ALongFlowRateIsPaintedFromItsFirstDigit) {
+    Play({"", {"click optLiquid", "click optCalcFR"}});
+    NumericField& field = *Player().form().txtFlow;
+    field.setText("88,888,888,888,888,888");
+    const QImage picture = field.grab().toImage();
+    const QRect area = field.TextArea();
+    const QRect middle(area.left() - 2, field.height() / 4, area.width() + 4, field.height() / 2);
+    const QRect painted = PaintedIn(picture, middle);
+    EXPECT_GE(painted.left(), area.left() - 1);
+    EXPECT_LE(painted.right(), area.right() + 2);
+    EXPECT_NEAR(painted.width(), QFontMetrics(field.font()).horizontalAdvance(field.text()), 4);
 }
 
 std::vector<OptionButton*> VisibleOptions(const MainForm& form) {
@@ -142,6 +187,55 @@ TEST_P(LooksAtFontTest, OptionsAreClickedOnAllOfTheirText) {
 }
 
 class LooksTest : public LayoutTest {};
+
+// The bore keeps its text when beta can't be solved any more, but does not look like a result.
+TEST_F(LooksTest, ABoreThatIsNotCurrentIsDimmed) {
+    Play({"",
+          {"click optLiquid", "click optCalcBeta", "type txtSGf 1", "type txtSGb 1",
+           "type txtDeltaP 100", "type txtFlow 30"}});
+    NumericField& bore = *Player().form().txtOriBoreDia;
+    const auto colors = [&] {
+        return std::pair(bore.palette().color(QPalette::Active, QPalette::Text),
+                         bore.palette().color(QPalette::Active, QPalette::Base));
+    };
+    ASSERT_NE(bore.text(), "");
+    EXPECT_TRUE(bore.font().bold());
+    EXPECT_EQ(colors(), std::pair(QColor(Qt::black), QColor(Qt::green)));
+
+    Play({"", {"type txtFlow 0"}});
+    ASSERT_EQ(Player().form().txtBeta->text(), "");
+    ASSERT_NE(bore.text(), "");
+    EXPECT_EQ(BackColorOf(bore), BackColor::Green);
+    EXPECT_FALSE(bore.font().bold());
+    EXPECT_EQ(colors().second, QColor(Qt::green));
+    EXPECT_GE(ContrastOf(colors().first, Qt::green), 3);
+    EXPECT_LT(ContrastOf(colors().first, Qt::green), 7);
+
+    Play({"", {"click optCalcFR"}});
+    EXPECT_TRUE(bore.Current()) << "it is an input now";
+    EXPECT_EQ(BackColorOf(bore), BackColor::WindowBackground);
+    EXPECT_EQ(colors().first, QGuiApplication::palette().color(QPalette::Text));
+    Play({"", {"type txtBeta x", "click optCalcBeta"}});
+    EXPECT_FALSE(bore.Current()) << "beta is empty when the mode begins";
+    EXPECT_FALSE(bore.font().bold());
+    Play({"", {"type txtFlow 30"}});
+    EXPECT_TRUE(bore.Current());
+    EXPECT_TRUE(bore.font().bold());
+}
+
+// Where a list is covered, there is only what is around it.
+TEST_F(LooksTest, TheBlankOverTheNominalSizeLooksLikeItsFrame) {
+    Play({"", {"answer text 4", "choose cboPipeID Other (User Entered)"}});
+    const QWidget& blank = *Player().form().txtMaskNomSize;
+    ASSERT_TRUE(Player().form().IsVisible(blank));
+    const QImage frame = Player().form().fraPipe->grab().toImage();
+    const QRgb around = frame.pixel(blank.x() + blank.width() / 2, blank.y() - 2);
+    for (int x = blank.x(); x <= blank.geometry().right(); ++x) {
+        for (int y = blank.y(); y <= blank.geometry().bottom(); ++y) {
+            ASSERT_EQ(frame.pixel(x, y), around) << x << ", " << y;
+        }
+    }
+}
 
 // Of the outer quarter of an option's disc, at the height of its middle: there the ring crosses it.
 double RingContrast(const QImage& picture, const QRect& disc) {

@@ -252,6 +252,31 @@ TEST_F(FieldMouseTest, TheFirstClickSelectsAndTheSecondSetsTheCaret) {
     EXPECT_EQ(field.cursorPosition(), 3);
 }
 
+TEST_F(FieldMouseTest, ADoubleClickSelectsTheWholeNumber) {
+    for (const auto& [locale, number] :
+         {std::pair("en_US", "1,234.5"), std::pair("de_DE", "1.234,5"),
+          std::pair("fr_FR", "1 234,5"), std::pair("en_US", "-1.5e-3")}) {
+        SCOPED_TRACE(number);
+        UseLocale(locale);
+        NumericField& field = Show(number);
+        const QPoint at = SecondDigitFromTheRight(field);
+        QTest::mouseClick(&field, Qt::LeftButton, {}, at);
+        QTest::mouseDClick(&field, Qt::LeftButton, {}, at);
+        EXPECT_EQ(field.selectedText(), number);
+        field.deselect();
+        QTest::mousePress(&field, Qt::LeftButton, {}, at);
+        QTest::mouseRelease(&field, Qt::LeftButton, {}, at);
+        QMouseEvent second(QEvent::MouseButtonDblClick, at, field.mapToGlobal(at), Qt::LeftButton,
+                           Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&field, &second);
+        QMouseEvent tremble(QEvent::MouseMove, at + QPoint(1, 0), field.mapToGlobal(at),
+                            Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&field, &tremble);
+        QTest::mouseRelease(&field, Qt::LeftButton, {}, at);
+        EXPECT_EQ(field.selectedText(), number);
+    }
+}
+
 TEST_F(FieldMouseTest, AHandThatTremblesKeepsTheSelection) {
     NumericField& field = Show("12345");
     const QPoint at = SecondDigitFromTheRight(field);

@@ -115,6 +115,7 @@ QString ScriptPlayer::Play(const QString& line) {
     const QString argument = WithoutBlanks(words.rest);
     const Words named = Split(words.rest);
     const bool isFirst = !std::exchange(started_, true);
+    CloseOpenList(words.command);
 
     QString why;
     if (words.command == QLatin1String("locale")) {
@@ -155,6 +156,15 @@ QString ScriptPlayer::Play(const QString& line) {
         write_({{QStringLiteral("refused"), line}, {QStringLiteral("why"), why}});
     }
     return {};
+}
+
+// A list that keys have opened is closed by whatever the user does next but look and press keys.
+void ScriptPlayer::CloseOpenList(const QString& command) {
+    QWidget* open = QApplication::activePopupWidget();
+    if (open != nullptr && command != QLatin1String("keys") && command != QLatin1String("state") &&
+        command != QLatin1String("picture")) {
+        open->close();
+    }
 }
 
 bool ScriptPlayer::SetLocale(const QString& name) {
@@ -301,7 +311,11 @@ void ScriptPlayer::Keys(const QString& text) {
 }
 
 void ScriptPlayer::PressKey(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    // An open list takes the keys.
     QWidget* target = Window().focusWidget();
+    if (QWidget* open = QApplication::activePopupWidget()) {
+        target = open->focusWidget() != nullptr ? open->focusWidget() : open;
+    }
     if (target == nullptr) {
         target = &Window();
     }

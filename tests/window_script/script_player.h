@@ -48,6 +48,7 @@ class ScriptPlayer {
     QString Unusable(const NamedControl* control) const;
     NumericField* EditableField(const QString& name, QString& why);
     static void GiveFocus(QWidget& widget);
+    static void CloseOpenList(const QString& command);
     void PressKey(int key, Qt::KeyboardModifiers modifiers, const QString& text);
     MainForm& Form() { return Window().form(); }
 

@@ -1,5 +1,5 @@
-// Roles and announcements for screen readers where the toolkit's own don't fit: alerts, options
-// that are clicked, lists that say what they are for, and boxes and backdrops.
+// Roles for screen readers and other helpers where the toolkit's own don't fit, and what they are
+// told when something changes.
 #pragma once
 
 #include <QAccessible>
@@ -11,11 +11,16 @@ namespace tarvix {
 // widget, since helpers keep what they have once been told.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-// Tells that an alert says something else now. An alert is named by what it says: its own text, or
-// the texts of the labels in it; its accessible name stands in while there are none.
-void AnnounceAlert(QWidget& alert);
+// A widget that is only there for the eyes. The frame around it needs a role by SetAccessibleRole.
+void HideFromHelpers(QWidget& widget);
+bool IsHiddenFromHelpers(const QObject& widget);
 
-// Tells that a list's name has changed: it holds the selected entry.
-void AnnounceEntry(QWidget& list);
+// What an alert says: its own text, or the texts of the labels in it. It is named by that; its
+// accessible name stands in while it says nothing.
+QString AlertText(const QWidget& alert);
+
+// Tells that the widget is named otherwise now: an alert with another text, a list with another
+// entry, a field that has become a result.
+void AnnounceName(QWidget& widget);
 
 }  // namespace tarvix

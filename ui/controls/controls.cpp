@@ -1,11 +1,12 @@
 #include "ui/controls/controls.h"
 
+#include "ui/controls/accessible_roles.h"
 #include "ui/controls/readable_palette.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QInputMethodEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -18,144 +19,16 @@ namespace tarvix {
 
 namespace {
 
-constexpr const char* kBackColorProperty = "backColor";
-
 // Pixels between an entry of a list and the inner edges of its box.
 constexpr int kEntryMargin = 4;
 
-const QColor kDarkText(0x00, 0x00, 0x00);
-const QColor kDarkDisabledText(0x45, 0x45, 0x45);
-
-QColor ColorOf(BackColor color) {
-    const auto bgr = static_cast<unsigned>(color);
-    return QColor(static_cast<int>(bgr & 0xFFU), static_cast<int>((bgr >> 8U) & 0xFFU),
-                  static_cast<int>((bgr >> 16U) & 0xFFU));
-}
-
-QPalette PaletteOf(const QWidget& widget, BackColor color) {
-    QPalette palette;
-    palette.setColor(QPalette::Window, ColorOf(color));
-    palette.setColor(QPalette::Button, ColorOf(color));
-    // A text box shows the color; the circle of an option stays white, whatever its dot is on.
-    const bool isTextBox = qobject_cast<const QLineEdit*>(&widget) != nullptr;
-    palette.setColor(QPalette::Base, isTextBox ? ColorOf(color) : QColor(Qt::white));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Active, role, kDarkText);
-        palette.setColor(QPalette::Inactive, role, kDarkText);
-        palette.setColor(QPalette::Disabled, role, kDarkDisabledText);
-    }
-    return palette;
-}
-
-// True for a key that may put characters into a field: not for the keys of commands, but for the
-// invisible marks of some keyboards, which the toolkit takes as text.
-bool IsTyping(const QKeyEvent& event) {
-    if (event.text().isEmpty()) {
-        return false;
-    }
-    const QChar::Category category = event.text().at(0).category();
-    if (category == QChar::Other_Format) {
-        return true;
-    }
-    const bool command = event.modifiers() == Qt::ControlModifier ||
-                         event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
-    return category != QChar::Other_Control && !command;
+// The keys by which the toolkit picks another entry of a list that is not open.
+bool PicksFromClosedList(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+           key == Qt::Key_PageDown || key == Qt::Key_Home || key == Qt::Key_End;
 }
 
 }  // namespace
-
-void SetBackColor(QWidget& widget, BackColor color) {
-    if (BackColorOf(widget) == color) {
-        return;
-    }
-    widget.setProperty(kBackColorProperty, static_cast<int>(color));
-    const bool systemColor = color == BackColor::WindowBackground || color == BackColor::Default;
-    widget.setPalette(systemColor ? QPalette() : PaletteOf(widget, color));
-    // Text boxes fill their own background.
-    if (qobject_cast<QLineEdit*>(&widget) == nullptr) {
-        widget.setAutoFillBackground(!systemColor);
-    }
-}
-
-BackColor BackColorOf(const QWidget& widget) {
-    const QVariant color = widget.property(kBackColorProperty);
-    return color.isValid() ? static_cast<BackColor>(color.toInt()) : BackColor::Default;
-}
-
-NumericField::NumericField(QWidget* parent) : EntryLine(parent) {
-    setAlignment(Qt::AlignRight);
-    // What a keyboard on the screen offers.
-    setInputMethodHints(Qt::ImhFormattedNumbersOnly);
-    // The toolkit also reports an edit that puts the same text in place of the selected one.
-    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
-        if (std::exchange(reportedText_, text) != text && onChange) {
-            onChange();
-        }
-    });
-}
-
-void NumericField::SetLocked(bool locked) {
-    setReadOnly(locked);
-    QFont weight = font();
-    weight.setBold(locked);
-    setFont(weight);
-}
-
-const EnteredNumber& NumericField::Number() const {
-    if (std::string now = Text(); now != number_.text()) {
-        number_ = EnteredNumber(std::move(now), locale_);
-    }
-    return number_;
-}
-
-void NumericField::SetLocale(const NumberLocale& locale) {
-    locale_ = locale;
-    number_ = EnteredNumber(Text(), locale);
-}
-
-FieldSelection NumericField::Selection() const {
-    const QString whole = text();
-    const auto start = hasSelectedText() ? selectionStart() : cursorPosition();
-    const auto length = selectedText().size();
-    return {whole.left(start).toStdString(), whole.mid(start, length).toStdString(),
-            whole.mid(start + length).toStdString()};
-}
-
-void NumericField::keyPressEvent(QKeyEvent* event) {
-    if (!IsTyping(*event)) {
-        EntryLine::keyPressEvent(event);
-        return;
-    }
-    QString typed = event->text();
-    if (event->modifiers().testFlag(Qt::KeypadModifier) &&
-        (event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma)) {
-        typed = QString(QLatin1Char(locale_.decimalSeparator));
-    }
-    event->accept();
-    for (const QChar character : typed) {
-        if (IsKept(character)) {
-            QKeyEvent kept(event->type(), event->key(), event->modifiers(), QString(character),
-                           event->isAutoRepeat());
-            EntryLine::keyPressEvent(&kept);
-            event->setAccepted(kept.isAccepted());
-        }
-    }
-}
-
-void NumericField::inputMethodEvent(QInputMethodEvent* event) {
-    const QString typed = event->commitString();
-    event->setCommitString(QString());
-    QLineEdit::inputMethodEvent(event);
-    for (const QChar character : typed) {
-        if (!isReadOnly() && IsKept(character)) {
-            insert(QString(character));
-        }
-    }
-}
-
-bool NumericField::IsKept(QChar character) const {
-    return !onKeyPress || onKeyPress(character.unicode()) != 0;
-}
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
     connect(this, &QAbstractButton::toggled, this, [this](bool selected) {
@@ -296,7 +169,16 @@ QSize DropDownList::sizeHint() const {
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, entry, this);
 }
 
+void DropDownList::SetCovered(bool covered) {
+    covered_ = covered;
+    // The focus would not be seen on a list that is covered.
+    setFocusPolicy(covered ? Qt::ClickFocus : Qt::StrongFocus);
+}
+
 void DropDownList::showPopup() {
+    if (covered_) {
+        return;
+    }
     // Beside its entries the open list shows a mark at the selected one.
     view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * kEntryMargin);
     QComboBox::showPopup();
@@ -311,11 +193,58 @@ void DropDownList::AddItem(std::string_view text) {
     addItem(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-void DropDownList::wheelEvent(QWheelEvent* event) {
-    if (hasFocus()) {
-        QComboBox::wheelEvent(event);
-    } else {
+void DropDownList::keyPressEvent(QKeyEvent* event) {
+    // The Tab key and the window's shortcuts don't come here.
+    if (covered_) {
         event->ignore();
+        return;
+    }
+    const bool types =
+        !event->text().isEmpty() && event->text().at(0).isPrint() && event->key() != Qt::Key_Space;
+    if (opensToPick_ && (types || PicksFromClosedList(event->key()))) {
+        showPopup();
+        if (types) {
+            QCoreApplication::sendEvent(view(), event);
+        }
+        event->accept();
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+void DropDownList::wheelEvent(QWheelEvent* event) {
+    if (!hasFocus() || covered_) {
+        event->ignore();
+    } else if (opensToPick_) {
+        showPopup();
+        event->accept();
+    } else {
+        QComboBox::wheelEvent(event);
+    }
+}
+
+CoverField::CoverField(QWidget* parent) : QLineEdit(parent) {
+    SetAccessibleRole(*this, QAccessible::StaticText);
+    setReadOnly(true);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setCursor(Qt::ArrowCursor);
+}
+
+void CoverField::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), parentWidget()->palette().window());
+}
+
+bool CoverField::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+            event->accept();
+            return true;
+        default:
+            return QLineEdit::event(event);
     }
 }
 

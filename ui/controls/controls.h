@@ -2,73 +2,18 @@
 // the calculator needs.
 #pragma once
 
-#include "app/shared/module1.h"
-#include "numbers/entered_number.h"
-#include "ui/controls/entry_line.h"
+#include "ui/controls/back_color.h"
+#include "ui/controls/numeric_field.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QStyleOptionButton>
 
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace tarvix {
-
-// Back colours of state, as 0xBBGGRR. Text on them is dark, in dark desktop themes too.
-enum class BackColor : int {
-    Default = -1,           // none set by the program
-    WindowBackground = -2,  // the system's window background: a field that applies
-    Green = 0x00FF00,       // result fields, selected mode and fluid
-    LightGrey = 0xC0C0C0,   // mode and fluid not selected
-    PaleGrey = 0xE0E0E0,    // a field that does not apply; the message line without a message
-    Yellow = 0x00FFFF,
-    Red = 0x0000FF,
-};
-
-void SetBackColor(QWidget& widget, BackColor color);
-BackColor BackColorOf(const QWidget& widget);
-
-// A text box for a number. Asks `onKeyPress` about every character that a key, or an input method,
-// would put into it, and drops those for which it answers 0; pasted text is not asked about. Tells
-// `onChange` at once when the text has become a different one.
-class NumericField : public EntryLine {
-  public:
-    explicit NumericField(QWidget* parent);
-
-    std::function<int(int keyCode)> onKeyPress;
-    std::function<void()> onChange;
-
-    std::string Text() const { return text().toStdString(); }
-    void SetText(const std::string& value) { setText(QString::fromStdString(value)); }
-
-    // The text with its value, read once for each text.
-    const EnteredNumber& Number() const;
-
-    // How the field reads its text; the decimal key of the number pad types its separator.
-    void SetLocale(const NumberLocale& locale);
-
-    // A locked field shows a result: in bold, and it can't be typed into.
-    void SetLocked(bool locked);
-    bool Locked() const { return isReadOnly(); }
-    void SetTabStop(bool stop) { setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
-    bool TabStop() const { return (focusPolicy() & Qt::TabFocus) != 0; }
-
-    // The text in three pieces around the selection or the caret.
-    FieldSelection Selection() const;
-
-  protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void inputMethodEvent(QInputMethodEvent* event) override;
-
-  private:
-    bool IsKept(QChar character) const;
-
-    QString reportedText_;
-    NumberLocale locale_;
-    mutable EnteredNumber number_;
-};
 
 // An option button. Selecting it from code runs its click handler, as a click does, also when it is
 // selected already. Of the options of a frame, the Tab key visits the selected one; the arrow keys
@@ -128,14 +73,34 @@ class DropDownList : public QComboBox {
     void AddItem(std::string_view text);
     void Clear() { clear(); }
 
+    // Keys and the wheel open the closed list instead of picking from it.
+    void SetOpensToPick() { opensToPick_ = true; }
+
+    // A list behind something that covers it can't be opened or picked from.
+    void SetCovered(bool covered);
+    bool Covered() const { return covered_; }
+
     QSize sizeHint() const override;
     void showPopup() override;
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
     QString widestEntry_;
+    bool opensToPick_ = false;
+    bool covered_ = false;
+};
+
+// A blank over a control that does not apply: shows what is around it, and keeps the mouse away.
+class CoverField : public QLineEdit {
+  public:
+    explicit CoverField(QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
 };
 
 }  // namespace tarvix

@@ -34,7 +34,7 @@ void EntryLine::mousePressEvent(QMouseEvent* event) {
     // The press that brings the focus leaves the whole text selected; the next one sets the caret.
     if (std::exchange(focusCameByThisPress_, false)) {
         if (event->button() == Qt::LeftButton) {
-            enteringPress_ = event->pos();
+            KeepSelectionUntilDragged(event->pos());
         }
         return;
     }
@@ -42,24 +42,23 @@ void EntryLine::mousePressEvent(QMouseEvent* event) {
 }
 
 void EntryLine::mouseMoveEvent(QMouseEvent* event) {
-    if (enteringPress_) {
+    if (keepingPress_) {
         // A hand that trembles does not select.
-        if ((event->pos() - *enteringPress_).manhattanLength() <
-            QApplication::startDragDistance()) {
+        if ((event->pos() - *keepingPress_).manhattanLength() < QApplication::startDragDistance()) {
             return;
         }
         // Now the press counts, but not as one on the selected text, which would drag that.
         deselect();
-        QMouseEvent press(QEvent::MouseButtonPress, *enteringPress_, mapToGlobal(*enteringPress_),
+        QMouseEvent press(QEvent::MouseButtonPress, *keepingPress_, mapToGlobal(*keepingPress_),
                           Qt::LeftButton, event->buttons(), event->modifiers());
-        enteringPress_.reset();
+        keepingPress_.reset();
         QLineEdit::mousePressEvent(&press);
     }
     QLineEdit::mouseMoveEvent(event);
 }
 
 void EntryLine::mouseReleaseEvent(QMouseEvent* event) {
-    enteringPress_.reset();
+    keepingPress_.reset();
     QLineEdit::mouseReleaseEvent(event);
 }
 

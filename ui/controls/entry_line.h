@@ -25,10 +25,13 @@ class EntryLine : public QLineEdit {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
+    // The press that went down there leaves the selection alone unless it turns into a drag.
+    void KeepSelectionUntilDragged(QPoint press) { keepingPress_ = press; }
+
   private:
     bool focusCameByThisPress_ = false;
-    // Where that press went down, until it turns into a drag or ends.
-    std::optional<QPoint> enteringPress_;
+    // Where such a press went down, until it turns into a drag or ends.
+    std::optional<QPoint> keepingPress_;
 };
 
 }  // namespace tarvix

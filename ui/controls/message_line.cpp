@@ -14,7 +14,8 @@ constexpr auto kAnnounce = static_cast<QEvent::Type>(QEvent::User + 1);
 
 }  // namespace
 
-MessageLine::MessageLine(QWidget* parent) : QLabel(parent) {
+MessageLine::MessageLine(QWidget* parent, Announcements& announcements)
+    : QLabel(parent), announcements_(announcements) {
     SetAccessibleRole(*this, QAccessible::AlertMessage);
     // With a name of its own the label leaves announcing its text to this class.
     setAccessibleName(QStringLiteral("No message"));
@@ -39,7 +40,8 @@ bool MessageLine::event(QEvent* event) {
         willAnnounce_ = false;
         if (announced_ != text()) {
             announced_ = text();
-            AnnounceAlert(*this);
+            AnnounceName(*this);
+            announcements_.Say(announced_);
         }
         return true;
     }

@@ -1,5 +1,7 @@
 #include "ui/controls/tab_control.h"
 
+#include "ui/controls/accessible_roles.h"
+
 #include <QEvent>
 #include <QTabBar>
 
@@ -9,6 +11,8 @@ class OneTabBar : public QTabBar {
   public:
     explicit OneTabBar(TabControl* owner) : QTabBar(owner), owner_(owner) {
         setFocusPolicy(Qt::NoFocus);
+        // The toolkit's own has a tab in it that says that it has the focus, always.
+        SetAccessibleRole(*this, QAccessible::PageTab);
     }
 
   protected:

@@ -2,7 +2,7 @@
 
 #include "ui/controls/accessible_roles.h"
 
-#include <utility>
+#include <QTabBar>
 
 namespace tarvix {
 
@@ -19,13 +19,40 @@ void SetName(QWidget* widget, const char* name) {
     SetName(*widget, QString::fromUtf8(name));
 }
 
-// What the fields and lists are for, and the unit that is chosen in their list.
-QString InUnit(const char* quantity, const QComboBox& unit) {
-    return QString::fromUtf8(quantity) + QStringLiteral(", ") + unit.currentText().trimmed();
+QString UnitIn(const QComboBox& list) {
+    return list.currentText().trimmed();
 }
 
-void NameField(NumericField& field, const QString& quantity) {
-    SetName(field, field.Locked() ? quantity + QStringLiteral(", result") : quantity);
+// A field of the fluid's properties.
+FieldWords PropertyWords(const MainForm& form, const NumericField& field) {
+    if (&field == form.txtPf) {
+        return {"Operating Pressure",
+                UnitIn(*form.cboPressUnit) + (form.optPabsolute->Value() ? " absolute" : " gauge"),
+                {}};
+    }
+    if (&field == form.txtTf) {
+        return {"Operating Temperature",
+                (form.optDegC->Value() ? form.optDegC : form.optDegF)->text(),
+                {}};
+    }
+    if (&field == form.txtDensity) {
+        const bool fromTable = form.optSteam->Value() && form.optSteamTbl->Value();
+        return {"Operating Density", UnitIn(*form.cboDensityUnit),
+                fromTable ? "from ASME Table" : ""};
+    }
+    if (&field == form.txtSGb) {
+        return {"Base Specific Gravity", "water = 1", {}};
+    }
+    if (&field == form.txtSGf) {
+        return {"Flowing Specific Gravity", "water = 1",
+                form.optSgCalc->Value() ? "calculated from density" : ""};
+    }
+    if (&field == form.txtGasSGb) {
+        return {"Base Specific Gravity", "air = 1", {}};
+    }
+    return form.optCompDensity->Value()
+               ? FieldWords{"Operating Density", UnitIn(*form.cboZfDensityUnit), {}}
+               : FieldWords{"Compressibility at Flowing Conditions (Zf)", {}, {}};
 }
 
 }  // namespace
@@ -43,7 +70,7 @@ AccessibleNames::AccessibleNames(MainForm& form) : form_(form) {
             auto* list = qobject_cast<QComboBox*>(control.widget);
             QObject::connect(list, &QComboBox::activated, list, [this, list] {
                 Update();
-                AnnounceEntry(*list);
+                AnnounceName(*list);
             });
         }
     }
@@ -52,6 +79,7 @@ AccessibleNames::AccessibleNames(MainForm& form) : form_(form) {
 void AccessibleNames::NameFixedControls() const {
     SetName(form_.imgBrindleLogo, "Brindle");
     SetName(form_.tabOrifice, "Measurement Orifice");
+    SetName(form_.tabOrifice->tabBar(), "Measurement Orifice");
     SetName(form_.cboFlowUnit, "Flow Rate unit");
     SetName(form_.cboTimeUnit, "Flow Rate per time");
     SetName(form_.cboDeltaPunit, "Differential Pressure unit");
@@ -64,73 +92,59 @@ void AccessibleNames::NameFixedControls() const {
     SetName(form_.fraSteam1, "Steam");
     SetName(form_.fraSteam2, "Source of the density");
     SetName(form_.txtMaskNomSize, "No Nominal Size, the pipe is user entered");
-    SetName(form_.txtOptionsFrame, "Background of the options");
-    SetName(form_.txtFlowTypeFrame, "Background of the flow types");
     form_.cmdPrint->setAccessibleDescription(QStringLiteral("Prints the calculation report"));
     form_.cmdExit->setAccessibleDescription(QStringLiteral("Ends the program"));
-
-    for (const auto& [label, field] :
-         std::initializer_list<std::pair<QLabel*, QWidget*>>{{form_.lblSGb1, form_.txtSGb},
-                                                             {form_.lblSGf1, form_.txtSGf},
-                                                             {form_.lblDensity, form_.txtDensity},
-                                                             {form_.lblTf, form_.txtTf},
-                                                             {form_.lblPf, form_.txtPf},
-                                                             {form_.lblGasSGb, form_.txtGasSGb},
-                                                             {form_.lblCompCorr, form_.txtZf},
-                                                             {form_.lblNomSize, form_.cboNomSize},
-                                                             {form_.lblPipeID, form_.cboPipeID},
-                                                             {form_.lblPer, form_.cboTimeUnit},
-                                                             {form_.lblBeta, form_.txtBeta}}) {
-        label->setBuddy(field);
-    }
 }
 
 void AccessibleNames::NameOptions() const {
     SetName(form_.optCalcBeta, "Calculate Beta Ratio");
     SetName(form_.optCalcDP, "Calculate Differential Pressure");
     SetName(form_.optCalcFR, "Calculate Flow Rate");
-    SetName(form_.optLiquid, "Flow Type: Liquid");
-    SetName(form_.optGas, "Flow Type: Air - Gas");
-    SetName(form_.optSteam, "Flow Type: Steam");
-    SetName(form_.optSgCalc, "Specific Gravity: Calculated (from density)");
-    SetName(form_.optSgUser, "Specific Gravity: User Entered");
-    SetName(form_.optSuperheated, "Steam: Superheated");
-    SetName(form_.optSaturated, "Steam: Saturated");
-    SetName(form_.optSteamTbl, "Density: From ASME Table (Op.Press. based)");
-    SetName(form_.optSteamUser, "Density: User Entered");
-    SetName(form_.optDegF, "Temperature: Deg F");
-    SetName(form_.optDegC, "Temperature: Deg C");
-    SetName(form_.optPgauge, "Pressure: Gauge");
-    SetName(form_.optPabsolute, "Pressure: Absolute");
-    SetName(form_.optCompCorrNone, "Compressibility Correction: None");
-    SetName(form_.optCompDensity, "Compressibility Correction: Density");
-    SetName(form_.optCompZf, "Compressibility Correction: Zf");
+    SetName(form_.optLiquid, "Liquid");
+    SetName(form_.optGas, "Air - Gas");
+    SetName(form_.optSteam, "Steam");
+    SetName(form_.optSgCalc, "Calculated (from density)");
+    SetName(form_.optSgUser, "User Entered");
+    SetName(form_.optSuperheated, "Superheated");
+    SetName(form_.optSaturated, "Saturated");
+    SetName(form_.optSteamTbl, "From ASME Table (Op.Press. based)");
+    SetName(form_.optSteamUser, "User Entered");
+    SetName(form_.optDegF, "Deg F");
+    SetName(form_.optDegC, "Deg C");
+    SetName(form_.optPgauge, "Gauge");
+    SetName(form_.optPabsolute, "Absolute");
+    SetName(form_.optCompCorrNone, "None");
+    SetName(form_.optCompDensity, "Density");
+    SetName(form_.optCompZf, "Zf");
 }
 
 void AccessibleNames::Update() {
-    SetName(*form_.cboNomSize, InUnit("Nominal Size of the pipe", *form_.cboPipeIDUnit));
-    NameField(*form_.txtFlow, InUnit("Flow Rate", *form_.cboFlowUnit) + QStringLiteral(" per ") +
-                                  form_.cboTimeUnit->currentText());
-    NameField(*form_.txtDeltaP, InUnit("Differential Pressure", *form_.cboDeltaPunit));
-    NameField(*form_.txtBeta, QStringLiteral("Beta Ratio"));
-    NameField(*form_.txtOriBoreDia, InUnit("Orifice Bore Diameter", *form_.cboOriBoreUnit));
-    NameField(*form_.txtPf, InUnit("Operating Pressure", *form_.cboPressUnit) +
-                                (form_.optPabsolute->Value() ? QStringLiteral(" absolute")
-                                                             : QStringLiteral(" gauge")));
-    NameField(*form_.txtTf, QStringLiteral("Operating Temperature, ") +
-                                (form_.optDegC->Value() ? form_.optDegC : form_.optDegF)->text());
-    const bool fromTable = form_.optSteam->Value() && form_.optSteamTbl->Value();
-    NameField(*form_.txtDensity, InUnit("Operating Density", *form_.cboDensityUnit) +
-                                     (fromTable ? QStringLiteral(", from ASME Table") : QString()));
-    NameField(*form_.txtSGb, QStringLiteral("Base Specific Gravity, water = 1"));
-    NameField(
-        *form_.txtSGf,
-        QStringLiteral("Flowing Specific Gravity, water = 1") +
-            (form_.optSgCalc->Value() ? QStringLiteral(", calculated from density") : QString()));
-    NameField(*form_.txtGasSGb, QStringLiteral("Base Specific Gravity, air = 1"));
-    NameField(*form_.txtZf, form_.optCompDensity->Value()
-                                ? InUnit("Operating Density", *form_.cboZfDensityUnit)
-                                : QStringLiteral("Compressibility at Flowing Conditions (Zf)"));
+    SetName(*form_.cboNomSize,
+            QStringLiteral("Nominal Size of the pipe, ") + UnitIn(*form_.cboPipeIDUnit));
+    for (NumericField* field : form_.NumericFields()) {
+        const FieldWords words = WordsOf(form_, *field);
+        QString name = words.quantity;
+        for (const QString& further : {words.unit, words.source}) {
+            name += further.isEmpty() ? QString() : QStringLiteral(", ") + further;
+        }
+        SetName(*field, name);
+    }
+}
+
+FieldWords WordsOf(const MainForm& form, const NumericField& field) {
+    if (&field == form.txtFlow) {
+        return {"Flow Rate", UnitIn(*form.cboFlowUnit) + " per " + UnitIn(*form.cboTimeUnit), {}};
+    }
+    if (&field == form.txtDeltaP) {
+        return {"Differential Pressure", UnitIn(*form.cboDeltaPunit), {}};
+    }
+    if (&field == form.txtBeta) {
+        return {"Beta Ratio", {}, {}};
+    }
+    if (&field == form.txtOriBoreDia) {
+        return {"Orifice Bore Diameter", UnitIn(*form.cboOriBoreUnit), {}};
+    }
+    return PropertyWords(form, field);
 }
 
 }  // namespace tarvix

@@ -6,6 +6,15 @@
 
 namespace tarvix {
 
+// What a field holds, in words.
+struct FieldWords {
+    QString quantity;
+    QString unit;    // empty for a ratio
+    QString source;  // where a value that is not typed comes from
+};
+
+FieldWords WordsOf(const MainForm& form, const NumericField& field);
+
 class AccessibleNames {
   public:
     // Names the controls of the form. Fields and lists are named anew when a mode, an option or a

@@ -45,7 +45,7 @@ constexpr int kTextBoxFrame = 8;
 }  // namespace
 
 MainForm::MainForm(QWidget& canvas, QWidget& footer, QMenuBar& menuBar)
-    : canvas_(canvas), footer_(footer) {
+    : announcements(canvas), canvas_(canvas), footer_(footer) {
     controls_.reserve(100);
     BuildModeAndFluid();
     BuildFluidProperties();
@@ -72,6 +72,15 @@ NamedControl& MainForm::Entry(const QWidget& widget) {
 std::vector<NumericField*> MainForm::NumericFields() const {
     return {txtFlow,    txtDeltaP, txtBeta, txtOriBoreDia, txtPf, txtTf,
             txtDensity, txtSGb,    txtSGf,  txtGasSGb,     txtZf};
+}
+
+const NumericField* MainForm::SolvedField() const {
+    for (const NumericField* field : {txtFlow, txtDeltaP, txtBeta}) {
+        if (field->Locked()) {
+            return field;
+        }
+    }
+    return nullptr;
 }
 
 void MainForm::SetTop(const QWidget& widget, int top) {
@@ -214,7 +223,9 @@ void MainForm::Register(QWidget* widget, const char* name, ControlKind kind, Twi
 
 QWidget* MainForm::AddFrame(QWidget* parent, const char* name, const char* caption,
                             TwipsRect place) {
-    auto* frame = new FrameBox(QString::fromUtf8(caption), parent);
+    auto* frame = new FrameBox(parent);
+    SetAccessibleRole(*frame, QAccessible::Grouping);
+    frame->setTitle(QString::fromUtf8(caption));
     Register(frame, name, ControlKind::Frame, place);
     return frame;
 }
@@ -246,14 +257,14 @@ QLabel* MainForm::AddLabel(QWidget* parent, const char* name, const char* captio
 
 NumericField* MainForm::AddField(QWidget* parent, const char* name, TwipsRect place) {
     auto* field = new NumericField(parent);
+    SetAccessibleRole(*field, QAccessible::EditableText);
     Register(field, name, ControlKind::TextBox, place);
     return field;
 }
 
-QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, QAccessible::Role role,
-                                 TwipsRect place) {
+QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, TwipsRect place) {
     auto* backdrop = new QLineEdit(parent);
-    SetAccessibleRole(*backdrop, role);
+    HideFromHelpers(*backdrop);
     backdrop->setReadOnly(true);
     backdrop->setFocusPolicy(Qt::NoFocus);
     backdrop->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "ui/controls/accessible_roles.h"
+#include "ui/controls/announcements.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/message_line.h"
 
@@ -140,6 +141,9 @@ class MainForm {
     QAction* mnuExit = nullptr;
     QAction* mnuAbout = nullptr;
 
+    // What the window says by a screen reader beside what has the focus.
+    Announcements announcements;
+
     // Every control, in the order of creation.
     const std::vector<NamedControl>& Controls() const { return controls_; }
 
@@ -149,6 +153,9 @@ class MainForm {
 
     // The eleven fields for numbers.
     std::vector<NumericField*> NumericFields() const;
+
+    // The field of the quantity that the mode solves for; null while no mode is selected.
+    const NumericField* SolvedField() const;
 
     // Moves or sizes a control; twips.
     void SetTop(const QWidget& widget, int top);
@@ -193,8 +200,7 @@ class MainForm {
                             TwipsRect place);
     QLabel* AddLabel(QWidget* parent, const char* name, const char* caption, TwipsRect place);
     NumericField* AddField(QWidget* parent, const char* name, TwipsRect place);
-    QLineEdit* AddBackdrop(QWidget* parent, const char* name, QAccessible::Role role,
-                           TwipsRect place);
+    QLineEdit* AddBackdrop(QWidget* parent, const char* name, TwipsRect place);
     DropDownList* AddList(QWidget* parent, const char* name, TwipsRect place,
                           const char* widestEntry);
     QPushButton* AddButton(QWidget* parent, const char* name, const char* caption, TwipsRect place);

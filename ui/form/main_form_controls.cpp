@@ -56,8 +56,8 @@ void MainForm::BuildModeAndFluid() {
 
     fraCalcOptions =
         AddFrame(&canvas_, "fraCalcOptions", "Options", {120, kTop, 3600, kFrameHeight});
-    txtOptionsFrame = AddBackdrop(fraCalcOptions, "txtOptionsFrame", QAccessible::Border,
-                                  {90, kBackdropTop, 3420, kBackdropHeight});
+    txtOptionsFrame =
+        AddBackdrop(fraCalcOptions, "txtOptionsFrame", {90, kBackdropTop, 3420, kBackdropHeight});
     optCalcBeta = AddOption(fraCalcOptions, "optCalcBeta", "Calculate  Beta Ratio",
                             {kOptionLeft, 300, 3330, kRow});
     optCalcDP = AddOption(fraCalcOptions, "optCalcDP", "Calculate Differential Pressure",
@@ -66,8 +66,8 @@ void MainForm::BuildModeAndFluid() {
                           {kOptionLeft, 870, 3330, kRow});
 
     fraFlowType = AddFrame(&canvas_, "fraFlowType", "Flow Type", {3840, kTop, 2400, kFrameHeight});
-    txtFlowTypeFrame = AddBackdrop(fraFlowType, "txtFlowTypeFrame", QAccessible::Border,
-                                   {90, kBackdropTop, 2220, kBackdropHeight});
+    txtFlowTypeFrame =
+        AddBackdrop(fraFlowType, "txtFlowTypeFrame", {90, kBackdropTop, 2220, kBackdropHeight});
     optLiquid = AddOption(fraFlowType, "optLiquid", "Liquid", {kOptionLeft, 300, 2130, kRow});
     optGas = AddOption(fraFlowType, "optGas", "Air - Gas", {kOptionLeft, 585, 2130, kRow});
     optSteam = AddOption(fraFlowType, "optSteam", "Steam", {kOptionLeft, 870, 2130, kRow});
@@ -186,9 +186,11 @@ void MainForm::BuildPipeAndFlow() {
     fraPipe = AddFrame(&canvas_, "fraPipe", "Pipe", {120, 4935, 9360, kOneRowFrame});
     lblNomSize = AddLabel(fraPipe, "lblNomSize", "Nominal Size", {kColumnA, kRow1, 1050, kRow});
     cboNomSize = AddList(fraPipe, "cboNomSize", kNominalSizePlace, kWidestNominalSize);
+    // Where a decimal comma makes a size end the program, passing over one must not pick it.
+    cboNomSize->SetOpensToPick();
     // Lies over the nominal size while the pipe is the user's own.
-    txtMaskNomSize =
-        AddBackdrop(fraPipe, "txtMaskNomSize", QAccessible::StaticText, kNominalSizePlace);
+    txtMaskNomSize = new CoverField(fraPipe);
+    Register(txtMaskNomSize, "txtMaskNomSize", ControlKind::TextBox, kNominalSizePlace);
     lblPipeID = AddLabel(fraPipe, "lblPipeID", "Pipe ID", {2580, kRow1, 600, kRow});
     cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4380, kRow}, kWidestPipe);
     cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7710, kRow1, 1530, kRow}, kWidestLengthUnit);
@@ -231,7 +233,7 @@ void MainForm::BuildBore() {
 
 void MainForm::BuildMessageAndButtons() {
     // In the footer, as wide as the window.
-    lblMsg = new MessageLine(&footer_);
+    lblMsg = new MessageLine(&footer_, announcements);
     auto* footer = new QHBoxLayout(&footer_);
     footer->addWidget(lblMsg, 1);
     Register(lblMsg, "lblMsg", ControlKind::Label, {});
@@ -251,6 +253,7 @@ void MainForm::BuildMenus(QMenuBar& menuBar) {
     mnuPrint = AddMenuItem(mnuFile, "mnuPrint", "&Print");
     mnuPrint->setShortcut(QKeySequence::Print);
     mnuExit = AddMenuItem(mnuFile, "mnuExit", "E&xit");
+    mnuExit->setShortcut(Qt::CTRL | Qt::Key_Q);
     mnuAbout = AddMenuItem(&menuBar, "mnuAbout", "&About");
     mnuAbout->setShortcut(QKeySequence::HelpContents);
 }

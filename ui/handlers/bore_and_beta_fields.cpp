@@ -42,6 +42,13 @@ void WriteBore(const FormContext& context, float beta) {
         bore ? FormatNumber(*bore, kBoreDecimals, context.module.locale(), Grouping::Off) : "");
 }
 
+// The bore is a result of the beta mode together with beta. When beta can't be solved, the bore
+// keeps its text, which belongs to the inputs from before.
+void ShowWhetherBoreIsCurrent(const MainForm& form) {
+    form.txtOriBoreDia->SetCurrent(!form.optCalcBeta->Value() || !form.txtBeta->text().isEmpty() ||
+                                   form.txtOriBoreDia->text().isEmpty());
+}
+
 std::string BetaLimitMessage(const FormContext& context) {
     const MainForm& form = context.form;
     const NumberLocale& locale = context.module.locale();
@@ -77,6 +84,14 @@ std::string BetaLimitMessage(const FormContext& context) {
 
 void ConnectBoreAndBeta(const FormContext& context) {
     const MainForm& form = context.form;
+    for (NumericField* field : {form.txtBeta, form.txtOriBoreDia}) {
+        QObject::connect(field, &QLineEdit::textChanged, field,
+                         [&form] { ShowWhetherBoreIsCurrent(form); });
+    }
+    for (OptionButton* mode : {form.optCalcBeta, form.optCalcDP, form.optCalcFR}) {
+        QObject::connect(mode, &QAbstractButton::clicked, mode,
+                         [&form] { ShowWhetherBoreIsCurrent(form); });
+    }
     OnChange(context, *form.txtBeta, txtBeta_Change);
     OnChange(context, *form.txtOriBoreDia, txtOriBoreDia_Change);
     OnClick(context, *form.cboOriBoreUnit, cboOriBoreUnit_Click);

@@ -156,8 +156,7 @@ void cboPipeID_Click(const FormContext& context) {
     const MainForm& form = context.form;
     const bool userEntered = form.cboPipeID->Text().find(kUserEntered) != std::string::npos;
     form.txtMaskNomSize->setVisible(userEntered);
-    // The focus would not be seen on a list that is covered.
-    form.cboNomSize->setFocusPolicy(userEntered ? Qt::ClickFocus : Qt::StrongFocus);
+    form.cboNomSize->SetCovered(userEntered);
     if (userEntered) {
         AskUserEnteredPipe(context);
     }

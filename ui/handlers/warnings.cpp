@@ -13,13 +13,18 @@ void CheckPlateThicknessWarning(const FormContext& context) {
     const Unit* unit = SelectedEntry(context, context.state.DeltaPUnitTable, *form.cboDeltaPunit);
     const bool warn = nominalSize != nullptr && unit != nullptr &&
                       CheckPlateThickness(*nominalSize, form.txtDeltaP->Number(), *unit);
+    const bool appears = warn && !form.IsVisible(*form.fraPlateThicknessWarning);
     form.fraPlateThicknessWarning->setVisible(warn);
+    if (appears) {
+        context.form.announcements.Say(AlertText(*form.fraPlateThicknessWarning));
+    }
 }
 
 void CheckZfCompWarning(const FormContext& context) {
     const MainForm& form = context.form;
     const CompressibilityWarning warning = CheckZfComp(ReadInputSheet(context));
     context.state.zfCompWarning = warning;
+    const bool appears = !form.IsVisible(*form.fraZfCompWarning);
     form.fraZfCompWarning->setVisible(warning != CompressibilityWarning::None);
     if (warning == CompressibilityWarning::None) {
         return;
@@ -28,9 +33,13 @@ void CheckZfCompWarning(const FormContext& context) {
     SetBackColor(*form.fraZfCompWarning, will ? BackColor::Red : BackColor::Yellow);
     const QString words = will ? QStringLiteral("will result in erroneous computations.")
                                : QStringLiteral("may result in erroneous computations.");
-    if (form.lbl2ZfCompWarning->text() != words) {
+    const bool isNew = form.lbl2ZfCompWarning->text() != words;
+    if (isNew) {
         form.lbl2ZfCompWarning->setText(words);
-        AnnounceAlert(*form.fraZfCompWarning);
+        AnnounceName(*form.fraZfCompWarning);
+    }
+    if (appears || isNew) {
+        context.form.announcements.Say(AlertText(*form.fraZfCompWarning));
     }
 }
 

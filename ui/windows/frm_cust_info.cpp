@@ -175,6 +175,8 @@ void frmCustInfo::cmdClear_Click() {
     txtCust1->setText("");
     txtCust2->setText("");
     txtTag->setText("");
+    // New lines are typed next, and Enter prints from there.
+    txtCust1->setFocus();
 }
 
 void frmCustInfo::cmdCancel_Click() {

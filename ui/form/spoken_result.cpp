@@ -1,0 +1,59 @@
+#include "ui/form/spoken_result.h"
+
+#include "ui/form/accessible_names.h"
+
+#include <QTimerEvent>
+
+#include <utility>
+
+namespace tarvix {
+
+namespace {
+
+// Milliseconds without a new result that count as a pause in typing. Readers are silenced by every
+// key; what is said earlier would be cut off by the next digit.
+constexpr int kPauseMs = 1000;
+
+QString Spoken(const MainForm& form, const NumericField& field) {
+    const FieldWords words = WordsOf(form, field);
+    const QString unit = words.unit.isEmpty() ? QString() : QLatin1Char(' ') + words.unit;
+    return words.quantity + QLatin1Char(' ') + field.text() + unit;
+}
+
+}  // namespace
+
+SpokenResult::SpokenResult(const MainForm& form, Announcements& announcements)
+    : form_(form), announcements_(announcements) {
+    for (NumericField* field : {form.txtFlow, form.txtDeltaP, form.txtBeta, form.txtOriBoreDia}) {
+        connect(field, &QLineEdit::textChanged, this, [this] {
+            if (QAccessible::isActive()) {
+                pause_.start(kPauseMs, this);
+            }
+        });
+    }
+}
+
+void SpokenResult::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != pause_.timerId()) {
+        QObject::timerEvent(event);
+        return;
+    }
+    pause_.stop();
+    const QString words = Words();
+    if (std::exchange(said_, words) != words) {
+        announcements_.Say(words);
+    }
+}
+
+QString SpokenResult::Words() const {
+    const NumericField* solved = form_.SolvedField();
+    if (solved == nullptr || solved->text().isEmpty()) {
+        return {};
+    }
+    const QString bore = solved == form_.txtBeta && !form_.txtOriBoreDia->text().isEmpty()
+                             ? QStringLiteral(", ") + Spoken(form_, *form_.txtOriBoreDia)
+                             : QString();
+    return Spoken(form_, *solved) + bore;
+}
+
+}  // namespace tarvix
