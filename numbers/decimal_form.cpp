@@ -112,7 +112,8 @@ std::string DecimalDigits(double magnitude, int significantDigits, int decimals)
     const DecimalForm form =
         Rounded(FormOf(magnitude, significantDigits), decimals, Halves::AwayFromZero);
     std::string digits = std::to_string(form.digits);
-    digits.append(static_cast<size_t>(form.exponent + decimals), '0');
+    const int zeros = form.exponent + decimals;
+    digits.append(static_cast<size_t>(zeros), '0');
     const auto least = static_cast<size_t>(decimals) + 1;
     digits.insert(0, least - std::min(least, digits.size()), '0');
     return digits;

@@ -20,10 +20,12 @@ struct Reader {
     }
 
     std::string_view Digits() {
-        const auto end =
-            std::find_if(rest.begin(), rest.end(), [](char c) { return c < '0' || c > '9'; });
-        const auto digits = rest.substr(0, static_cast<size_t>(end - rest.begin()));
-        rest.remove_prefix(digits.size());
+        size_t count = 0;
+        while (count < rest.size() && rest[count] >= '0' && rest[count] <= '9') {
+            ++count;
+        }
+        const std::string_view digits = rest.substr(0, count);
+        rest.remove_prefix(count);
         return digits;
     }
 
