@@ -2,6 +2,10 @@
 
 #include "tests/window/modal_driver.h"
 
+#include <QApplication>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -101,6 +105,69 @@ TEST(AboutBoxTest, EnterAndEscapeCloseIt) {
         QTest::keyClick(&box, key);
         EXPECT_FALSE(box.isVisible());
     }
+}
+
+// A font so large that the texts don't fit on the screen.
+class AboutBoxOnASmallScreenTest : public ::testing::Test {
+  protected:
+    AboutBoxOnASmallScreenTest() { QApplication::setFont(QFont(font_.family(), 40)); }
+    ~AboutBoxOnASmallScreenTest() override { QApplication::setFont(font_); }
+
+  private:
+    QFont font_ = QApplication::font();
+};
+
+// From its upper to its lower edge.
+bool IsSeen(const QScrollArea& texts, const QWidget& label) {
+    const int top = label.mapTo(texts.viewport(), QPoint()).y();
+    return top >= 0 && top + label.height() <= texts.viewport()->height();
+}
+
+TEST_F(AboutBoxOnASmallScreenTest, KeysScrollToTheLastLine) {
+    AboutBox box;
+    box.show();
+    QApplication::setActiveWindow(&box);
+    EXPECT_TRUE(box.screen()->availableGeometry().size().expandedTo(box.size()) ==
+                box.screen()->availableGeometry().size());
+    const auto& texts = *box.findChild<QScrollArea*>("texts");
+    const QScrollBar& down = *texts.verticalScrollBar();
+    ASSERT_GT(down.maximum(), 0);
+    const auto& last = *box.findChild<QLabel*>("Label16");
+    EXPECT_FALSE(IsSeen(texts, last));
+    QWidget* focused = box.focusWidget();
+    ASSERT_NE(focused, nullptr);
+    QTest::keyClick(focused, Qt::Key_Down);
+    EXPECT_GT(down.value(), 0);
+    for (int pages = 0; pages < 100 && down.value() < down.maximum(); ++pages) {
+        QTest::keyClick(focused, Qt::Key_PageDown);
+    }
+    EXPECT_TRUE(IsSeen(texts, last));
+    QTest::keyClick(focused, Qt::Key_PageUp);
+    EXPECT_FALSE(IsSeen(texts, last));
+}
+
+TEST_F(AboutBoxOnASmallScreenTest, TheButtonStaysInSight) {
+    AboutBox box;
+    box.show();
+    const QRect button(box.cmdExit->mapTo(&box, QPoint()), box.cmdExit->size());
+    EXPECT_TRUE(box.rect().contains(button));
+    EXPECT_GE(button.height(), box.cmdExit->sizeHint().height());
+    auto& down = *box.findChild<QScrollArea*>("texts")->verticalScrollBar();
+    down.setValue(down.maximum());
+    EXPECT_EQ(box.cmdExit->mapTo(&box, QPoint()), button.topLeft());
+    QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(box.isVisible());
+}
+
+TEST(AboutBoxTest, DoesNotScrollWhereItFits) {
+    AboutBox box;
+    box.show();
+    QApplication::processEvents();
+    const auto& texts = *box.findChild<QScrollArea*>("texts");
+    EXPECT_EQ(texts.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(texts.horizontalScrollBar()->maximum(), 0);
+    EXPECT_FALSE(texts.verticalScrollBar()->isVisible());
+    EXPECT_EQ(box.focusWidget(), box.cmdExit);
 }
 
 }  // namespace

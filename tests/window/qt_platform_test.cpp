@@ -3,11 +3,15 @@
 
 #include "tests/window/modal_driver.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
 #include <QTime>
 
 #include <gtest/gtest.h>
@@ -65,6 +69,44 @@ TEST(QtPlatformTest, ABoxShowsWhatIsAsked) {
     }
     AnswerTo(Box(BoxButtons::Ok), [](QMessageBox& box) {
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+        box.close();
+    });
+}
+
+// Where a text begins on the page, in pixels.
+QPointF PlaceOf(const QTextDocument& page, const QString& text) {
+    const QTextCursor found = page.find(text);
+    EXPECT_FALSE(found.isNull()) << text.toStdString();
+    const QTextBlock block = found.block();
+    const int start = found.selectionStart() - block.position();
+    const QTextLine line = block.layout()->lineForTextPosition(start);
+    return page.documentLayout()->blockBoundingRect(block).topLeft() +
+           QPointF(line.cursorToX(start), line.y());
+}
+
+// As in the box about a value of beta that is too large.
+TEST(QtPlatformTest, ValuesAfterTabsStandUnderEachOther) {
+    MessageBoxRequest request = Box(BoxButtons::Ok);
+    request.text =
+        "Beta must be < 0.95.\n\nOrifice Diameter:\t3.832 Inches\nPipe Diameter:\t4.026 Inches\n"
+        "Beta Ratio:\t0.9518\n\nLess is possible.";
+    AnswerTo(request, [](QMessageBox& box) {
+        QTextDocument page;
+        page.setDefaultFont(box.font());
+        page.setHtml(box.text());
+        page.setTextWidth(1000);
+        EXPECT_EQ(box.textFormat(), Qt::RichText);
+        EXPECT_TRUE(page.toPlainText().startsWith("Beta must be < 0.95."));
+        const QPointF first = PlaceOf(page, "3.832");
+        EXPECT_GT(first.x(), QFontMetricsF(box.font()).horizontalAdvance("Orifice Diameter:"));
+        double above = first.y();
+        for (const char* value : {"4.026", "0.9518", "Less"}) {
+            const QPointF place = PlaceOf(page, value);
+            EXPECT_NEAR(place.x(), *value == 'L' ? PlaceOf(page, "Beta must").x() : first.x(), 0.5)
+                << value;
+            EXPECT_GT(place.y(), above) << value;
+            above = place.y();
+        }
         box.close();
     });
 }

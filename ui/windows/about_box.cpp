@@ -5,6 +5,9 @@
 #include <QFont>
 #include <QFontInfo>
 #include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <initializer_list>
@@ -58,13 +61,22 @@ QString Shown(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+// Asks for as much room as its content takes.
+class TextArea : public QScrollArea {
+  public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
 }  // namespace
 
 AboutBox::AboutBox(QWidget* parent)
     : QDialog(parent),
-      Frame1(new QFrame(this)),
-      Frame2(new QFrame(this)),
-      cmdExit(new QPushButton("Close", this)) {
+      Frame1(new QFrame),
+      Frame2(new QFrame),
+      cmdExit(new QPushButton("Close", this)),
+      texts_(new TextArea(this)) {
     setObjectName("AboutBox");
     setWindowTitle("About Brindle Tarvix");
     setModal(true);
@@ -72,14 +84,15 @@ AboutBox::AboutBox(QWidget* parent)
     Frame2->setObjectName("Frame2");
     cmdExit->setObjectName("cmdExit");
     for (int number = 1; number <= kLabels; ++number) {
-        auto* label = new QLabel(this);
+        auto* label = new QLabel;
         label->setObjectName(QString("Label%1").arg(number));
         label->setTextFormat(Qt::PlainText);
         labels_.at(static_cast<std::size_t>(number - 1)) = label;
     }
-    LayOut();
     connect(cmdExit, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
     Form_Load();
+    LayOut();
+    FitToScreen();
 }
 
 void AboutBox::LayOut() {
@@ -121,14 +134,38 @@ void AboutBox::LayOut() {
     buttons->addStretch();
     buttons->addWidget(cmdExit);
     cmdExit->setDefault(true);
-    cmdExit->setFocus();
+
+    auto* content = new QWidget;
+    auto* lines = new QVBoxLayout(content);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->addWidget(&Label(kTitleLabel));
+    lines->addWidget(Frame1);
+    lines->addWidget(Frame2);
+    texts_->setObjectName("texts");
+    texts_->setAccessibleName(windowTitle());
+    texts_->setFrameShape(QFrame::NoFrame);
+    texts_->setWidgetResizable(true);
+    texts_->setWidget(content);
 
     auto* window = new QVBoxLayout(this);
-    window->addWidget(&Label(kTitleLabel));
-    window->addWidget(Frame1);
-    window->addWidget(Frame2);
+    window->addWidget(texts_, 1);
     window->addLayout(buttons);
-    window->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void AboutBox::FitToScreen() {
+    // The window manager's frame is the one around the main window.
+    const QWidget& framed = parentWidget() != nullptr ? *parentWidget()->window() : *this;
+    const QSize room = screen()->availableSize() - (framed.frameGeometry().size() - framed.size());
+    const QSize whole = layout()->totalSizeHint();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const bool scrollsDown = whole.height() > room.height();
+    const bool scrollsAcross = whole.width() > room.width();
+    const QSize scrollBars(scrollsDown ? scrollBar : 0, scrollsAcross ? scrollBar : 0);
+    setFixedSize((whole + scrollBars).boundedTo(room));
+    // Cursor and page keys scroll at once where there is something to scroll.
+    const bool scrolls = scrollsDown || scrollsAcross;
+    texts_->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+    (scrolls ? static_cast<QWidget*>(texts_) : cmdExit)->setFocus();
 }
 
 void AboutBox::Form_Load() {

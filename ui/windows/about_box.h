@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 
 #include <array>
 
@@ -28,6 +29,10 @@ class AboutBox : public QDialog {
     QLabel& Label(int number) { return *labels_.at(static_cast<std::size_t>(number - 1)); }
     void LayOut();
 
+    // As large as the texts, or as the screen allows; the texts scroll then.
+    void FitToScreen();
+
+    QScrollArea* const texts_;
     std::array<QLabel*, kLabels> labels_{};
 };
 
