@@ -48,7 +48,6 @@ TEST_F(DensitiesTest, WithoutAPositiveDensityThereIsNoGravity) {
 }
 
 TEST_F(DensitiesTest, TheGravityIsWrittenInTheLocale) {
-    const Module1 german(platform, kGermany);
     EXPECT_EQ(FlowingGravityText({"62,366", kGermany}, kPound, kGermany), "1,0000");
     EXPECT_EQ(FlowingGravityText({"62.366", kGermany}, kPound, kGermany),
               "1.000,0000");  // sixty-two thousand
@@ -141,7 +140,6 @@ INSTANTIATE_TEST_SUITE_P(Densities, SteamDensityOf, ::testing::ValuesIn(kSteamDe
                          kRowName);
 
 TEST_F(DensitiesTest, SteamDensityIsWrittenInTheLocale) {
-    const Module1 german(platform, kGermany);
     EXPECT_EQ(SteamDensityTextOf(SteamAt({"100", kGermany}), german).density, "0,25704");
     EXPECT_EQ(SteamDensityTextOf(SteamAt({"100,5", kGermany}), german).density, "0,25810");
     EXPECT_EQ(SteamDensityTextOf(SteamAt({"3.001", kGermany}), german).message,
