@@ -130,10 +130,10 @@ int FrameInterface::indexOfChild(const QAccessibleInterface* child) const {
 QList<QAccessibleInterface*> FrameInterface::Children() const {
     QList<QAccessibleInterface*> children;
     for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
-        QAccessibleInterface* child = QAccessibleWidget::child(i);
-        const auto* list = dynamic_cast<const DropDownList*>(child->object());
-        if (!IsHiddenFromHelpers(*child->object()) && (list == nullptr || !list->Covered())) {
-            children += child;
+        QAccessibleInterface* one = QAccessibleWidget::child(i);
+        const auto* list = dynamic_cast<const DropDownList*>(one->object());
+        if (!IsHiddenFromHelpers(*one->object()) && (list == nullptr || !list->Covered())) {
+            children += one;
         }
     }
     return children;

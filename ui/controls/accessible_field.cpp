@@ -108,10 +108,10 @@ QString FieldInterface::attributes(int /*offset*/, int* start, int* end) const {
 int FieldInterface::CharacterX(int offset) const {
     const QFontMetrics metrics = field_.fontMetrics();
     const QRect area = field_.TextArea();
-    const QString text = field_.text();
+    const QString shown = field_.text();
     // The text ends at the right edge; a text that is too long is taken as if it began at the left.
-    const int begin = std::max(area.left(), area.right() + 1 - metrics.horizontalAdvance(text));
-    return begin + metrics.horizontalAdvance(text.left(offset));
+    const int begin = std::max(area.left(), area.right() + 1 - metrics.horizontalAdvance(shown));
+    return begin + metrics.horizontalAdvance(shown.left(offset));
 }
 
 QRect FieldInterface::characterRect(int offset) const {
