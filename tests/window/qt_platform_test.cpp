@@ -80,6 +80,7 @@ QPointF PlaceOf(const QTextDocument& page, const QString& text) {
     const QTextBlock block = found.block();
     const int start = found.selectionStart() - block.position();
     const QTextLine line = block.layout()->lineForTextPosition(start);
+    EXPECT_TRUE(line.isValid()) << text.toStdString();
     return page.documentLayout()->blockBoundingRect(block).topLeft() +
            QPointF(line.cursorToX(start), line.y());
 }
@@ -94,7 +95,7 @@ TEST(QtPlatformTest, ValuesAfterTabsStandUnderEachOther) {
         QTextDocument page;
         page.setDefaultFont(box.font());
         page.setHtml(box.text());
-        page.setTextWidth(1000);
+        ASSERT_GT(page.size().height(), 0) << "has been laid out";
         EXPECT_EQ(box.textFormat(), Qt::RichText);
         EXPECT_TRUE(page.toPlainText().startsWith("Beta must be < 0.95."));
         const QPointF first = PlaceOf(page, "3.832");
