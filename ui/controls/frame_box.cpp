@@ -17,6 +17,15 @@ QColor BorderColor(const QPalette& palette) {
                   between(window.blue(), text.blue()));
 }
 
+void PaintBorder(QPainter& painter, const QRect& border, const QPalette& palette) {
+    // Filled, not drawn: a drawn line lies half outside at the edge where a pixel is a fraction.
+    const QColor color = BorderColor(palette);
+    painter.fillRect(QRect(border.topLeft(), QSize(border.width(), 1)), color);
+    painter.fillRect(QRect(border.bottomLeft(), QSize(border.width(), 1)), color);
+    painter.fillRect(QRect(border.topLeft(), QSize(1, border.height())), color);
+    painter.fillRect(QRect(border.topRight(), QSize(1, border.height())), color);
+}
+
 }  // namespace
 
 void FrameBox::paintEvent(QPaintEvent* event) {
@@ -27,17 +36,17 @@ void FrameBox::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter(this);
-    // Filled, not drawn: a drawn line lies half outside at the edge where a pixel is a fraction.
-    const QColor color = BorderColor(palette());
-    painter.fillRect(QRect(border.topLeft(), QSize(border.width(), 1)), color);
-    painter.fillRect(QRect(border.bottomLeft(), QSize(border.width(), 1)), color);
-    painter.fillRect(QRect(border.topLeft(), QSize(1, border.height())), color);
-    painter.fillRect(QRect(border.topRight(), QSize(1, border.height())), color);
+    PaintBorder(painter, border, palette());
     const QRect caption(0, 0, width(), captionHeight);
     if (caption.intersects(event->rect())) {
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title());
     }
+}
+
+void PlainFrame::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    PaintBorder(painter, rect(), palette());
 }
 
 }  // namespace tarvix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFontMetrics>
+#include <QFrame>
 #include <QGroupBox>
 
 namespace tarvix {
@@ -13,6 +14,15 @@ class FrameBox : public QGroupBox {
 
     // Pixels from the upper edge to the border.
     static int CaptionHeight(const QFont& font) { return QFontMetrics(font).height(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+// A frame without a caption, with the same line.
+class PlainFrame : public QFrame {
+  public:
+    using QFrame::QFrame;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

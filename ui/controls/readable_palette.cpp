@@ -16,6 +16,9 @@ constexpr int kSteps = 20;
 // thin ring are blended with what is beside it.
 constexpr double kRingContrastWanted = 3.8;
 
+// A little above 1.5, at which an empty field is seen beside the window.
+constexpr double kFieldContrastWanted = 1.52;
+
 // How much darker than the window styles paint the ring around the disc of an option; percent.
 constexpr int kRingShade = 150;
 
@@ -41,6 +44,29 @@ QColor Between(const QColor& from, const QColor& to, int step) {
             part(from.blue(), to.blue())};
 }
 
+bool IsDark(const QPalette& desktop) {
+    return Luminance(desktop.color(QPalette::WindowText)) >
+           Luminance(desktop.color(QPalette::Window));
+}
+
+// The inside of fields on a dark desktop: its own, or as much darker as needed, or, where black is
+// not enough, as much lighter. The page of a tab, on which fields stand, too, lies between the
+// window and the lightest shade.
+QColor FieldColor(const QPalette& desktop) {
+    const QColor window = desktop.color(QPalette::Active, QPalette::Window);
+    const QColor own = desktop.color(QPalette::Active, QPalette::Base);
+    for (const QColor& end : {QColor(Qt::black), desktop.color(QPalette::Active, QPalette::Text)}) {
+        for (int step = 0; step <= kSteps; ++step) {
+            const QColor color = Between(own, end, step);
+            if (std::min(ContrastOf(color, window), ContrastOf(color, LightestShade(desktop))) >=
+                kFieldContrastWanted) {
+                return color;
+            }
+        }
+    }
+    return own;
+}
+
 }  // namespace
 
 double ContrastOf(const QColor& one, const QColor& other) {
@@ -56,10 +82,15 @@ QPalette ReadablePalette(const QPalette& desktop) {
     };
     const QColor lightest = LightestShade(desktop);
     QPalette palette;
+    QPalette shown = desktop;
+    if (IsDark(desktop)) {
+        palette.setColor(QPalette::Base, FieldColor(desktop));
+        shown.setColor(QPalette::Base, FieldColor(desktop));
+    }
     for (const auto& [text, background] : kTextsAndBackgrounds) {
         const QColor disabled = desktop.color(QPalette::Disabled, text);
         const QColor enabled = desktop.color(QPalette::Active, text);
-        const QColor behind = desktop.color(QPalette::Disabled, background);
+        const QColor behind = shown.color(QPalette::Disabled, background);
         int step = 0;
         QColor readable = disabled;
         while (step < kSteps && std::min(ContrastOf(readable, behind),
@@ -72,9 +103,7 @@ QPalette ReadablePalette(const QPalette& desktop) {
 }
 
 QPalette DiscPalette(const QPalette& option, const QPalette& desktop) {
-    const bool isDark =
-        Luminance(desktop.color(QPalette::WindowText)) > Luminance(desktop.color(QPalette::Window));
-    if (!isDark) {
+    if (!IsDark(desktop)) {
         return option;
     }
     const QColor window = option.color(QPalette::Window);

@@ -1,6 +1,7 @@
 #include "ui/windows/about_box.h"
 
 #include "report/page/maker.h"
+#include "ui/controls/frame_box.h"
 
 #include <QFont>
 #include <QFontInfo>
@@ -73,8 +74,8 @@ class TextArea : public QScrollArea {
 
 AboutBox::AboutBox(QWidget* parent)
     : QDialog(parent),
-      Frame1(new QFrame),
-      Frame2(new QFrame),
+      Frame1(new PlainFrame),
+      Frame2(new PlainFrame),
       cmdExit(new QPushButton("Close", this)),
       texts_(new TextArea(this)) {
     setObjectName("AboutBox");
@@ -116,7 +117,6 @@ void AboutBox::LayOut() {
         }
     };
     const auto frameLayout = [line](QFrame& frame) {
-        frame.setFrameShape(QFrame::StyledPanel);
         auto* layout = new QVBoxLayout(&frame);
         layout->setSpacing(0);
         layout->setContentsMargins(line, line / 2, line, line / 2);

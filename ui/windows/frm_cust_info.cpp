@@ -2,10 +2,14 @@
 
 #include "report/printer/customer_lines.h"
 #include "report/printer/printed_text.h"
+#include "ui/controls/frame_box.h"
+#include "ui/controls/readable_palette.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QStringList>
 #include <QVBoxLayout>
@@ -51,7 +55,7 @@ QString Shown(const std::string& text) {
 
 frmCustInfo::frmCustInfo(Module1& module, QWidget* parent)
     : QDialog(parent),
-      Frame1(new QFrame(this)),
+      Frame1(new PlainFrame(this)),
       Label1(new QLabel("Customer", Frame1)),
       txtCust1(new EntryLine(Frame1)),
       txtCust2(new EntryLine(Frame1)),
@@ -66,6 +70,7 @@ frmCustInfo::frmCustInfo(Module1& module, QWidget* parent)
     setModal(true);
     NameControls();
     LayOut();
+    setPalette(ReadablePalette(QGuiApplication::palette()));
     ConnectHandlers();
     Form_Load();
 }
@@ -92,7 +97,6 @@ void frmCustInfo::NameControls() {
 }
 
 void frmCustInfo::LayOut() {
-    Frame1->setFrameShape(QFrame::StyledPanel);
     auto* entries = new QGridLayout(Frame1);
     entries->addWidget(Label1, 0, 0);
     entries->addWidget(txtCust1, 0, 1);
@@ -151,6 +155,13 @@ void frmCustInfo::Form_Load() {
     txtTag->setText(Shown(module_.TagText));
     // However the window is closed, nothing is printed unless Print was pressed.
     module_.MsgResult = kDoNotPrint;
+}
+
+void frmCustInfo::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        setPalette(ReadablePalette(QGuiApplication::palette()));
+    }
 }
 
 void frmCustInfo::ShowFit() {

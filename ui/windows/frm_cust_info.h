@@ -35,6 +35,9 @@ class frmCustInfo : public QDialog {
     QPushButton* const cmdClear;
     QPushButton* const cmdCancel;
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void NameControls();
     void LayOut();

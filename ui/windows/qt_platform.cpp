@@ -1,5 +1,7 @@
 #include "ui/windows/qt_platform.h"
 
+#include "ui/controls/readable_palette.h"
+
 #include <QApplication>
 #include <QDateTime>
 #include <QInputDialog>
@@ -72,12 +74,13 @@ int QtPlatform::ShowMessageBox(const MessageBoxRequest& request) {
 }
 
 std::optional<std::string> QtPlatform::ShowInputBox(const InputBoxRequest& request) {
-    bool confirmed = false;
-    const QString answer =
-        QInputDialog::getText(QApplication::activeWindow(), QString::fromStdString(request.title),
-                              QString::fromStdString(request.prompt), QLineEdit::Normal,
-                              QString::fromStdString(request.defaultAnswer), &confirmed);
-    return confirmed ? std::optional(answer.toStdString()) : std::nullopt;
+    QInputDialog box(QApplication::activeWindow());
+    box.setPalette(ReadablePalette(QApplication::palette()));
+    box.setWindowTitle(QString::fromStdString(request.title));
+    box.setLabelText(QString::fromStdString(request.prompt));
+    box.setTextValue(QString::fromStdString(request.defaultAnswer));
+    const bool confirmed = box.exec() == QDialog::Accepted;
+    return confirmed ? std::optional(box.textValue().toStdString()) : std::nullopt;
 }
 
 int QtPlatform::CurrentSecond() {
