@@ -135,16 +135,21 @@ QList<Stretch> StretchesOf(const QString& text) {
     return stretches;
 }
 
+QFont WithoutFallback(QFont font) {
+    font.setStyleStrategy(QFont::NoFontMerging);
+    return font;
+}
+
 // Gives every character of a text in cells its width, by what is added behind it.
 class CellSetter {
   public:
     CellSetter(const QString& text, const QFont& font)
-        : text_(text), font_(font), metrics_(font), cell_(font.pixelSize() * kFontAdvance) {
-        QFont alone = font;
-        alone.setStyleStrategy(QFont::NoFontMerging);
-        own_ = QFontMetricsF(alone);
-        ownSpacing_ = cell_ - own_.horizontalAdvance(QChar('0'));
-    }
+        : text_(text),
+          font_(font),
+          metrics_(font),
+          own_(WithoutFallback(font)),
+          cell_(font.pixelSize() * kFontAdvance),
+          ownSpacing_(cell_ - own_.horizontalAdvance(QChar('0'))) {}
 
     QList<QTextLayout::FormatRange> Formats();
 
@@ -154,9 +159,9 @@ class CellSetter {
     const QString& text_;
     QFont font_;
     QFontMetricsF metrics_;
-    QFontMetricsF own_{QFont()};
+    QFontMetricsF own_;
     double cell_;
-    double ownSpacing_ = 0;
+    double ownSpacing_;
 };
 
 // A character from another font fills up as many cells as it needs; a hair's breadth is no need.
@@ -241,9 +246,9 @@ bool CanBePrinted(const QString& text) {
 }
 
 PrintedText::PrintedText(const QString& text, const ReportFont& font)
-    : text_(Printable(text, FontOf(font))), font_(font) {
-    width_ = LayOut(text_, font_, [](const auto&...) {});
-}
+    : text_(Printable(text, FontOf(font))),
+      font_(font),
+      width_(LayOut(text_, font_, [](const auto&...) {})) {}
 
 PrintedText PrintedText::CutTo(double room) const {
     if (width_ <= room) {

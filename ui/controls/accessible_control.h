@@ -17,8 +17,6 @@ class ControlInterface : public QAccessibleWidget {
         QAccessible::Relation match) const override;
 
   protected:
-    ~ControlInterface() override = default;
-
     // Gives the control the focus and acts on it, later: a handler may ask the user something while
     // the helper waits for an answer.
     template <typename Action>
