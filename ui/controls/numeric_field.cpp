@@ -127,8 +127,9 @@ FieldSelection NumericField::Selection() const {
 
 bool NumericField::event(QEvent* event) {
     // With nothing selected, copying is the window's: it copies the solved value.
-    if (event->type() == QEvent::ShortcutOverride && !hasSelectedText() &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+    const auto* key = dynamic_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::ShortcutOverride && !hasSelectedText() && key != nullptr &&
+        key->matches(QKeySequence::Copy)) {
         event->ignore();
         return true;
     }
