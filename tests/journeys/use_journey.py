@@ -29,9 +29,9 @@ class UseJourney(unittest.TestCase):
 
     def start(self, **environment):
         import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
-        # No printer of the machine.
+        # No printer of the machine. The desk keeps an environment, so each run names its own locale.
         self.program = program.Program(self.desk, program_file, CUPS_SERVER="127.0.0.1:1",
-                                       **environment)
+                                       **{"LC_ALL": "C.UTF-8", **environment})
         self.addCleanup(self.end_program)
         self.program.wait_for_main_window()
 
