@@ -100,7 +100,7 @@ class PaperJourney(unittest.TestCase):
             self.program.process.wait()
 
     def calculate(self):
-        self.program.option("Flow Type: Liquid").act("Press")
+        self.program.option("Liquid").act("Press")
         self.program.option("Calculate Flow Rate").act("Press")
         size = self.program.list("Nominal Size")
         self.desk.click(*size.middle)

@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <utility>
 #include <vector>
@@ -129,12 +130,18 @@ TEST_P(LooksAtFontTest, ALongFlowRateIsPaintedFromItsFirstDigit) {
     NumericField& field = *Player().form().txtFlow;
     field.setText("88,888,888,888,888,888");
     const QImage picture = field.grab().toImage();
-    const QRect area = field.TextArea();
-    const QRect middle(area.left() - 2, field.height() / 4, area.width() + 4, field.height() / 2);
+    // In dots of the picture, of which a scaled desktop has more.
+    const double scale = picture.devicePixelRatio();
+    const auto dots = [&](int pixels) { return static_cast<int>(std::lround(pixels * scale)); };
+    const QRect text = field.TextArea();
+    const QRect area(dots(text.left()), dots(text.top()), dots(text.width()), dots(text.height()));
+    const QRect middle(area.left() - dots(2), dots(field.height() / 4), area.width() + dots(4),
+                       dots(field.height() / 2));
     const QRect painted = PaintedIn(picture, middle);
-    EXPECT_GE(painted.left(), area.left() - 1);
-    EXPECT_LE(painted.right(), area.right() + 2);
-    EXPECT_NEAR(painted.width(), QFontMetrics(field.font()).horizontalAdvance(field.text()), 4);
+    EXPECT_GE(painted.left(), area.left() - dots(1));
+    EXPECT_LE(painted.right(), area.right() + dots(2));
+    EXPECT_NEAR(painted.width() / scale, QFontMetrics(field.font()).horizontalAdvance(field.text()),
+                4);
 }
 
 std::vector<OptionButton*> VisibleOptions(const MainForm& form) {

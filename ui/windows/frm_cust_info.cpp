@@ -14,6 +14,7 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 
@@ -27,11 +28,12 @@ constexpr int kDoNotPrint = 2;
 
 // What there is to say about the lines, in one or two sentences; nothing when all is well.
 QString FitText(const CustomerFit& fit) {
-    const char* const names[] = {"first customer line", "second customer line", "tag"};
+    constexpr std::array kNames = {"first customer line", "second customer line", "tag"};
+    static_assert(kNames.size() == decltype(fit.cut){}.size());
     QStringList cut;
-    for (std::size_t i = 0; i < fit.cut.size(); ++i) {
-        if (fit.cut[i]) {
-            cut << names[i];
+    for (std::size_t i = 0; i < kNames.size(); ++i) {
+        if (fit.cut.at(i)) {
+            cut << kNames.at(i);
         }
     }
     QStringList sentences;
