@@ -54,7 +54,8 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       form_(view_.canvas(), view_.footer(), *menuBar()),
       context_{form_, state_, module_},
       accessibleNames_(LinkedForm(context_)),
-      spokenResult_(form_, form_.announcements) {
+      spokenResult_(form_, form_.announcements),
+      resultLine_(form_, view_) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
     // Never larger than the form, so there is nothing to maximize.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |

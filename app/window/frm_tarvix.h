@@ -8,6 +8,7 @@
 #include "ui/form/accessible_names.h"
 #include "ui/form/form_state.h"
 #include "ui/form/form_view.h"
+#include "ui/form/result_line.h"
 #include "ui/form/spoken_result.h"
 #include "ui/windows/logo_picture.h"
 #include "ui/windows/window_host.h"
@@ -61,6 +62,7 @@ class frmTarvix : public QMainWindow {
     FormContext context_;
     AccessibleNames accessibleNames_;
     SpokenResult spokenResult_;
+    ResultLine resultLine_;
     std::optional<Logo> logo_;  // from Form_Load on
     QMargins frame_;            // that the window manager adds
 };

@@ -205,7 +205,10 @@ QString StatePlayer::Play(const WindowState& state) {
 void StatePlayer::ShowWhole() {
     window().setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     window().resize(form().WholeSize() + QSize(0, window().menuBar()->sizeHint().height()));
-    QCoreApplication::processEvents();
+    // What shows or hides for the new size lets the layout ask for another round.
+    for (int round = 0; round < 4; ++round) {
+        QCoreApplication::processEvents();
+    }
 }
 
 }  // namespace tarvix::testing

@@ -3,6 +3,7 @@
 #include "ui/controls/frame_box.h"
 
 #include <QApplication>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -23,7 +24,8 @@ const FrameBox* FrameAround(const QWidget& control) {
     return nullptr;
 }
 
-// Scrolls, and when its room changes shows the control that has the focus.
+// Scrolls, and when its room changes keeps the control that has the focus in sight, unless the user
+// has scrolled away from it.
 class FormScrollArea : public QScrollArea {
   public:
     explicit FormScrollArea(FormView* view) : QScrollArea(view), view_(view) {
@@ -34,9 +36,15 @@ class FormScrollArea : public QScrollArea {
 
   protected:
     void resizeEvent(QResizeEvent* event) override {
-        QScrollArea::resizeEvent(event);
         const QWidget* focused = window()->focusWidget();
-        if (focused != nullptr && view_->canvas().isAncestorOf(focused)) {
+        const bool isOnCanvas = focused != nullptr && view_->canvas().isAncestorOf(focused);
+        const bool wasSeen =
+            isOnCanvas &&
+            (!event->oldSize().isValid() ||
+             QRect(QPoint(), event->oldSize())
+                 .contains(QRect(focused->mapTo(viewport(), QPoint()), focused->size())));
+        QScrollArea::resizeEvent(event);
+        if (wasSeen) {
             view_->BringIntoView(*focused);
         }
     }
@@ -80,9 +88,10 @@ void FormView::BringIntoView(const QWidget& control) {
     }
 }
 
-bool FormView::Shows(const QWidget& control) const {
+bool FormView::Shows(const QWidget& control, int below) const {
     const QWidget* viewport = scrollArea_->viewport();
-    return viewport->rect().contains(QRect(control.mapTo(viewport, QPoint()), control.size()));
+    const QRect seen = viewport->rect().adjusted(0, 0, 0, below);
+    return seen.contains(QRect(control.mapTo(viewport, QPoint()), control.size()));
 }
 
 }  // namespace tarvix

@@ -22,8 +22,8 @@ class FormView : public QWidget {
     // frame around it where both find room.
     void BringIntoView(const QWidget& control);
 
-    // True where a control of the canvas is seen whole.
-    bool Shows(const QWidget& control) const;
+    // True where a control of the canvas is seen whole, or would be with so many more pixels below.
+    bool Shows(const QWidget& control, int below = 0) const;
 
   private:
     QScrollArea* scrollArea_;

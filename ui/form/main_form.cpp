@@ -124,7 +124,9 @@ QSize MainForm::WholeSize() const {
 QSize MainForm::LeastSize() const {
     const QSize frame = fraBeta->size().expandedTo(fraCalcOptions->size());
     const QPoint margin = fraCalcOptions->pos();
-    return {frame.width() + 2 * margin.x(), frame.height() + 2 * margin.y() + FooterHeight()};
+    const int line = QFontMetrics(canvas_.font()).lineSpacing();
+    return {frame.width() + 2 * margin.x(),
+            frame.height() + 2 * margin.y() + FooterHeight() + line};
 }
 
 void MainForm::PlaceFooter() {

@@ -168,7 +168,8 @@ class MainForm {
     // Pixels that the form takes when it is seen whole, the footer included.
     QSize WholeSize() const;
 
-    // Pixels of the least part of it that can be worked in: one frame, and the footer.
+    // Pixels of the least part of it that can be worked in: one frame, and the footer
+    // with the line of the solved value.
     QSize LeastSize() const;
 
     // As the user sees it: the control's own state and that of every frame around it. Before the

@@ -3,7 +3,7 @@
 #include "ui/form/main_form.h"
 #include "ui/form/places.h"
 
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace tarvix {
 
@@ -232,9 +232,10 @@ void MainForm::BuildBore() {
 }
 
 void MainForm::BuildMessageAndButtons() {
-    // In the footer, as wide as the window.
+    // At the end of the footer, as wide as the window.
     lblMsg = new MessageLine(&footer_, announcements);
-    auto* footer = new QHBoxLayout(&footer_);
+    auto* footer = new QVBoxLayout(&footer_);
+    footer->setSpacing(2);
     footer->addWidget(lblMsg, 1);
     Register(lblMsg, "lblMsg", ControlKind::Label, {});
     // Beside the modes, but last on the keyboard's way through the window.

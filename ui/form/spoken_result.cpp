@@ -22,6 +22,17 @@ QString Spoken(const MainForm& form, const NumericField& field) {
 
 }  // namespace
 
+QString SolvedValueInWords(const MainForm& form) {
+    const NumericField* solved = form.SolvedField();
+    if (solved == nullptr || solved->text().isEmpty()) {
+        return {};
+    }
+    const QString bore = solved == form.txtBeta && !form.txtOriBoreDia->text().isEmpty()
+                             ? QStringLiteral(", ") + Spoken(form, *form.txtOriBoreDia)
+                             : QString();
+    return Spoken(form, *solved) + bore;
+}
+
 SpokenResult::SpokenResult(const MainForm& form, Announcements& announcements)
     : form_(form), announcements_(announcements) {
     for (NumericField* field : {form.txtFlow, form.txtDeltaP, form.txtBeta, form.txtOriBoreDia}) {
@@ -39,21 +50,10 @@ void SpokenResult::timerEvent(QTimerEvent* event) {
         return;
     }
     pause_.stop();
-    const QString words = Words();
+    const QString words = SolvedValueInWords(form_);
     if (std::exchange(said_, words) != words) {
         announcements_.Say(words);
     }
-}
-
-QString SpokenResult::Words() const {
-    const NumericField* solved = form_.SolvedField();
-    if (solved == nullptr || solved->text().isEmpty()) {
-        return {};
-    }
-    const QString bore = solved == form_.txtBeta && !form_.txtOriBoreDia->text().isEmpty()
-                             ? QStringLiteral(", ") + Spoken(form_, *form_.txtOriBoreDia)
-                             : QString();
-    return Spoken(form_, *solved) + bore;
 }
 
 }  // namespace tarvix

@@ -8,6 +8,10 @@
 
 namespace tarvix {
 
+// The quantity that the mode solves for with its value and unit, as they stand; beside beta the
+// bore. Empty while there is no value.
+QString SolvedValueInWords(const MainForm& form);
+
 // Says the solved value when it has changed and the user pauses: "Flow Rate 142.3 Gallons per
 // Minute". While there is no screen reader, it does nothing and waits for nothing.
 class SpokenResult : public QObject {
@@ -18,8 +22,6 @@ class SpokenResult : public QObject {
     void timerEvent(QTimerEvent* event) override;
 
   private:
-    QString Words() const;
-
     const MainForm& form_;
     Announcements& announcements_;
     QBasicTimer pause_;

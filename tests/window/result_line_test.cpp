@@ -1,0 +1,129 @@
+// The solved value on a screen that is too small for the form: it is seen wherever one scrolls.
+#include "tests/window/layout_fixtures.h"
+#include "ui/form/form_view.h"
+
+#include <QLabel>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+namespace {
+
+class ResultLineTest : public LayoutTest {
+  protected:
+    ResultLineTest() { QApplication::setFont(QFont("DejaVu Sans", 14)); }
+
+    // A line that comes or goes lets the layout ask for another round.
+    static void Settle() {
+        for (int round = 0; round < 4; ++round) {
+            QApplication::processEvents();
+        }
+    }
+
+    void SolveAt(QSize size, const QStringList& actions) {
+        Play({"", actions});  // on the whole form
+        Player().window().resize(size);
+        Settle();
+    }
+
+    FormView& View() { return dynamic_cast<FormView&>(*Player().window().centralWidget()); }
+    QLabel& Line() { return *Player().window().findChild<QLabel*>("resultLine"); }
+
+    void ScrollTo(int position) {
+        View().scrollArea().horizontalScrollBar()->setValue(0);
+        View().scrollArea().verticalScrollBar()->setValue(position);
+        Settle();
+    }
+};
+
+const QStringList kFlowOfWater = {"click optLiquid",  "click optCalcFR",     "type txtSGf 1",
+                                  "type txtSGb 1",    "choose cboNomSize 2", "type txtDeltaP 100",
+                                  "type txtBeta 0.5", "focus txtSGf"};
+
+TEST_F(ResultLineTest, SaysTheValueWhileItsFieldIsOutOfSight) {
+    SolveAt(QSize(800, 600), kFlowOfWater);
+    const MainForm& form = Player().form();
+    ASSERT_NE(form.txtFlow->text(), "");
+    QScrollBar& down = *View().scrollArea().verticalScrollBar();
+    ASSERT_GT(down.maximum(), 0);
+    ScrollTo(0);
+    ASSERT_FALSE(View().Shows(*form.txtFlow));
+    EXPECT_TRUE(Line().isVisible());
+    EXPECT_EQ(Line().text(), "Flow Rate " + form.txtFlow->text() + " Gallons per Minute");
+    const QRect place(Line().mapTo(&Player().window(), QPoint()), Line().size());
+    EXPECT_TRUE(Player().window().rect().contains(place));
+    EXPECT_GE(Line().height(), Line().fontMetrics().height());
+    EXPECT_LT(place.bottom(), form.lblMsg->mapTo(&Player().window(), QPoint()).y());
+
+    ScrollTo(down.maximum());
+    ASSERT_TRUE(View().Shows(*form.txtFlow));
+    EXPECT_FALSE(Line().isVisible());
+    ScrollTo(0);
+    EXPECT_TRUE(Line().isVisible());
+}
+
+TEST_F(ResultLineTest, FollowsWhatIsTyped) {
+    SolveAt(QSize(800, 600), kFlowOfWater);
+    const MainForm& form = Player().form();
+    const QString before = form.txtFlow->text();
+    EXPECT_EQ(Player().Act("type txtSGf 2"), "");
+    Settle();
+    ASSERT_FALSE(View().Shows(*form.txtFlow));
+    EXPECT_NE(form.txtFlow->text(), before);
+    EXPECT_EQ(Line().text(), "Flow Rate " + form.txtFlow->text() + " Gallons per Minute");
+    EXPECT_EQ(Player().Act("type txtSGf 0"), "");
+    Settle();
+    ASSERT_EQ(form.txtFlow->text(), "");
+    EXPECT_FALSE(Line().isVisible()) << "there is no value";
+}
+
+TEST_F(ResultLineTest, TakesNoRoomWhereTheFieldIsInSight) {
+    SolveAt(QSize(800, 600), kFlowOfWater);
+    Player().ShowWhole();
+    Settle();
+    ASSERT_TRUE(View().Shows(*Player().form().txtFlow));
+    EXPECT_FALSE(Line().isVisible());
+    const int without = View().footer().height();
+    Player().window().resize(800, 600);
+    Settle();
+    ScrollTo(0);
+    EXPECT_TRUE(Line().isVisible());
+    EXPECT_GT(View().footer().height(), without);
+}
+
+// The room that the line gives back shows the field that it stood for.
+TEST_F(ResultLineTest, DoesNotHideTheFieldItself) {
+    SolveAt(QSize(800, 600), kFlowOfWater);
+    ScrollTo(0);
+    ASSERT_TRUE(Line().isVisible());
+    const NumericField& field = *Player().form().txtFlow;
+    Player().form().txtDeltaP->setFocus();
+    ScrollTo(0);
+    const QWidget& viewport = *View().scrollArea().viewport();
+    // The lower edge of the field one pixel below what is seen.
+    ScrollTo(field.mapTo(&View().canvas(), QPoint(0, field.height())).y() - viewport.height() - 1);
+    EXPECT_TRUE(View().Shows(field));
+    EXPECT_FALSE(Line().isVisible());
+}
+
+TEST_F(ResultLineTest, LeavesTheUserWhereHeScrolled) {
+    SolveAt(QSize(800, 600), kFlowOfWater);
+    QApplication::setActiveWindow(&Player().window());
+    Player().form().txtSGf->setFocus();
+    ScrollTo(0);
+    const QScrollBar& down = *View().scrollArea().verticalScrollBar();
+    ScrollTo(down.maximum());
+    ASSERT_FALSE(Line().isVisible());
+    EXPECT_EQ(down.value(), down.maximum());
+    EXPECT_FALSE(View().Shows(*Player().form().optCalcFR));
+}
+
+TEST_F(ResultLineTest, IsNoControlOfTheForm) {
+    EXPECT_EQ(Player().form().Find("resultLine"), nullptr);
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&Line());
+    EXPECT_EQ(told->text(QAccessible::Name), "");
+}
+
+}  // namespace
+}  // namespace tarvix::testing
