@@ -140,6 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Densities, SteamDensityOf, ::testing::ValuesIn(kSteamDe
                          kRowName);
 
 TEST_F(DensitiesTest, SteamDensityIsWrittenInTheLocale) {
+    const Module1 german(platform, kGermany);
     EXPECT_EQ(SteamDensityTextOf(SteamAt({"100", kGermany}), german).density, "0,25704");
     EXPECT_EQ(SteamDensityTextOf(SteamAt({"100,5", kGermany}), german).density, "0,25810");
     EXPECT_EQ(SteamDensityTextOf(SteamAt({"3.001", kGermany}), german).message,
