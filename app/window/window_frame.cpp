@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdlib>
 #include <memory>
@@ -59,9 +60,10 @@ class WindowManager {
         message.format = 32;
         message.window = window;
         message.type = request;
+        const auto bytes = std::bit_cast<std::array<char, sizeof message>>(message);
         xcb_send_event(connection_, 0, root_,
                        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                       reinterpret_cast<const char*>(&message));
+                       bytes.data());
         const QDeadlineTimer deadline(kAnswerWithinMs);
         do {
             const std::vector<uint32_t> sides = Values(window, extents, XCB_ATOM_CARDINAL);
