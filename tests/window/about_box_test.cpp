@@ -110,8 +110,8 @@ TEST(AboutBoxTest, EnterAndEscapeCloseIt) {
 // A font so large that the texts don't fit on the screen.
 class AboutBoxOnASmallScreenTest : public ::testing::Test {
   protected:
-    AboutBoxOnASmallScreenTest() { QApplication::setFont(QFont(font_.family(), 40)); }
-    ~AboutBoxOnASmallScreenTest() override { QApplication::setFont(font_); }
+    void SetUp() override { QApplication::setFont(QFont(font_.family(), 40)); }
+    void TearDown() override { QApplication::setFont(font_); }
 
   private:
     QFont font_ = QApplication::font();

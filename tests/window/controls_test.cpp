@@ -99,7 +99,7 @@ class TabControlTest : public ::testing::Test {
 
     // What Alt and the mnemonic do to the row of tabs.
     QWidget* FocusAfterMnemonic() {
-        QTabBar* bar = tab_.findChild<QTabBar*>();
+        auto* bar = tab_.findChild<QTabBar*>();
         QShortcutEvent shortcut(QKeySequence("Alt+T"), 0);
         QCoreApplication::sendEvent(bar, &shortcut);
         return window_.focusWidget();

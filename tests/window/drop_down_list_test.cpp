@@ -157,7 +157,8 @@ TEST_F(DropDownListTest, ATypedSizeIsLedToAndPickedWithEnter) {
 
 class CoveredListTest : public DropDownListTest {
   protected:
-    CoveredListTest() {
+    void SetUp() override {
+        DropDownListTest::SetUp();
         player_.desk().QueueAnswer({true, "4"});
         form().cboPipeID->SetListIndex(form().cboPipeID->count() - 1);
         size_ = form().cboNomSize->ListIndex();
