@@ -114,7 +114,7 @@ TEST(QtPlatformTest, ValuesAfterTabsStandUnderEachOther) {
 
 std::optional<std::string> InputAfter(const std::function<void(QInputDialog&)>& act) {
     ModalDriver<QInputDialog> driver(act);
-    const auto answer = QtPlatform().ShowInputBox({"Enter a Pipe ID in Inches.", "Pipe ID", "4.5"});
+    auto answer = QtPlatform().ShowInputBox({"Enter a Pipe ID in Inches.", "Pipe ID", "4.5"});
     EXPECT_TRUE(driver.done());
     return answer;
 }
