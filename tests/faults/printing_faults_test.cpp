@@ -73,7 +73,7 @@ class FullDisk {
 // after a while when nothing is written.
 class Pipe {
   public:
-    explicit Pipe(const QString& name) : name_(name) {
+    explicit Pipe(QString name) : name_(std::move(name)) {
         std::signal(SIGPIPE, SIG_IGN);
         const QByteArray path = QFile::encodeName(name_);
         EXPECT_EQ(mkfifo(path.constData(), 0600), 0);
