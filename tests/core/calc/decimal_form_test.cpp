@@ -123,6 +123,7 @@ TEST(DecimalValueTest, IsTheDoubleNearestToTheSevenDigits) {
     EXPECT_EQ(DecimalValue(-19.04999924F), -19.05);
     EXPECT_EQ(DecimalValue(3.0e38F), double{3.0e38F});
     EXPECT_EQ(DecimalValue(1.0F / 3.0F), 0.3333333);
+    EXPECT_EQ(DecimalValue(5579224.5F), 5579224.0);  // below ten million: seven digits
     EXPECT_EQ(DecimalValue(-0.0F), 0.0);
     EXPECT_FALSE(std::signbit(DecimalValue(-0.0F)));
     // On both sides of where the powers of ten stop being exact in a double.
