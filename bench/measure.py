@@ -34,7 +34,7 @@ def x_screen():
 
         reading, writing = os.pipe()
         start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1920x1080x24",
-              "-nolisten", "tcp", pass_fds=[writing])
+              "-nolisten", "tcp", "-noreset", pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as number:
             display = ":" + number.readline().strip()

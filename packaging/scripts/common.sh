@@ -135,7 +135,7 @@ start_virtual_screen() {
     folder=$(mktemp -d) || fail "no temporary folder."
     mkfifo "$folder/screen" "$folder/manager"
 
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
         3>"$folder/screen" >"$folder/log" 2>&1 &
     virtual_screen_pids+=($!)
     read -r number <"$folder/screen" || { cat "$folder/log" >&2; fail "Xvfb did not start."; }

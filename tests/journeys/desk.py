@@ -72,8 +72,9 @@ class Desk:
             raise
 
     def start_screen(self, screen):
+        # It starts anew when its last client leaves, and turns away who comes just then; not this one.
         display = self.spawn_and_read("Xvfb", "-displayfd", "{}", "-screen", "0", screen,
-                                      "-nolisten", "tcp")
+                                      "-nolisten", "tcp", "-noreset")
         self.environment["DISPLAY"] = f":{display}"
 
     def start_window_manager(self):
