@@ -7,6 +7,7 @@
 namespace tarvix {
 
 enum class Fluid { Liquid, Gas, Steam };
+inline constexpr Fluid kFluids[] = {Fluid::Liquid, Fluid::Gas, Fluid::Steam};
 
 // The fluid of a code: "L", "G" or "S". Nothing for any other.
 constexpr std::optional<Fluid> FluidOf(std::string_view code) {

@@ -1,13 +1,16 @@
 #include "calc/steam_table.h"
 
+#include <array>
 #include <cstddef>
 
 namespace tarvix {
 
+namespace {
+
 // Two rows break the smooth run and stand as they are: 68 psig lies below 67, and 385 hardly above
 // 380.
 // clang-format off
-const std::array<SteamTableRow, kSteamTableRows> kSteamTable{{
+constexpr auto kRows = std::to_array<SteamTableRow>({
     {0, 0.03738F}, {1, 0.03975F}, {2, 0.04211F}, {3, 0.04446F}, {4, 0.0468F},
     {5, 0.04914F}, {6, 0.05147F}, {7, 0.05379F}, {8, 0.0561F}, {9, 0.05841F},
     {10, 0.06071F}, {11, 0.06301F}, {12, 0.06531F}, {13, 0.06758F}, {14, 0.06986F},
@@ -54,8 +57,12 @@ const std::array<SteamTableRow, kSteamTableRows> kSteamTable{{
     {1150, 2.668F}, {1200, 2.80194F}, {1250, 2.938F}, {1300, 3.07687F}, {1350, 3.21736F},
     {1400, 3.36246F}, {1450, 3.51F}, {1500, 3.65919F}, {1600, 3.96966F}, {1700, 4.29526F},
     {1800, 4.638F}, {1900, 5.00014F}, {2000, 5.37915F}, {2500, 7.73346F}, {3000, 11.86182F},
-}};
+});
 // clang-format on
+
+}  // namespace
+
+constinit const std::span<const SteamTableRow> kSteamTable = kRows;
 
 SteamDensity SaturatedSteamDensity(float pressurePsig) {
     const float lowest = kSteamTable.front().pressurePsig;

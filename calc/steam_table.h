@@ -1,8 +1,8 @@
 // Density of saturated steam by gauge pressure.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <span>
 
 namespace tarvix {
 
@@ -11,8 +11,7 @@ struct SteamTableRow {
     float density;              // lb per cubic foot
 };
 
-inline constexpr int kSteamTableRows = 230;
-extern const std::array<SteamTableRow, kSteamTableRows> kSteamTable;
+extern const std::span<const SteamTableRow> kSteamTable;
 
 enum class SteamRange { BelowTable, InTable, AboveTable };
 

@@ -5,7 +5,7 @@ namespace tarvix {
 namespace {
 
 // US gallons per unit; for a mass, US gallons of water.
-constexpr std::array<FlowUnit, 13> kLiquidFlowUnits{{
+constexpr auto kLiquidFlowUnits = std::to_array<FlowUnit>({
     {"Gallons", FlowKind::Volume, 1.0F},
     {"Imperial Gallons", FlowKind::Volume, 1.20095F},
     {"Barrels", FlowKind::Volume, 42.0F},
@@ -19,30 +19,23 @@ constexpr std::array<FlowUnit, 13> kLiquidFlowUnits{{
     {"Metric Tons", FlowKind::Mass, 264.762F},  // not quite 1000 kilograms; kept
     {"Long Tons", FlowKind::Mass, 268.965F},
     {"Cubic Centimeters", FlowKind::Volume, 0.000264172F},
-}};
+});
 
 // Pounds per unit.
-constexpr std::array<FlowUnit, 2> kSteamFlowUnits{{
+constexpr auto kSteamFlowUnits = std::to_array<FlowUnit>({
     {"Pounds", FlowKind::Mass, 1.0F},
     {"Kilograms", FlowKind::Mass, 2.204614F},
-}};
+});
 
 // Standard cubic feet per unit.
-constexpr std::array<FlowUnit, 4> kGasFlowUnits{{
+constexpr auto kGasFlowUnits = std::to_array<FlowUnit>({
     {"Standard Cubic Feet", FlowKind::Volume, 1.0F},
     {"Pounds", FlowKind::Mass, 13.10249F},     // 1 / (2.698825 x 14.696 / (459.67 + 60))
     {"Kilograms", FlowKind::Mass, 28.88056F},  // 13.1 / 0.4535924, from the rounded 13.1
     {"Standard Cubic Meters", FlowKind::Volume, 35.31466F},  // 1 / 0.02831685
-}};
+});
 
 }  // namespace
-
-const std::array<Unit, 4> kTimeUnits{{
-    {"Minute", 1.0F},
-    {"Hour", 60.0F},
-    {"Day", 1440.0F},
-    {"Second", 0.0166667F},
-}};
 
 FluidFlowUnits FlowUnitsOf(Fluid fluid) {
     switch (fluid) {

@@ -26,6 +26,12 @@ struct FluidFlowUnits {
 
 FluidFlowUnits FlowUnitsOf(Fluid fluid);
 
-extern const std::array<Unit, 4> kTimeUnits;  // factor: minutes per unit
+// Factor: minutes per unit.
+inline constexpr auto kTimeUnits = std::to_array<Unit>({
+    {"Minute", 1.0F},
+    {"Hour", 60.0F},
+    {"Day", 1440.0F},
+    {"Second", 0.0166667F},
+});
 
 }  // namespace tarvix

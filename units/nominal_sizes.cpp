@@ -4,13 +4,6 @@
 
 namespace tarvix {
 
-const std::array<NominalSize, 24> kNominalSizes{{
-    {"1/2", "0.5"}, {"3/4", "0.75"}, {"1", "1"},   {"1-1/2", "1.5"}, {"2", "2"},   {"2-1/2", "2.5"},
-    {"3", "3"},     {"4", "4"},      {"5", "5"},   {"6", "6"},       {"8", "8"},   {"10", "10"},
-    {"12", "12"},   {"14", "14"},    {"16", "16"}, {"18", "18"},     {"20", "20"}, {"22", "22"},
-    {"24", "24"},   {"26", "26"},    {"30", "30"}, {"34", "34"},     {"36", "36"}, {"42", "42"},
-}};
-
 namespace {
 
 // Inside diameters in inches, the common schedule of a size first.
@@ -229,6 +222,7 @@ constexpr PipeSchedule kSize42[] = {
     {"XS", "41.000"},
     {"STD", "41.250"},
 };
+
 struct SizeRow {
     std::string_view value;
     std::span<const PipeSchedule> schedules;

@@ -1,5 +1,9 @@
 #include "units/pipe_id_texts.h"
 
+#include "units/nominal_sizes.h"
+
+#include <utility>
+
 namespace tarvix {
 
 namespace {
@@ -30,6 +34,12 @@ std::string MetricText(std::string_view diameterText, std::string_view metric,
     return text;
 }
 
+void KeepLonger(std::string& longest, std::string text) {
+    if (text.size() > longest.size()) {
+        longest = std::move(text);
+    }
+}
+
 }  // namespace
 
 std::string NominalSizeText(std::string_view sizeText, float sizeIn, const Unit& unit,
@@ -53,6 +63,33 @@ std::optional<std::string> ScheduleText(std::string_view diameterText, std::stri
     const std::string metric =
         FormatNumber(diameterIn / unit.factor, kMetricDecimals, locale, Grouping::Off);
     return MetricText(diameterText, metric, *mark) + std::string(schedule);
+}
+
+std::string LongestNominalSizeText() {
+    const NumberLocale point;
+    std::string longest;
+    for (const NominalSize& size : kNominalSizes) {
+        const float sizeIn = TextToSingle(size.value, point).value_or(0.0F);
+        for (const Unit& unit : kLengthUnits) {
+            KeepLonger(longest, NominalSizeText(size.text, sizeIn, unit, point));
+        }
+    }
+    return longest;
+}
+
+std::string LongestScheduleText() {
+    const NumberLocale point;
+    std::string longest;
+    for (const NominalSize& size : kNominalSizes) {
+        for (const PipeSchedule& schedule : SchedulesOf(size.value)) {
+            for (const Unit& unit : kLengthUnits) {
+                KeepLonger(
+                    longest,
+                    ScheduleText(schedule.insideDiameter, schedule.text, unit, point).value_or(""));
+            }
+        }
+    }
+    return longest;
 }
 
 std::optional<UserEnteredPipe> UserEnteredPipeOf(double answer, const Unit& unit,

@@ -25,6 +25,11 @@ std::string NominalSizeText(std::string_view sizeText, float sizeIn, const Unit&
 std::optional<std::string> ScheduleText(std::string_view diameterText, std::string_view schedule,
                                         const Unit& unit, const NumberLocale& locale);
 
+// The longest text that the list of nominal sizes, and that the pipe ID list, shows of its table in
+// any unit, written with a decimal point.
+std::string LongestNominalSizeText();
+std::string LongestScheduleText();
+
 struct UserEnteredPipe {
     std::string diameterText;  // inches, 3 decimals, as the locale writes it
     std::string shownText;

@@ -14,9 +14,9 @@
 // RESULT: ok, other (another root), unresolved, range (beta limits), toohigh, nothing, noflow.
 #include "calc/orifice_gas.h"
 #include "calc/orifice_steam.h"
-#include "tests/core/reference_meter.h"
 #include "tests/docs/data_lines.h"
 #include "tests/docs/estimate_error.h"
+#include "tests/docs/reference_meter.h"
 
 #include <cmath>
 #include <cstdio>

@@ -24,16 +24,15 @@ double ErrorAt(float psig) {
 }  // namespace
 
 void PrintSteam() {
-    for (int i = 0; i < kSteamTableRows; ++i) {
-        const SteamTableRow& row = kSteamTable[static_cast<std::size_t>(i)];
+    for (std::size_t i = 0; i < kSteamTable.size(); ++i) {
+        const SteamTableRow& row = kSteamTable[i];
         const float psig = row.pressurePsig;
         std::printf("steamrow\t%d\t%.5f\t%.6f\n", row.pressurePsig, double{row.density},
                     ErrorAt(psig));
-        if (i + 1 == kSteamTableRows) {
+        if (i + 1 == kSteamTable.size()) {
             break;
         }
-        const float step =
-            static_cast<float>(kSteamTable[static_cast<std::size_t>(i) + 1].pressurePsig) - psig;
+        const float step = static_cast<float>(kSteamTable[i + 1].pressurePsig) - psig;
         for (int tenth = 1; tenth < 10; ++tenth) {
             const float between = psig + step * static_cast<float>(tenth) / 10.0F;
             std::printf("steambetween\t%.2f\t%.6f\n", double{between}, ErrorAt(between));

@@ -1,6 +1,6 @@
 #include "tests/docs/double_solver.h"
 
-#include "tests/core/reference_meter.h"
+#include "tests/docs/reference_meter.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -4,6 +4,7 @@
 #include "tests/window/layout_fixtures.h"
 #include "tests/window/window_states.h"
 #include "ui/controls/readable_palette.h"
+#include "units/nominal_sizes.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -52,7 +53,7 @@ TEST_P(LayoutAtFontTest, EveryEntryOfEveryListCanBeReadWhole) {
     for (int unit = 0; unit < 3; ++unit) {
         Play({"", {QString("choose cboPipeIDUnit #%1").arg(unit)}});
         const int sizes = Player().form().cboNomSize->count();
-        ASSERT_EQ(sizes, 24);
+        ASSERT_EQ(sizes, static_cast<int>(kNominalSizes.size()));
         for (int size = 0; size < sizes; ++size) {
             Play({"", {QString("choose cboNomSize #%1").arg(size)}});
             measure();

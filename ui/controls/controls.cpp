@@ -28,6 +28,10 @@ bool PicksFromClosedList(int key) {
            key == Qt::Key_PageDown || key == Qt::Key_Home || key == Qt::Key_End;
 }
 
+QString ToQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 }  // namespace
 
 OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
@@ -164,9 +168,16 @@ DropDownList::DropDownList(QWidget* parent) : QComboBox(parent) {
 QSize DropDownList::sizeHint() const {
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QSize entry(fontMetrics().horizontalAdvance(widestEntry_) + kEntryMargin,
-                      fontMetrics().height());
+    int widest = 0;
+    for (const QString& entry : roomFor_) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(entry));
+    }
+    const QSize entry(widest + kEntryMargin, fontMetrics().height());
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, entry, this);
+}
+
+void DropDownList::AskRoomFor(std::string_view entry) {
+    roomFor_.push_back(ToQString(entry));
 }
 
 void DropDownList::SetCovered(bool covered) {
@@ -190,7 +201,7 @@ void DropDownList::SetListIndex(int index) {
 }
 
 void DropDownList::AddItem(std::string_view text) {
-    addItem(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    addItem(ToQString(text));
 }
 
 void DropDownList::keyPressEvent(QKeyEvent* event) {

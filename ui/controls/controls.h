@@ -64,8 +64,8 @@ class DropDownList : public QComboBox {
   public:
     explicit DropDownList(QWidget* parent);
 
-    // The entry for which the list asks for room, whatever it holds at the moment.
-    void SetWidestEntry(const char* entry) { widestEntry_ = QLatin1String(entry); }
+    // An entry for which the list asks for room, whatever it holds at the moment.
+    void AskRoomFor(std::string_view entry);
 
     std::string Text() const { return currentText().toStdString(); }
     int ListIndex() const { return currentIndex(); }
@@ -88,7 +88,7 @@ class DropDownList : public QComboBox {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    QString widestEntry_;
+    std::vector<QString> roomFor_;
     bool opensToPick_ = false;
     bool covered_ = false;
 };

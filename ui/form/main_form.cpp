@@ -274,11 +274,9 @@ QLineEdit* MainForm::AddBackdrop(QWidget* parent, const char* name, TwipsRect pl
     return backdrop;
 }
 
-DropDownList* MainForm::AddList(QWidget* parent, const char* name, TwipsRect place,
-                                const char* widestEntry) {
+DropDownList* MainForm::AddList(QWidget* parent, const char* name, TwipsRect place) {
     auto* list = new DropDownList(parent);
     SetAccessibleRole(*list, QAccessible::ComboBox);
-    list->SetWidestEntry(widestEntry);
     Register(list, name, ControlKind::ComboBox, place);
     return list;
 }

@@ -202,8 +202,7 @@ class MainForm {
     QLabel* AddLabel(QWidget* parent, const char* name, const char* caption, TwipsRect place);
     NumericField* AddField(QWidget* parent, const char* name, TwipsRect place);
     QLineEdit* AddBackdrop(QWidget* parent, const char* name, TwipsRect place);
-    DropDownList* AddList(QWidget* parent, const char* name, TwipsRect place,
-                          const char* widestEntry);
+    DropDownList* AddList(QWidget* parent, const char* name, TwipsRect place);
     QPushButton* AddButton(QWidget* parent, const char* name, const char* caption, TwipsRect place);
     QAction* AddMenuItem(QWidget* menu, const char* name, const char* caption);
     void Register(QWidget* widget, const char* name, ControlKind kind, TwipsRect place);

@@ -2,6 +2,10 @@
 #include "ui/controls/tab_control.h"
 #include "ui/form/main_form.h"
 #include "ui/form/places.h"
+#include "ui/form/unit_lists.h"
+#include "units/flow_units.h"
+#include "units/pipe_id_texts.h"
+#include "units/unit_tables.h"
 
 #include <QVBoxLayout>
 
@@ -34,16 +38,6 @@ constexpr int kField = 1500;
 
 // From the left edge of a warning's box to its text.
 constexpr int kWarningInset = 180;
-
-// The widest entry that each list ever shows.
-constexpr const char* kWidestDensityUnit = "kg/cubic meter";
-constexpr const char* kWidestPressureUnit = "mm of Mercury";
-constexpr const char* kWidestDiffPressureUnit = "Inches of Mercury";
-constexpr const char* kWidestFlowUnit = "Standard Cubic Meters";
-constexpr const char* kWidestTimeUnit = "Second";
-constexpr const char* kWidestLengthUnit = "Centimeters";
-constexpr const char* kWidestNominalSize = "1066.8";
-constexpr const char* kWidestPipe = "10.020\"  (254.51 mm)  Sch 40, STD, Sch 40S";
 
 }  // namespace
 
@@ -131,8 +125,8 @@ void MainForm::BuildDensity(QWidget* tab) {
     lblDensity =
         AddLabel(fraDensity, "lblDensity", "Operating Density", {kColumnD, kRow1, 2400, kRow});
     txtDensity = AddField(fraDensity, "txtDensity", {kColumnD, kRow2, kField, kRow});
-    cboDensityUnit =
-        AddList(fraDensity, "cboDensityUnit", {kColumnE, kRow2, 1740, kRow}, kWidestDensityUnit);
+    cboDensityUnit = AddList(fraDensity, "cboDensityUnit", {kColumnE, kRow2, 1740, kRow});
+    AskRoomForUnits(*cboDensityUnit, kDensityUnits);
 }
 
 void MainForm::BuildTemperatureAndPressure(QWidget* tab) {
@@ -145,8 +139,8 @@ void MainForm::BuildTemperatureAndPressure(QWidget* tab) {
     fraPress = AddFrame(tab, "fraPress", "Pressure", {kTabLeft, kSlot2, kTabWidth, kTwoRowFrame});
     lblPf = AddLabel(fraPress, "lblPf", "Operating Pressure", {kColumnA, kRow1, 2400, kRow});
     txtPf = AddField(fraPress, "txtPf", {kColumnA, kRow2, kField, kRow});
-    cboPressUnit =
-        AddList(fraPress, "cboPressUnit", {kColumnB, kRow2, 1740, kRow}, kWidestPressureUnit);
+    cboPressUnit = AddList(fraPress, "cboPressUnit", {kColumnB, kRow2, 1740, kRow});
+    AskRoomForUnits(*cboPressUnit, kPressUnits);
     optPgauge = AddOption(fraPress, "optPgauge", "Gauge", {kColumnC + 90, kRow2, 900, kRow});
     optPabsolute = AddOption(fraPress, "optPabsolute", "Absolute", {4650, kRow2, 1080, kRow});
 
@@ -169,8 +163,8 @@ void MainForm::BuildCompressibility(QWidget* tab) {
     lblCompCorr->setWordWrap(true);
     lblCompCorr->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     txtZf = AddField(fraCompCorrection, "txtZf", {kColumnB, kOption3, kField, kRow});
-    cboZfDensityUnit = AddList(fraCompCorrection, "cboZfDensityUnit", {3300, kOption3, 1740, kRow},
-                               kWidestDensityUnit);
+    cboZfDensityUnit = AddList(fraCompCorrection, "cboZfDensityUnit", {3300, kOption3, 1740, kRow});
+    AskRoomForUnits(*cboZfDensityUnit, kDensityUnits);
     fraZfCompWarning = AddBox(fraCompCorrection, "fraZfCompWarning", QAccessible::AlertMessage,
                               {kColumnB, kOption1, 7185, 840});
     lbl1ZfCompWarning = AddLabel(fraZfCompWarning, "lbl1ZfCompWarning",
@@ -185,29 +179,35 @@ void MainForm::BuildPipeAndFlow() {
     constexpr TwipsRect kNominalSizePlace{1230, kRow1, 1110, kRow};
     fraPipe = AddFrame(&canvas_, "fraPipe", "Pipe", {120, 4935, 9360, kOneRowFrame});
     lblNomSize = AddLabel(fraPipe, "lblNomSize", "Nominal Size", {kColumnA, kRow1, 1050, kRow});
-    cboNomSize = AddList(fraPipe, "cboNomSize", kNominalSizePlace, kWidestNominalSize);
+    cboNomSize = AddList(fraPipe, "cboNomSize", kNominalSizePlace);
+    cboNomSize->AskRoomFor(LongestNominalSizeText());
     // Where a decimal comma makes a size end the program, passing over one must not pick it.
     cboNomSize->SetOpensToPick();
     // Lies over the nominal size while the pipe is the user's own.
     txtMaskNomSize = new CoverField(fraPipe);
     Register(txtMaskNomSize, "txtMaskNomSize", ControlKind::TextBox, kNominalSizePlace);
     lblPipeID = AddLabel(fraPipe, "lblPipeID", "Pipe ID", {2580, kRow1, 600, kRow});
-    cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4380, kRow}, kWidestPipe);
-    cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7710, kRow1, 1530, kRow}, kWidestLengthUnit);
+    cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4380, kRow});
+    cboPipeID->AskRoomFor(LongestScheduleText());
+    cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7710, kRow1, 1530, kRow});
+    AskRoomForUnits(*cboPipeIDUnit, kLengthUnits);
 
     constexpr int kTop = 5580;
     fraFlowrate = AddFrame(&canvas_, "fraFlowrate", "Flow Rate", {120, kTop, 4230, kTwoRowFrame});
     txtFlow = AddField(fraFlowrate, "txtFlow", {kColumnA, kRow1, kField, kRow});
-    cboFlowUnit =
-        AddList(fraFlowrate, "cboFlowUnit", {kColumnB, kRow1, 2400, kRow}, kWidestFlowUnit);
+    cboFlowUnit = AddList(fraFlowrate, "cboFlowUnit", {kColumnB, kRow1, 2400, kRow});
+    for (const Fluid fluid : kFluids) {
+        AskRoomForUnits(*cboFlowUnit, FlowUnitsOf(fluid).units);
+    }
     lblPer = AddLabel(fraFlowrate, "lblPer", "Per", {kColumnB, kRow2, 420, kRow});
-    cboTimeUnit = AddList(fraFlowrate, "cboTimeUnit", {2190, kRow2, 1920, kRow}, kWidestTimeUnit);
+    cboTimeUnit = AddList(fraFlowrate, "cboTimeUnit", {2190, kRow2, 1920, kRow});
+    AskRoomForUnits(*cboTimeUnit, kTimeUnits);
 
     fraDeltaP =
         AddFrame(&canvas_, "fraDeltaP", "Differential Pressure", {4470, kTop, 5010, kTwoRowFrame});
     txtDeltaP = AddField(fraDeltaP, "txtDeltaP", {kColumnA, kRow1, kField, kRow});
-    cboDeltaPunit =
-        AddList(fraDeltaP, "cboDeltaPunit", {kColumnB, kRow1, 2400, kRow}, kWidestDiffPressureUnit);
+    cboDeltaPunit = AddList(fraDeltaP, "cboDeltaPunit", {kColumnB, kRow1, 2400, kRow});
+    AskRoomForUnits(*cboDeltaPunit, kDeltaPUnits);
     fraPlateThicknessWarning = AddBox(fraDeltaP, "fraPlateThicknessWarning",
                                       QAccessible::AlertMessage, {kColumnA, kRow2, 4770, kRow});
     lbl1PlateThicknessWarning =
@@ -222,8 +222,8 @@ void MainForm::BuildBore() {
     fraOriBoreDiameter = AddFrame(&canvas_, "fraOriBoreDiameter", "Orifice Bore Diameter",
                                   {120, kTop, 4230, kOneRowFrame});
     txtOriBoreDia = AddField(fraOriBoreDiameter, "txtOriBoreDia", {kColumnA, kRow1, kField, kRow});
-    cboOriBoreUnit = AddList(fraOriBoreDiameter, "cboOriBoreUnit", {kColumnB, kRow1, 2400, kRow},
-                             kWidestLengthUnit);
+    cboOriBoreUnit = AddList(fraOriBoreDiameter, "cboOriBoreUnit", {kColumnB, kRow1, 2400, kRow});
+    AskRoomForUnits(*cboOriBoreUnit, kLengthUnits);
 
     fraBeta = AddFrame(&canvas_, "fraBeta", "Beta Ratio", {4470, kTop, 5010, kOneRowFrame});
     txtBeta = AddField(fraBeta, "txtBeta", {kColumnA, kRow1, kField, kRow});

@@ -15,6 +15,14 @@ void AddUnits(DropDownList& list, const Table& table) {
     }
 }
 
+// Lets `list` ask for room for the texts of `table`, whatever it holds at the moment.
+template <typename Table>
+void AskRoomForUnits(DropDownList& list, const Table& table) {
+    for (const auto& unit : table) {
+        list.AskRoomFor(unit.text);
+    }
+}
+
 // The position of the entry with this text, 0 when there is none.
 template <typename Table>
 int PositionOf(const Table& table, std::string_view text) {

@@ -101,6 +101,13 @@ TEST(PipeIdTextsTest, AScheduleInAnyOtherUnitHasNoText) {
     EXPECT_EQ(ScheduleText("2.067", "XXS", kLowerCase, kUnitedStates), std::nullopt);
 }
 
+// Of the pipes with the longest name only one is 10 inches or wider; of the nominal sizes only 42
+// inches have four digits in millimeters.
+TEST(PipeIdTextsTest, TheLongestTextsOfBothLists) {
+    EXPECT_EQ(LongestScheduleText(), "10.020\"  (254.51 mm)  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(LongestNominalSizeText(), "1066.8");
+}
+
 // User-entered pipes ------------------------------------------------------------------------------
 
 TEST(PipeIdTextsTest, TheTextsOfTheUserEnteredEntry) {

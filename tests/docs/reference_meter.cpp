@@ -1,4 +1,4 @@
-#include "reference_meter.h"
+#include "tests/docs/reference_meter.h"
 
 #include <cmath>
 
