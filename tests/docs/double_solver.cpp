@@ -85,21 +85,23 @@ UnitFactors::UnitFactors(const std::string& path) {
         std::string text;
         std::string kind;
         std::string factor;
+        std::string exact;
         std::getline(cells, list, '\t');
         std::getline(cells, position, '\t');
         std::getline(cells, text, '\t');
         std::getline(cells, kind, '\t');
         std::getline(cells, factor, '\t');
-        factors_[{list, text}] = ValueOfText(factor);
+        std::getline(cells, exact, '\t');
+        rows_[{list, text}] = {ValueOfText(factor), ValueOfText(exact)};
     }
-    if (factors_.empty()) {
+    if (rows_.empty()) {
         throw std::runtime_error("no units in " + path);
     }
 }
 
-double UnitFactors::Of(const std::string& list, std::string_view unit) const {
-    const auto found = factors_.find({list, std::string(unit)});
-    if (found == factors_.end()) {
+const UnitFactors::Row& UnitFactors::RowOf(const std::string& list, std::string_view unit) const {
+    const auto found = rows_.find({list, std::string(unit)});
+    if (found == rows_.end()) {
         throw std::runtime_error("no unit " + std::string(unit) + " in " + list);
     }
     return found->second;

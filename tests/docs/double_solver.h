@@ -18,10 +18,23 @@ class UnitFactors {
     explicit UnitFactors(const std::string& path);
 
     // By list ("press", "deltaP", "density", "time", "flow L", ...) and unit. Throws for another.
-    double Of(const std::string& list, std::string_view unit) const;
+    double Of(const std::string& list, std::string_view unit) const {
+        return RowOf(list, unit).factor;
+    }
+    // What the factor would be by the definitions of its units.
+    double ExactOf(const std::string& list, std::string_view unit) const {
+        return RowOf(list, unit).exact;
+    }
 
   private:
-    std::map<std::pair<std::string, std::string>, double> factors_;
+    struct Row {
+        double factor = 0;
+        double exact = 0;
+    };
+
+    const Row& RowOf(const std::string& list, std::string_view unit) const;
+
+    std::map<std::pair<std::string, std::string>, Row> rows_;
 };
 
 // What the sheet's result field should show, not rounded, in the sheet's units. A differential

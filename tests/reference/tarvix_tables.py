@@ -28,7 +28,7 @@ _UNITS = _grouped(_rows("units.tsv"))
 
 
 def _units(name):
-    return tuple((text, factor) for text, _, factor in _UNITS[name])
+    return tuple((text, factor) for text, _, factor, _ in _UNITS[name])
 
 
 PRESSURE_UNITS = _units("press")
@@ -36,7 +36,7 @@ DELTA_P_UNITS = _units("deltaP")
 DENSITY_UNITS = _units("density")
 LENGTH_UNITS = _units("length")
 TIME_UNITS = _units("time")
-FLOW_UNITS = {fluid: tuple(_UNITS["flow " + fluid]) for fluid in "LSG"}
+FLOW_UNITS = {fluid: tuple(row[:3] for row in _UNITS["flow " + fluid]) for fluid in "LSG"}
 
 # Flow unit and time unit that a change of fluid selects.
 FLUID_DEFAULTS = {

@@ -226,7 +226,8 @@ TEST_F(NoPrinterTest, DialogPrintsIntoAPdfFile) {
         ASSERT_EQ(pages.size(), 1U);
         EXPECT_EQ(pages[0].LineOf(pages[0].Word("Customer:")), "Customer:");
         // The locale of the tests names no country: American paper.
-        EXPECT_EQ(pages[0].width, 612);
+        EXPECT_NEAR(pages[0].width, qEnvironmentVariable("TARVIX_EXPECT_PAPER", "612").toInt(),
+                    0.5);
     }
 }
 

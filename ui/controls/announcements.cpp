@@ -47,7 +47,11 @@ Announcements::~Announcements() {
 }
 
 void Announcements::Say(const QString& text) {
-    if (!QAccessible::isActive() || text.isEmpty()) {
+    if (!AreHeard() || text.isEmpty()) {
+        return;
+    }
+    if (onSay) {
+        onSay(text);
         return;
     }
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)

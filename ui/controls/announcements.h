@@ -5,6 +5,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
 namespace tarvix {
 
 // Says something by a screen reader, wherever the focus is. Nothing happens without one.
@@ -22,7 +24,12 @@ class Announcements {
     Announcements& operator=(const Announcements&) = delete;
     ~Announcements();
 
+    // Whether somebody listens.
+    bool AreHeard() const { return onSay || QAccessible::isActive(); }
     void Say(const QString& text);
+
+    // Hears what is said in place of the screen reader, when it is set.
+    std::function<void(const QString& text)> onSay;
 
   private:
     QWidget& source_;

@@ -29,7 +29,7 @@ MessageLine::MessageLine(QWidget* parent, Announcements& announcements)
 void MessageLine::Show(const std::string& message, BackColor color) {
     setText(QString::fromStdString(message));
     SetBackColor(*this, message.empty() ? BackColor::PaleGrey : color);
-    if (QAccessible::isActive() && !willAnnounce_) {
+    if (announcements_.AreHeard() && !willAnnounce_) {
         willAnnounce_ = true;
         QCoreApplication::postEvent(this, new QEvent(kAnnounce));
     }

@@ -37,7 +37,7 @@ SpokenResult::SpokenResult(const MainForm& form, Announcements& announcements)
     : form_(form), announcements_(announcements) {
     for (NumericField* field : {form.txtFlow, form.txtDeltaP, form.txtBeta, form.txtOriBoreDia}) {
         connect(field, &QLineEdit::textChanged, this, [this] {
-            if (QAccessible::isActive()) {
+            if (announcements_.AreHeard()) {
                 pause_.start(kPauseMs, this);
             }
         });
