@@ -55,7 +55,8 @@ class Desk:
             (self.folder / name).mkdir(mode=0o700)
         self.environment = {
             **{name: value for name, value in os.environ.items()
-               if name not in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "AT_SPI_BUS_ADDRESS")},
+               if name not in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "AT_SPI_BUS_ADDRESS")
+               and not name.startswith("XDG_")},
             "HOME": str(self.folder / "home"),
             "XDG_RUNTIME_DIR": str(self.folder / "runtime"),
             "LC_ALL": "C.UTF-8",

@@ -7,41 +7,19 @@ is found, worked and read over the accessibility bus, from outside the program.
 Where the desktop can't be set up, the journey says so and ends with exit status 77: skipped.
 """
 
-import os
 import sys
-import tempfile
-import unittest
 
-import desk as desks
+import journey as journeys
 from desk import wait_until
 
-SKIPPED = 77
 
-program_file = ""
-
-
-class ScreenReaderJourney(unittest.TestCase):
-    desk = None
-
+class ScreenReaderJourney(journeys.Journey):
     def setUp(self):
         import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
         self.events = []
         self.listener = program.Listener(self.events)
         self.addCleanup(self.listener.close)
-        # No printer of the machine.
-        self.program = program.Program(self.desk, program_file, CUPS_SERVER="127.0.0.1:1")
-        self.addCleanup(self.end_program)
-        self.program.wait_for_main_window()
-
-    def end_program(self):
-        if self.program.process.poll() is None:
-            self.program.process.kill()
-            self.program.process.wait()
-
-    def choose(self, option):
-        """Selects an option."""
-        self.program.option(option).act("Press")
-        wait_until(option, lambda: self.program.option(option).checked)
+        self.start()
 
     def enter(self, field, text):
         """Puts a text into a field."""
@@ -157,26 +135,5 @@ class ScreenReaderJourney(unittest.TestCase):
         self.assertEqual(len(program.find_all("label", begins="No Nominal Size")), 1)
 
 
-def main():
-    global program_file
-    if len(sys.argv) != 2:
-        print(__doc__, file=sys.stderr)
-        return 2
-    program_file = os.path.abspath(sys.argv[1])
-    with tempfile.TemporaryDirectory(prefix="screen-reader-") as folder:
-        try:
-            ScreenReaderJourney.desk = desks.Desk(folder)
-        except desks.CannotRun as reason:
-            print(f"SKIPPED: the screen reader's journey: {reason}")
-            return SKIPPED
-        os.environ.update(ScreenReaderJourney.desk.environment)
-        try:
-            result = unittest.main(argv=sys.argv[:1], exit=False, verbosity=2,
-                                   warnings="ignore").result
-        finally:
-            ScreenReaderJourney.desk.stop()
-    return 0 if result.wasSuccessful() else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(journeys.run(ScreenReaderJourney, __doc__))

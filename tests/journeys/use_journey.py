@@ -9,40 +9,19 @@ Where the desktop can't be set up, the journey says so and ends with exit status
 The expected results are worked out beside each run.
 """
 
-import os
 import shutil
 import subprocess
 import sys
-import tempfile
-import unittest
 
-import desk as desks
-from desk import PATIENCE, wait_until
-
-SKIPPED = 77
-
-program_file = ""
+import journey as journeys
+from desk import PATIENCE, CannotRun, wait_until
 
 
-class UseJourney(unittest.TestCase):
-    desk = None
-
-    def start(self, **environment):
-        import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
-        # No printer of the machine. The desk keeps an environment, so each run names its own locale.
-        self.program = program.Program(self.desk, program_file, CUPS_SERVER="127.0.0.1:1",
-                                       **{"LC_ALL": "C.UTF-8", **environment})
-        self.addCleanup(self.end_program)
-        self.program.wait_for_main_window()
-
-    def end_program(self):
-        if self.program.process.poll() is None:
-            self.program.process.kill()
-            self.program.process.wait()
-
-    def choose(self, option):
-        self.program.option(option).act("Press")
-        wait_until(option, lambda: self.program.option(option).checked)
+class UseJourney(journeys.Journey):
+    @classmethod
+    def set_up(cls, stack):
+        if shutil.which("xclip") is None:
+            raise CannotRun("not installed: xclip")
 
     def enter(self, begins, text):
         field = self.program.field(begins)
@@ -278,29 +257,5 @@ class UseJourney(unittest.TestCase):
         wait_until("the size 3", lambda: sizes.name == "Nominal Size of the pipe, Inches: 3")
 
 
-def main():
-    global program_file
-    if len(sys.argv) < 2:
-        print(__doc__, file=sys.stderr)
-        return 2
-    program_file = os.path.abspath(sys.argv.pop(1))
-    if shutil.which("xclip") is None:
-        print("SKIPPED: the journey of use: not installed: xclip")
-        return SKIPPED
-    with tempfile.TemporaryDirectory(prefix="use-") as folder:
-        try:
-            UseJourney.desk = desks.Desk(folder)
-        except desks.CannotRun as reason:
-            print(f"SKIPPED: the journey of use: {reason}")
-            return SKIPPED
-        os.environ.update(UseJourney.desk.environment)
-        try:
-            result = unittest.main(argv=sys.argv, exit=False, verbosity=2,
-                                   warnings="ignore").result
-        finally:
-            UseJourney.desk.stop()
-    return 0 if result.wasSuccessful() else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(journeys.run(UseJourney, __doc__))

@@ -7,6 +7,13 @@ namespace tarvix {
 FieldInterface::FieldInterface(NumericField* field)
     : ControlInterface(field, QAccessible::EditableText), field_(*field) {}
 
+// Of one that is not valid, nothing is told. The toolkit would tell of the caret and the selection
+// before it tells of the focus. Readers take such a caret for the focus and then do not say the
+// field any more; the selection they would say twice, first in front of the field's name.
+bool FieldInterface::isValid() const {
+    return ControlInterface::isValid() && !field_.FocusIsMoving();
+}
+
 bool FieldInterface::CanBeChanged() const {
     return field_.isEnabled() && !field_.Locked();
 }

@@ -12,6 +12,8 @@ class FieldInterface : public ControlInterface,
   public:
     explicit FieldInterface(NumericField* field);
 
+    bool isValid() const override;
+
     QString text(QAccessible::Text kind) const override;
     void setText(QAccessible::Text kind, const QString& text) override;
     QAccessible::State state() const override;

@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -20,6 +21,7 @@ bool FocusComesBack(Qt::FocusReason reason) {
 }  // namespace
 
 void EntryLine::focusInEvent(QFocusEvent* event) {
+    const QScopedValueRollback moving(focusIsMoving_, true);
     QLineEdit::focusInEvent(event);
     if (FocusComesBack(event->reason())) {
         return;
@@ -28,6 +30,11 @@ void EntryLine::focusInEvent(QFocusEvent* event) {
     if (onGotFocus) {
         onGotFocus();
     }
+}
+
+void EntryLine::focusOutEvent(QFocusEvent* event) {
+    const QScopedValueRollback moving(focusIsMoving_, true);
+    QLineEdit::focusOutEvent(event);
 }
 
 void EntryLine::mousePressEvent(QMouseEvent* event) {

@@ -18,8 +18,12 @@ class EntryLine : public QLineEdit {
 
     std::function<void()> onGotFocus;
 
+    // True while the focus comes or goes, which selects the text or takes the selection away.
+    bool FocusIsMoving() const { return focusIsMoving_; }
+
   protected:
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -29,6 +33,7 @@ class EntryLine : public QLineEdit {
     void KeepSelectionUntilDragged(QPoint press) { keepingPress_ = press; }
 
   private:
+    bool focusIsMoving_ = false;
     bool focusCameByThisPress_ = false;
     // Where such a press went down, until it turns into a drag or ends.
     std::optional<QPoint> keepingPress_;

@@ -1,0 +1,60 @@
+"""A journey: tests that share a desk, each with a program of its own."""
+
+import contextlib
+import os
+import sys
+import tempfile
+import unittest
+
+import desk as desks
+from desk import wait_until
+
+SKIPPED = 77
+
+
+class Journey(unittest.TestCase):
+    desk = None
+    program_file = ""
+
+    @classmethod
+    def set_up(cls, stack):
+        """Sets up what the journey needs beside the desk; what ends it goes on the stack."""
+
+    def start(self, **environment):
+        """Starts the program and waits for its window."""
+        import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
+        # No printer of the machine. The desk keeps an environment, so each run names its own locale.
+        self.program = program.Program(self.desk, self.program_file, CUPS_SERVER="127.0.0.1:1",
+                                       **{"LC_ALL": "C.UTF-8", **environment})
+        self.addCleanup(self.end_program)
+        self.program.wait_for_main_window()
+
+    def end_program(self):
+        if self.program.process.poll() is None:
+            self.program.process.kill()
+            self.program.process.wait()
+
+    def choose(self, option):
+        """Selects an option."""
+        self.program.option(option).act("Press")
+        wait_until(option, lambda: self.program.option(option).checked)
+
+
+def run(journey, description):
+    """Runs the tests of a class of journeys by the command line: the program and, where wanted, the
+    names of tests. Returns the exit status: SKIPPED where something can't be set up."""
+    if len(sys.argv) < 2:
+        print(description, file=sys.stderr)
+        return 2
+    journey.program_file = os.path.abspath(sys.argv.pop(1))
+    with tempfile.TemporaryDirectory(prefix="journey-") as folder, contextlib.ExitStack() as stack:
+        try:
+            journey.desk = desks.Desk(folder)
+            stack.callback(journey.desk.stop)
+            journey.set_up(stack)
+        except desks.CannotRun as reason:
+            print(f"SKIPPED: {journey.__name__}: {reason}")
+            return SKIPPED
+        os.environ.update(journey.desk.environment)
+        result = unittest.main(argv=sys.argv, exit=False, verbosity=2, warnings="ignore").result
+    return 0 if result.wasSuccessful() else 1

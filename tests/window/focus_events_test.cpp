@@ -1,0 +1,70 @@
+// What screen readers are told when the focus comes to a field. Of a caret or a selection that is
+// told before the focus they say the wrong thing, or nothing at all.
+#include "tests/window/window_states.h"
+
+#include <QAccessible>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace tarvix::testing {
+namespace {
+
+class FocusEventsTest : public ::testing::Test {
+  protected:
+    // Shows the window, and listens to the field where the toolkit tells of it.
+    void ListenTo(NumericField& field) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&player_.window()));
+        const auto note = [this, &field] {
+            told_.push_back(QAccessible::queryAccessibleInterface(&field)->isValid());
+        };
+        QObject::connect(&field, &QLineEdit::selectionChanged, &field, note);
+        QObject::connect(&field, &QLineEdit::cursorPositionChanged, &field, note);
+    }
+
+    // Of what is not valid, nothing is told.
+    void ExpectNothingTold() {
+        EXPECT_FALSE(told_.empty());
+        EXPECT_EQ(told_, std::vector<bool>(told_.size(), false));
+        told_.clear();
+    }
+
+    MainForm& form() { return player_.form(); }
+
+    StatePlayer player_;
+    std::vector<bool> told_;
+};
+
+TEST_F(FocusEventsTest, TheCaretOfAFieldThatWasNeverVisitedIsNotTold) {
+    ListenTo(*form().txtTf);
+    form().txtTf->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(form().txtTf->hasFocus());
+    ExpectNothingTold();
+}
+
+TEST_F(FocusEventsTest, TheSelectionThatComesAndGoesWithTheFocusIsNotTold) {
+    NumericField& field = *form().txtDeltaP;
+    ASSERT_EQ(player_.Play({"", {"click optCalcFR"}}), "");
+    field.setText("142.3");
+    ListenTo(field);
+    field.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(field.selectedText(), "142.3");
+    ExpectNothingTold();
+    form().optCalcFR->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(field.selectedText(), "");
+    ExpectNothingTold();
+}
+
+TEST_F(FocusEventsTest, ASelectionByHandIsTold) {
+    NumericField& field = *form().txtTf;
+    field.setText("142.3");
+    field.setFocus(Qt::TabFocusReason);
+    ListenTo(field);
+    field.setSelection(0, 3);
+    EXPECT_FALSE(told_.empty());
+    EXPECT_EQ(told_, std::vector<bool>(told_.size(), true));
+}
+
+}  // namespace
+}  // namespace tarvix::testing
