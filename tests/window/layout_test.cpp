@@ -64,6 +64,25 @@ TEST_P(LayoutAtFontTest, EveryEntryOfEveryListCanBeReadWhole) {
     }
 }
 
+// The tightest list decides how wide the form is; the others would be seen to be cut off with
+// another font only.
+TEST_F(LayoutTest, EveryListAsksForRoomForTheEntriesThatItHolds) {
+    const int aroundEntries = DropDownList(nullptr).sizeHint().width();
+    for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
+        Play({"",
+              {QString("click ") + fluid, "choose cboPipeIDUnit Millimeters",
+               "choose cboNomSize 254.0"}});
+        for (const NamedControl& control : Player().form().Controls()) {
+            const auto* list = dynamic_cast<const DropDownList*>(control.widget);
+            for (int entry = 0; list != nullptr && entry < list->count(); ++entry) {
+                EXPECT_GE(list->sizeHint().width() - aroundEntries,
+                          list->fontMetrics().horizontalAdvance(list->itemText(entry)))
+                    << control.name.toStdString() << " " << list->itemText(entry).toStdString();
+            }
+        }
+    }
+}
+
 TEST_P(LayoutAtFontTest, AFontChangedWhileTheWindowIsOpenChangesTheLayout) {
     const QFont last = QApplication::font();
     QApplication::setFont(QFont(last.family(), 22 - last.pointSize()));

@@ -3,14 +3,21 @@
 
 #include "ui/controls/controls.h"
 
+#include <span>
+#include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace tarvix {
 
-// Fills `list` with the texts of `table`. Selecting an entry is the caller's next step.
-template <typename Table>
-void AddUnits(DropDownList& list, const Table& table) {
-    for (const auto& unit : table) {
+// Fills `list` with the texts of `table`, which becomes what the list `shows`. Selecting an entry
+// is the caller's next step.
+template <typename Entry>
+void FillUnits(DropDownList& list, std::span<const Entry>& shows,
+               std::type_identity_t<std::span<const Entry>> table) {
+    list.Clear();
+    shows = table;
+    for (const Entry& unit : table) {
         list.AddItem(unit.text);
     }
 }
@@ -32,6 +39,15 @@ int PositionOf(const Table& table, std::string_view text) {
         }
     }
     return 0;
+}
+
+// Fills `list` again. The unit stays selected that was, else it is the first.
+template <typename Entry>
+void ReloadUnits(DropDownList& list, std::span<const Entry>& shows,
+                 std::type_identity_t<std::span<const Entry>> table) {
+    const std::string previous = list.Text();
+    FillUnits(list, shows, table);
+    list.SetListIndex(PositionOf(table, previous));
 }
 
 }  // namespace tarvix

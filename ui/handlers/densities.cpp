@@ -29,4 +29,20 @@ bool CalcSteamDensity(const FormContext& context) {
     return false;
 }
 
+bool FollowDensity(const FormContext& context) {
+    const MainForm& form = context.form;
+    switch (context.module.CurrentFluid()) {
+        case Fluid::Liquid:
+            if (form.optSgCalc->Value()) {
+                CalcSGf(context);
+            }
+            break;
+        case Fluid::Steam:
+            return !form.optSteamTbl->Value() || CalcSteamDensity(context);
+        case Fluid::Gas:
+            break;
+    }
+    return true;
+}
+
 }  // namespace tarvix

@@ -12,4 +12,8 @@ void CalcSGf(const FormContext& context);
 // and with the result field emptied, for a pressure outside the steam table.
 bool CalcSteamDensity(const FormContext& context);
 
+// What follows from a density, or its unit, that is another: the calculated gravity of a liquid,
+// the density of steam from the table. Returns false where CalcSteamDensity does.
+bool FollowDensity(const FormContext& context);
+
 }  // namespace tarvix

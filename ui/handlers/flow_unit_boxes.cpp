@@ -15,9 +15,7 @@ void LoadcboFlowUnit(const FormContext& context) {
     DropDownList& list = *context.form.cboFlowUnit;
     const FluidFlowUnits fluid =
         FlowUnitsOf(context.module.CurrentFluid("Orifice flow type not specified."));
-    list.Clear();
-    context.state.FlowUnitTable = fluid.units;
-    AddUnits(list, fluid.units);
+    FillUnits(list, context.state.FlowUnitTable, fluid.units);
     list.SetListIndex(PositionOf(fluid.units, fluid.defaultFlowUnit));
 }
 
@@ -26,9 +24,7 @@ void LoadcboTimeUnit(const FormContext& context) {
     const std::optional<Fluid> fluid = FluidOf(context.module.FluidType);
     const std::string toSelect =
         fluid ? std::string(FlowUnitsOf(*fluid).defaultTimeUnit) : list.Text();
-    list.Clear();
-    context.state.TimeUnitTable = kTimeUnits;
-    AddUnits(list, kTimeUnits);
+    FillUnits(list, context.state.TimeUnitTable, kTimeUnits);
     list.SetListIndex(PositionOf(kTimeUnits, toSelect));
 }
 

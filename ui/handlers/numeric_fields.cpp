@@ -80,27 +80,13 @@ void txtSGf_Change(const FormContext& context) {
 }
 
 void txtDensity_Change(const FormContext& context) {
-    const MainForm& form = context.form;
-    Module1& module = context.module;
-    if (!form.IsEnabled(*form.txtDensity) || context.state.SuspendCalc) {
+    if (!context.form.IsEnabled(*context.form.txtDensity) || context.state.SuspendCalc) {
         return;
     }
-    module.MsgText.clear();
-    switch (module.CurrentFluid()) {
-        case Fluid::Liquid:
-            if (form.optSgCalc->Value()) {
-                CalcSGf(context);
-            }
-            break;
-        case Fluid::Steam:
-            if (form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
-                return;
-            }
-            break;
-        case Fluid::Gas:
-            break;
+    context.module.MsgText.clear();
+    if (FollowDensity(context)) {
+        DoOrificeCalculations(context);
     }
-    DoOrificeCalculations(context);
 }
 
 void txtPf_Change(const FormContext& context) {

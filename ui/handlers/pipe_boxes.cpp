@@ -63,17 +63,10 @@ void ConnectPipeBoxes(const FormContext& context) {
 }
 
 void LoadcboPipeIDUnit(const FormContext& context) {
-    DropDownList& pipeList = *context.form.cboPipeIDUnit;
     DropDownList& boreList = *context.form.cboOriBoreUnit;
-    const std::string previous = pipeList.Text();
-    pipeList.Clear();
-    context.state.PipeIDUnitTable = kLengthUnits;
-    context.state.OriBoreUnitTable = kLengthUnits;
-    AddUnits(pipeList, kLengthUnits);
-    AddUnits(boreList, kLengthUnits);
-    const int position = PositionOf(kLengthUnits, previous);
-    pipeList.SetListIndex(position);
-    boreList.SetListIndex(position);
+    FillUnits(boreList, context.state.OriBoreUnitTable, kLengthUnits);
+    ReloadUnits(*context.form.cboPipeIDUnit, context.state.PipeIDUnitTable, kLengthUnits);
+    boreList.SetListIndex(context.form.cboPipeIDUnit->ListIndex());
 }
 
 void LoadcboNomSize(const FormContext& context) {

@@ -18,35 +18,18 @@ void ConnectUnitBoxes(const FormContext& context) {
 }
 
 void LoadcboPressUnit(const FormContext& context) {
-    DropDownList& list = *context.form.cboPressUnit;
-    const std::string previous = list.Text();
-    list.Clear();
-    context.state.PressUnitTable = kPressUnits;
-    AddUnits(list, kPressUnits);
-    list.SetListIndex(PositionOf(kPressUnits, previous));
+    ReloadUnits(*context.form.cboPressUnit, context.state.PressUnitTable, kPressUnits);
 }
 
 void LoadcboDeltaPUnit(const FormContext& context) {
-    DropDownList& list = *context.form.cboDeltaPunit;
-    const std::string previous = list.Text();
-    list.Clear();
-    context.state.DeltaPUnitTable = kDeltaPUnits;
-    AddUnits(list, kDeltaPUnits);
-    list.SetListIndex(PositionOf(kDeltaPUnits, previous));
+    ReloadUnits(*context.form.cboDeltaPunit, context.state.DeltaPUnitTable, kDeltaPUnits);
 }
 
 void LoadcboDensityUnit(const FormContext& context) {
-    DropDownList& list = *context.form.cboDensityUnit;
     DropDownList& zfList = *context.form.cboZfDensityUnit;
-    const std::string previous = list.Text();
-    list.Clear();
-    context.state.DensityUnitTable = kDensityUnits;
-    context.state.ZfDensityUnitTable = kDensityUnits;
-    AddUnits(list, kDensityUnits);
-    AddUnits(zfList, kDensityUnits);
-    const int position = PositionOf(kDensityUnits, previous);
-    list.SetListIndex(position);
-    zfList.SetListIndex(position);
+    FillUnits(zfList, context.state.ZfDensityUnitTable, kDensityUnits);
+    ReloadUnits(*context.form.cboDensityUnit, context.state.DensityUnitTable, kDensityUnits);
+    zfList.SetListIndex(context.form.cboDensityUnit->ListIndex());
 }
 
 void cboPressUnit_Click(const FormContext& context) {
@@ -59,22 +42,9 @@ void cboDeltaPunit_Click(const FormContext& context) {
 }
 
 void cboDensityUnit_Click(const FormContext& context) {
-    const MainForm& form = context.form;
-    switch (context.module.CurrentFluid()) {
-        case Fluid::Liquid:
-            if (form.optSgCalc->Value()) {
-                CalcSGf(context);
-            }
-            break;
-        case Fluid::Steam:
-            if (form.optSteamTbl->Value() && !CalcSteamDensity(context)) {
-                return;
-            }
-            break;
-        case Fluid::Gas:
-            break;
+    if (FollowDensity(context)) {
+        CalculateUnlessSuspended(context);
     }
-    CalculateUnlessSuspended(context);
 }
 
 void cboZfDensityUnit_Click(const FormContext& context) {
