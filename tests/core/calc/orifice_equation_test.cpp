@@ -15,8 +15,6 @@ using namespace testing;
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
-TEST(OutcomeTest, TakesNoStepsUnlessTold) {}
-
 TEST(OrificeEquationTest, TheDischargeCoefficientIsASingle) {
     EXPECT_EQ(double{kDischargeCoefficient}, 0.6000000238418579);
 }
