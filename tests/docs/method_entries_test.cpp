@@ -1,9 +1,6 @@
 // What docs/method.md says of entries and messages against the program's checks.
-#include "app/sheet/data_checks.h"
 #include "app/sheet/derived_densities.h"
-#include "app/sheet/solve_sheet.h"
-#include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
+#include "tests/core/app/sheets.h"
 #include "tests/docs/document_figures.h"
 #include "units/flow_units.h"
 #include "units/unit_tables.h"
@@ -57,25 +54,6 @@ InputSheet EmptyGasWith(CompCorrection correction) {
     InputSheet sheet = EmptyGas();
     sheet.compCorrection = correction;
     sheet.zfVisible = true;
-    return sheet;
-}
-
-InputSheet GoodLiquid() {
-    InputSheet sheet = EmptyLiquid();
-    sheet.sgf = "1";
-    sheet.sgb = "1";
-    sheet.deltaP = "100";
-    sheet.beta = "0.5";
-    return sheet;
-}
-
-InputSheet GoodGas() {
-    InputSheet sheet = EmptyGas();
-    sheet.tf = "60";
-    sheet.pf = "100";
-    sheet.gasSGb = "1";
-    sheet.deltaP = "100";
-    sheet.beta = "0.5";
     return sheet;
 }
 
@@ -179,18 +157,18 @@ TEST(MethodEntries, FormsOfANumber) {
 
 // Of the fluid's entries, in the order of the document.
 void MethodMessages::ExpectFluidMessages() {
-    InputSheet sheet = GoodGas();
+    InputSheet sheet = testing::GasSheet();
     ASSERT_EQ(MessageOf(sheet), "");
     sheet.tf = "-";
     sheet.activeField = Field::Tf;
     ExpectNext({{"NAME", "Op. Temperature"}}, MessageOf(sheet));
 
-    sheet = GoodGas();
+    sheet = testing::GasSheet();
     sheet.gasSGb = "0";
     sheet.activeField = Field::GasSGb;
     ExpectNext({{"NAME", "Base Specific Gravity"}}, MessageOf(sheet));
 
-    sheet = GoodGas();
+    sheet = testing::GasSheet();
     sheet.absolutePressure = true;
     sheet.pf = "0";
     sheet.activeField = Field::Pf;
@@ -204,7 +182,7 @@ void MethodMessages::ExpectFluidMessages() {
     ExpectSame(vacuum, MessageOf(sheet));
 
     const Words both{{"NAMES", "Op. Temperature, Op. Pressure"}};
-    sheet = GoodGas();
+    sheet = testing::GasSheet();
     sheet.tf = "";
     sheet.pf = "";
     ExpectNext(both, MessageOf(sheet));
@@ -212,7 +190,7 @@ void MethodMessages::ExpectFluidMessages() {
     sheet.pf = ".";
     ExpectNext(both, MessageOf(sheet));
 
-    sheet = GoodLiquid();
+    sheet = testing::LiquidSheet();
     ASSERT_EQ(MessageOf(sheet), "");
     sheet.sgf = "0";
     sheet.sgb = "-1";
@@ -241,7 +219,7 @@ void MethodMessages::ExpectSteamTableMessages() {
 
 // Of flow rate, differential pressure and beta.
 void MethodMessages::ExpectRunMessages() {
-    InputSheet sheet = GoodLiquid();
+    InputSheet sheet = testing::LiquidSheet();
     sheet.activeField = Field::DeltaP;
     sheet.deltaP = "-";
     ExpectNext({{"NAME", "Differential Pressure"}}, MessageOf(sheet));

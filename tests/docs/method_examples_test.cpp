@@ -1,14 +1,11 @@
 // The worked examples of docs/method.md: every figure against an independent calculation in double
 // precision with the document's own constants, and against the program.
-#include "app/sheet/data_checks.h"
 #include "app/sheet/derived_densities.h"
-#include "app/sheet/solve_sheet.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
 #include "calc/steam_table.h"
-#include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
+#include "tests/core/app/sheets.h"
 #include "tests/docs/document_figures.h"
 #include "units/bore_and_beta.h"
 #include "units/flow_units.h"
@@ -67,45 +64,14 @@ void ExpectFigure(const FigureTable& table, std::string_view symbol, double inde
     }
 }
 
-InputSheet SheetFor(Fluid fluid, SolveFor mode, const FlowUnit& flow, const Unit& time,
-                    const char* diameter) {
-    InputSheet sheet;
-    sheet.fluid = fluid;
-    sheet.mode = mode;
-    sheet.flowUnit = {flow.text, flow.factor};
-    sheet.flowKind = flow.kind;
-    sheet.timeUnit = time;
-    sheet.deltaPUnit = kDeltaPUnits[0];
-    sheet.pressUnit = kPressUnits[0];
-    sheet.densityUnit = kDensityUnits[0];
-    sheet.zfDensityUnit = kDensityUnits[0];
-    sheet.pipeDiameter = diameter;
-    return sheet;
-}
-
-InputSheet LiquidSheet(SolveFor mode) {
-    InputSheet sheet =
-        SheetFor(Fluid::Liquid, mode, FlowUnitsOf(Fluid::Liquid).units[0], kTimeUnits[0], "4.026");
-    sheet.sgf = "1";
-    sheet.sgb = "1";
-    sheet.sgbVisible = true;
-    return sheet;
-}
-
 InputSheet GasSheet(SolveFor mode) {
-    InputSheet sheet =
-        SheetFor(Fluid::Gas, mode, FlowUnitsOf(Fluid::Gas).units[0], kTimeUnits[2], "2.067");
-    sheet.tf = "60";
-    sheet.pf = "100";
-    sheet.gasSGb = "1";
-    sheet.gasSGbVisible = true;
+    InputSheet sheet = testing::GasSheet(mode);
+    sheet.pipeDiameter = "2.067";
     return sheet;
 }
 
 InputSheet SteamSheet(SolveFor mode) {
-    InputSheet sheet =
-        SheetFor(Fluid::Steam, mode, FlowUnitsOf(Fluid::Steam).units[0], kTimeUnits[1], "4.026");
-    sheet.pf = "100";
+    InputSheet sheet = testing::SteamSheet(mode);
     sheet.steamFromTable = true;
     testing::RecordingPlatform platform;
     const Module1 module(platform, testing::kUnitedStates);
@@ -136,11 +102,7 @@ TEST_F(MethodExamples, Liquid) {
     const double q =
         Constant("KL") * VelocityTerm(beta) * beta * beta * d * d * root / t.Number("Gb");
 
-    MeteringRun run;
-    run.solveFor = SolveFor::FlowRate;
-    run.pipeDiameterIn = 4.026F;
-    run.beta = 0.5F;
-    run.diffPressInH2O = 100.0F;
+    const MeteringRun run{SolveFor::FlowRate, 4.026F, 0.0F, 100.0F, 0.5F};
     const Outcome solved = SolveLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
 
     ExpectFigure(t, "Ff", 1, FlowUnitsOf(Fluid::Liquid).units[0].factor / kTimeUnits[0].factor);
@@ -149,9 +111,7 @@ TEST_F(MethodExamples, Liquid) {
     ExpectFigure(t, "√(h Gf)", root);
     ExpectFigure(t, "Q", q, solved.value);
 
-    InputSheet sheet = LiquidSheet(SolveFor::FlowRate);
-    sheet.deltaP = "100";
-    sheet.beta = "0.5";
+    InputSheet sheet = testing::LiquidSheet(SolveFor::FlowRate);
     EXPECT_EQ(t.Text("shown"), Shown(sheet));
 }
 
@@ -167,17 +127,12 @@ TEST_F(MethodExamples, LiquidBack) {
     ExpectFigure(t, "A²", a * a);
     ExpectFigure(t, "β", beta);
 
-    MeteringRun run;
-    run.solveFor = SolveFor::DiffPressure;
-    run.pipeDiameterIn = 4.026F;
-    run.beta = 0.5F;
-    run.flow = 142.3F;
+    const MeteringRun run{SolveFor::DiffPressure, 4.026F, 142.3F, 0.0F, 0.5F};
     const Outcome solved = SolveLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
     ExpectFigure(t, "h", h, solved.value);
 
-    InputSheet sheet = LiquidSheet(SolveFor::Beta);
+    InputSheet sheet = testing::LiquidSheet(SolveFor::Beta);
     sheet.flow = {t.Text("Q"), testing::kUnitedStates};
-    sheet.deltaP = "100";
     const std::string betaText = Shown(sheet);
     EXPECT_EQ(t.Text("β shown"), betaText);
 
@@ -187,9 +142,8 @@ TEST_F(MethodExamples, LiquidBack) {
     ASSERT_TRUE(bore);
     EXPECT_EQ(t.Text("bore shown"), FormatNumber(*bore, 3, testing::kUnitedStates, Grouping::Off));
 
-    sheet = LiquidSheet(SolveFor::DiffPressure);
+    sheet = testing::LiquidSheet(SolveFor::DiffPressure);
     sheet.flow = {t.Text("Q"), testing::kUnitedStates};
-    sheet.beta = "0.5";
     EXPECT_EQ(t.Text("h shown"), Shown(sheet));
 }
 
@@ -205,11 +159,7 @@ TEST_F(MethodExamples, Gas) {
     const double q = Constant("KV") * VelocityTerm(beta) * y * beta * beta * d * d *
                      (tempR / Constant("Pb")) * std::sqrt(radicand);
 
-    MeteringRun run;
-    run.solveFor = SolveFor::FlowRate;
-    run.pipeDiameterIn = 2.067F;
-    run.beta = 0.5F;
-    run.diffPressInH2O = 100.0F;
+    const MeteringRun run{SolveFor::FlowRate, 2.067F, 0.0F, 100.0F, 0.5F};
     const Outcome solved = SolveGas(run, AirExample());
 
     ExpectFigure(t, "P", p, kGasPsia);
@@ -227,8 +177,6 @@ TEST_F(MethodExamples, Gas) {
     ExpectFigure(t, "Q/Ff", q / (60.0 / 1440));
 
     InputSheet sheet = GasSheet(SolveFor::FlowRate);
-    sheet.deltaP = "100";
-    sheet.beta = "0.5";
     EXPECT_EQ(t.Text("shown"), Shown(sheet));
 }
 
@@ -244,14 +192,10 @@ TEST_F(MethodExamples, GasBack) {
 
     InputSheet sheet = GasSheet(SolveFor::DiffPressure);
     sheet.flow = "570361";
-    sheet.beta = "0.5";
     EXPECT_EQ(t.Text("h shown"), Shown(sheet));
 
-    MeteringRun run;
-    run.solveFor = SolveFor::DiffPressure;
-    run.pipeDiameterIn = 2.067F;
-    run.beta = 0.5F;
-    run.flow = 570361.0F * static_cast<float>(60.0 / 1440);
+    const MeteringRun run{SolveFor::DiffPressure, 2.067F,
+                          570361.0F * static_cast<float>(60.0 / 1440), 0.0F, 0.5F};
     const Outcome solved = SolveGas(run, AirExample());
 
     const FigureTable steps = ReadFigures(kMethod, "gas example steps");
@@ -299,11 +243,7 @@ TEST_F(MethodExamples, Steam) {
     const double q = Constant("KM") * VelocityTerm(beta) * y * beta * beta * d * d *
                      std::sqrt(h * t.Number("ρ"));
 
-    MeteringRun run;
-    run.solveFor = SolveFor::FlowRate;
-    run.pipeDiameterIn = 4.026F;
-    run.beta = 0.5F;
-    run.diffPressInH2O = 100.0F;
+    const MeteringRun run{SolveFor::FlowRate, 4.026F, 0.0F, 100.0F, 0.5F};
     const float density = SaturatedSteamDensity(100.0F).density;
     const Outcome solved = SolveSteam(run, {.pressurePsia = kGasPsia, .density = density});
 
@@ -319,8 +259,6 @@ TEST_F(MethodExamples, Steam) {
 
     InputSheet sheet = SteamSheet(SolveFor::FlowRate);
     EXPECT_EQ(t.Text("ρ"), sheet.density.text());
-    sheet.deltaP = "100";
-    sheet.beta = "0.5";
     EXPECT_EQ(t.Text("shown"), Shown(sheet));
 }
 
@@ -332,14 +270,9 @@ TEST_F(MethodExamples, SteamBack) {
 
     InputSheet sheet = SteamSheet(SolveFor::Beta);
     sheet.flow = {t.Text("Q"), testing::kUnitedStates};
-    sheet.deltaP = "100";
     EXPECT_EQ(t.Text("β shown"), Shown(sheet));
 
-    MeteringRun run;
-    run.solveFor = SolveFor::Beta;
-    run.pipeDiameterIn = 4.026F;
-    run.flow = 7000.0F;
-    run.diffPressInH2O = 100.0F;
+    const MeteringRun run{SolveFor::Beta, 4.026F, 7000.0F, 100.0F, 0.0F};
     const Outcome solved = SolveSteam(
         run, {.pressurePsia = kGasPsia, .density = SaturatedSteamDensity(100.0F).density});
 

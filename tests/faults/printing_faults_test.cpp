@@ -200,6 +200,7 @@ TEST_F(PrintingFault, FullDiskLeavesTheOldFile) {
         const FullDisk full;
         Print(name);
     }
+    EXPECT_FALSE(desk_.outcome.reason.isEmpty());
     ExpectFailedAndNothingLost();
     ASSERT_TRUE(old.open(QIODevice::ReadOnly));
     EXPECT_EQ(old.readAll(), "what was printed before");

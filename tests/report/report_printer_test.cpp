@@ -18,11 +18,6 @@
 
 #include <gtest/gtest.h>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
-
 namespace tarvix::testing {
 namespace {
 
@@ -98,43 +93,6 @@ TEST_F(ReportPrinterTest, FileThatCannotBeWrittenIsAFailure) {
     EXPECT_FALSE(outcome.reason.isEmpty());
     EXPECT_EQ(PrintTo(folder_.path()).status, PrintOutcome::Status::Failed);
 }
-
-#ifdef Q_OS_UNIX
-// A disk that is full in the middle of the page, played by a limit on the size of a file.
-class FullDisk {
-  public:
-    FullDisk() {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        rlimit limit = before_;
-        limit.rlim_cur = 4096;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit before_{};
-};
-
-TEST_F(ReportPrinterTest, FullDiskIsAFailureAndLeavesTheOldFile) {
-    QFile old(File());
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("last week's report");
-    old.close();
-    PrintOutcome outcome;
-    {
-        const FullDisk fullDisk;
-        outcome = PrintTo(File());
-    }
-    EXPECT_EQ(outcome.status, PrintOutcome::Status::Failed);
-    EXPECT_FALSE(outcome.reason.isEmpty());
-    ASSERT_TRUE(old.open(QIODevice::ReadOnly));
-    EXPECT_EQ(old.readAll(), "last week's report");
-    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{"page.pdf"});
-}
-#endif
 
 TEST_F(ReportPrinterTest, FailureBoxOfAFileSpeaksOfAFile) {
     QPrinter printer(QPrinter::HighResolution);

@@ -5,9 +5,9 @@
 #include "app/sheet/data_checks.h"
 #include "app/sheet/input_sheet.h"
 #include "app/sheet/solve_sheet.h"
-#include "locales.h"
-#include "named_row.h"
-#include "recording_platform.h"
+#include "tests/core/locales.h"
+#include "tests/core/named_row.h"
+#include "tests/core/recording_platform.h"
 #include "units/flow_units.h"
 
 #include <gtest/gtest.h>
