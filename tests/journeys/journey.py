@@ -20,13 +20,17 @@ class Journey(unittest.TestCase):
     def set_up(cls, stack):
         """Sets up what the journey needs beside the desk; what ends it goes on the stack."""
 
-    def start(self, **environment):
-        """Starts the program and waits for its window."""
+    def launch(self, **environment):
+        """Starts the program."""
         import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
         # No printer of the machine. The desk keeps an environment, so each run names its own locale.
-        self.program = program.Program(self.desk, self.program_file, CUPS_SERVER="127.0.0.1:1",
-                                       **{"LC_ALL": "C.UTF-8", **environment})
+        settings = {"CUPS_SERVER": "127.0.0.1:1", "LC_ALL": "C.UTF-8", **environment}
+        self.program = program.Program(self.desk, self.program_file, **settings)
         self.addCleanup(self.end_program)
+
+    def start(self, **environment):
+        """Starts the program and waits for its window."""
+        self.launch(**environment)
         self.program.wait_for_main_window()
 
     def end_program(self):
@@ -40,13 +44,16 @@ class Journey(unittest.TestCase):
         wait_until(option, lambda: self.program.option(option).checked)
 
 
-def run(journey, description):
-    """Runs the tests of a class of journeys by the command line: the program and, where wanted, the
-    names of tests. Returns the exit status: SKIPPED where something can't be set up."""
-    if len(sys.argv) < 2:
+def run(journey, description, *further):
+    """Runs the tests of a class of journeys by the command line: the program, what else the class
+    wants to be told under these names, and the names of tests, if not of all. Returns the exit
+    status: SKIPPED where something can't be set up."""
+    wanted = ("program_file", *further)
+    if len(sys.argv) <= len(wanted):
         print(description, file=sys.stderr)
         return 2
-    journey.program_file = os.path.abspath(sys.argv.pop(1))
+    for name in wanted:
+        setattr(journey, name, os.path.abspath(sys.argv.pop(1)))
     with tempfile.TemporaryDirectory(prefix="journey-") as folder, contextlib.ExitStack() as stack:
         try:
             journey.desk = desks.Desk(folder)

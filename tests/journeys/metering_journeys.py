@@ -12,21 +12,12 @@ exit status 77: skipped.
 The expected results are worked out beside each run.
 """
 
-import os
-import pathlib
 import re
 import sys
-import tempfile
-import unittest
 
-import desk as desks
+import journey as journeys
+import printing
 from desk import wait_until
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "report"))
-import print_journey  # noqa: E402  (the print system of the report's own journey)
-
-SKIPPED = 77
-PRINT_SETTINGS = ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")
 
 MODES = {
     "Calculate Flow Rate": "Flow Rate",
@@ -34,34 +25,21 @@ MODES = {
     "Calculate Beta Ratio": "Bore size",
 }
 
-program_file = ""
-pictures = pathlib.Path()
+class MeteringJourneys(printing.PrintingJourney):
+    @classmethod
+    def set_up(cls, stack):
+        super().set_up(stack)
+        cls.system.add_printer(cls.printer.port)
 
-
-class MeteringJourneys(unittest.TestCase):
-    desk = None
-    system = None
-    printer = None
-
-    def start(self):
-        import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
-        self.printer.pages.clear()
-        self.program = program.Program(
-            self.desk, program_file,
-            **{name: self.system.environment[name] for name in PRINT_SETTINGS})
-        self.addCleanup(self.end_program)
+    def start(self, **environment):
+        self.launch(**environment)
         self.program.wait_for_splash()
         self.take_picture("splash")
         self.program.wait_for_main_window()
         self.assertEqual(self.program.find_all("image", "Veltrane"), [], "the splash is gone")
 
-    def end_program(self):
-        if self.program.process.poll() is None:
-            self.program.process.kill()
-            self.program.process.wait()
-
     def take_picture(self, name):
-        self.desk.take_picture(pictures / f"{self.id().split('.')[-1]}-{name}.png")
+        self.desk.take_picture(self.pictures / f"{self.id().split('.')[-1]}-{name}.png")
 
     # ---- Hands ----
 
@@ -127,7 +105,7 @@ class MeteringJourneys(unittest.TestCase):
         wait_until(f"page {number} in the printer; the print system says: {self.system.log()}",
                    lambda: len(self.printer.pages) >= number)
         data = self.printer.pages[number - 1]
-        file = pictures / f"{self.id().split('.')[-1]}-{MODES[mode].replace(' ', '_')}.pdf"
+        file = self.pictures / f"{self.id().split('.')[-1]}-{MODES[mode].replace(' ', '_')}.pdf"
         file.write_bytes(data[data.index(b"%PDF"):])
         page = self.system.run("pdftotext", "-layout", str(file), "-")
         self.assertIn(f"Orifice calculation for {MODES[mode]} - Flange Taps - {fluid}\n", page)
@@ -295,40 +273,5 @@ class MeteringJourneys(unittest.TestCase):
         self.assertEqual(self.program.wait_for_end(), 0)
 
 
-def main():
-    global program_file, pictures
-    if len(sys.argv) != 3:
-        print(__doc__, file=sys.stderr)
-        return 2
-    program_file = os.path.abspath(sys.argv[1])
-    pictures = pathlib.Path(sys.argv[2])
-    pictures.mkdir(parents=True, exist_ok=True)
-    journeys = MeteringJourneys
-    with tempfile.TemporaryDirectory(prefix="metering-") as folder, \
-            tempfile.TemporaryDirectory(prefix="metering-print-") as print_folder:
-        try:
-            journeys.desk = desks.Desk(folder)
-        except desks.CannotRun as reason:
-            print(f"SKIPPED: the metering journeys: {reason}")
-            return SKIPPED
-        try:
-            journeys.system = print_journey.PrintSystem(print_folder)
-        except print_journey.CannotRun as reason:
-            print(f"SKIPPED: the metering journeys: {reason}")
-            journeys.desk.stop()
-            return SKIPPED
-        journeys.printer = print_journey.NetworkPrinter()
-        journeys.system.add_printer(journeys.printer.port)
-        os.environ.update(journeys.desk.environment)
-        try:
-            result = unittest.main(argv=sys.argv[:1], exit=False, verbosity=2,
-                                   warnings="ignore").result
-        finally:
-            journeys.desk.stop()
-            journeys.system.stop()
-            journeys.printer.close()
-    return 0 if result.wasSuccessful() else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(journeys.run(MeteringJourneys, __doc__, "pictures"))

@@ -10,21 +10,13 @@ up, the journey says so and ends with exit status 77: skipped.
 """
 
 import itertools
-import os
 import pathlib
 import re
 import sys
-import tempfile
-import unittest
 
-import desk as desks
+import journey as journeys
+import printing
 from desk import wait_until
-
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "report"))
-import print_journey  # noqa: E402  (the print system of the report's own journey)
-
-SKIPPED = 77
-PRINT_SETTINGS = ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")
 
 # Queue, its settings, the size of the sheet in points, and the part of its size at which the page is
 # printed: 72 characters of 12 points, 518.5 points, have to fit into 0.88 of the width. (Executive:
@@ -61,12 +53,9 @@ LINES = (
     r"\d\d [A-Z][a-z][a-z] 20\d\d +Web site: www\.brindle\.example",
 )
 
-program_file = ""
-pictures = pathlib.Path()
-
 
 def description_with_more_papers(folder):
-    text = pathlib.Path(print_journey.DESCRIPTION).read_text(encoding="utf-8")
+    text = pathlib.Path(printing.print_journey.DESCRIPTION).read_text(encoding="utf-8")
     for key, name, width, height in MORE_PAPERS:
         for option, value in (("PageSize", ""), ("PageRegion", ""),
                               ("ImageableArea", f"0 0 {width} {height}"),
@@ -79,25 +68,10 @@ def description_with_more_papers(folder):
     return file
 
 
-class PaperJourney(unittest.TestCase):
-    desk = None
-    system = None
-    printer = None
-
+class PaperJourney(printing.PrintingJourney):
     def setUp(self):
-        import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
-        self.printer.pages.clear()
-        self.program = program.Program(
-            self.desk, program_file,
-            **{name: self.system.environment[name] for name in PRINT_SETTINGS})
-        self.addCleanup(self.end_program)
-        self.program.wait_for_main_window()
+        self.start()
         self.calculate()
-
-    def end_program(self):
-        if self.program.process.poll() is None:
-            self.program.process.kill()
-            self.program.process.wait()
 
     def calculate(self):
         self.program.option("Liquid").act("Press")
@@ -184,7 +158,7 @@ class PaperJourney(unittest.TestCase):
                 data = self.printer.pages[number - 1]
                 self.assertIn(b'JOB NAME = "Orifice calculation FE-4102-B"',
                               data[:data.index(b"%PDF")])
-                file = pictures / f"{name}.pdf"
+                file = self.pictures / f"{name}.pdf"
                 file.write_bytes(data[data.index(b"%PDF"):])
                 self.expect_page(file, "Orifice calculation FE-4102-B", sheet, scale)
         for name, *_ in PAPERS:
@@ -210,39 +184,5 @@ class PaperJourney(unittest.TestCase):
         return fields[0] if fields else None
 
 
-def main():
-    global program_file, pictures
-    if len(sys.argv) != 3:
-        print(__doc__, file=sys.stderr)
-        return 2
-    program_file = os.path.abspath(sys.argv[1])
-    pictures = pathlib.Path(sys.argv[2])
-    pictures.mkdir(parents=True, exist_ok=True)
-    journey = PaperJourney
-    with tempfile.TemporaryDirectory(prefix="paper-") as folder, \
-            tempfile.TemporaryDirectory(prefix="paper-print-") as print_folder:
-        try:
-            journey.desk = desks.Desk(folder)
-        except desks.CannotRun as reason:
-            print(f"SKIPPED: the paper journey: {reason}")
-            return SKIPPED
-        try:
-            journey.system = print_journey.PrintSystem(print_folder)
-        except print_journey.CannotRun as reason:
-            print(f"SKIPPED: the paper journey: {reason}")
-            journey.desk.stop()
-            return SKIPPED
-        journey.printer = print_journey.NetworkPrinter()
-        os.environ.update(journey.desk.environment)
-        try:
-            result = unittest.main(argv=sys.argv[:1], exit=False, verbosity=2,
-                                   warnings="ignore").result
-        finally:
-            journey.desk.stop()
-            journey.system.stop()
-            journey.printer.close()
-    return 0 if result.wasSuccessful() else 1
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(journeys.run(PaperJourney, __doc__, "pictures"))

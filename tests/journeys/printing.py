@@ -1,0 +1,40 @@
+"""Journeys that print: on a desk with a print system of its own and a printer on its network."""
+
+import pathlib
+import sys
+import tempfile
+
+import journey as journeys
+from desk import CannotRun
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "report"))
+import print_journey  # noqa: E402  (the print system of the report's own journey)
+
+PRINT_SETTINGS = ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")
+
+
+class PrintingJourney(journeys.Journey):
+    """Printed pages and pictures are left in the folder `pictures`. The print system has no queue
+    yet."""
+
+    system = None
+    printer = None
+    pictures = ""
+
+    @classmethod
+    def set_up(cls, stack):
+        cls.pictures = pathlib.Path(cls.pictures)
+        cls.pictures.mkdir(parents=True, exist_ok=True)
+        folder = stack.enter_context(tempfile.TemporaryDirectory(prefix="journey-print-"))
+        try:
+            cls.system = print_journey.PrintSystem(folder)
+        except print_journey.CannotRun as reason:
+            raise CannotRun(str(reason)) from reason
+        stack.callback(cls.system.stop)
+        cls.printer = print_journey.NetworkPrinter()
+        stack.callback(cls.printer.close)
+
+    def launch(self, **environment):
+        self.printer.pages.clear()
+        settings = {name: self.system.environment[name] for name in PRINT_SETTINGS}
+        super().launch(**settings, **environment)
