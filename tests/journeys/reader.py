@@ -24,12 +24,14 @@ DefaultModule dummy
 """
 
 # As a user has it, but for the keys: what Orca says of them comes from the keyboard, not from the
-# program. No braille, no sounds, and it does not give up where a busy machine makes it wait. Each
-# line of the log is written when it is there.
+# program. No braille, no sounds, and it does not give up where a busy machine makes it wait. The log
+# leaves out what takes Orca long to ask for, and each line of it is written when it is there.
 SETTINGS = """\
 import orca.debug
 import orca.settings
 orca.debug.debugFile.reconfigure(line_buffering=True)
+orca.debug.debugLevel = orca.debug.LEVEL_INFO
+orca.debug.eventDebugLevel = orca.debug.LEVEL_ALL
 orca.settings.enableKeyEcho = False
 orca.settings.enableBraille = False
 orca.settings.enableSound = False
