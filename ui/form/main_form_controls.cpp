@@ -130,7 +130,8 @@ void MainForm::BuildDensity(QWidget* tab) {
 }
 
 void MainForm::BuildTemperatureAndPressure(QWidget* tab) {
-    fraTemp = AddFrame(tab, "fraTemp", "Temperature", {kTabLeft, kSlot1, kTabWidth, kTwoRowFrame});
+    fraTemp =
+        AddFrame(tab, "fraTemp", "Temperature", {kTabLeft, kSlot1, kPressWidthGas, kTwoRowFrame});
     lblTf = AddLabel(fraTemp, "lblTf", "Operating Temperature", {kColumnA, kRow1, 2400, kRow});
     txtTf = AddField(fraTemp, "txtTf", {kColumnA, kRow2, kField, kRow});
     optDegF = AddOption(fraTemp, "optDegF", "Deg F", {kColumnB, kRow2, 840, kRow});
@@ -144,7 +145,9 @@ void MainForm::BuildTemperatureAndPressure(QWidget* tab) {
     optPgauge = AddOption(fraPress, "optPgauge", "Gauge", {kColumnC + 90, kRow2, 900, kRow});
     optPabsolute = AddOption(fraPress, "optPabsolute", "Absolute", {4650, kRow2, 1080, kRow});
 
-    fraGasSG = AddFrame(tab, "fraGasSG", "Specific Gravity", {6840, kSlot2, 2340, kTwoRowFrame});
+    // The right column, beside the two frames of the operating conditions.
+    fraGasSG = AddFrame(tab, "fraGasSG", "Specific Gravity",
+                        {6840, kSlot1, 2340, kSlot2 - kSlot1 + kTwoRowFrame});
     lblGasSGb = AddLabel(fraGasSG, "lblGasSGb", "Base", {kColumnA, kRow1, kField, kRow});
     txtGasSGb = AddField(fraGasSG, "txtGasSGb", {kColumnA, kRow2, kField, kRow});
 }
@@ -187,9 +190,9 @@ void MainForm::BuildPipeAndFlow() {
     txtMaskNomSize = new CoverField(fraPipe);
     Register(txtMaskNomSize, "txtMaskNomSize", ControlKind::TextBox, kNominalSizePlace);
     lblPipeID = AddLabel(fraPipe, "lblPipeID", "Pipe ID", {2580, kRow1, 600, kRow});
-    cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4380, kRow});
+    cboPipeID = AddList(fraPipe, "cboPipeID", {3240, kRow1, 4170, kRow});
     cboPipeID->AskRoomFor(LongestScheduleText());
-    cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7710, kRow1, 1530, kRow});
+    cboPipeIDUnit = AddList(fraPipe, "cboPipeIDUnit", {7500, kRow1, 1740, kRow});
     AskRoomForUnits(*cboPipeIDUnit, kLengthUnits);
 
     constexpr int kTop = 5580;
