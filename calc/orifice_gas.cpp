@@ -116,6 +116,7 @@ Outcome GasBeta(const MeteringRun& run, const GasProperties& gas) {
     const float t = BetaTarget(run, gas);
     const auto requiredSquare = [t](float ye, float beta) { return t / (ye * beta * beta); };
     const auto outOfRange = [](float beta, int /*step*/) -> std::optional<Outcome> {
+        // The search itself may pass kMaxBeta, which the message names, and come back.
         if (beta >= 1) {
             return Outcome::Message(kBetaTooLarge);
         }

@@ -89,13 +89,21 @@ make_installer() {
         { cat "$out/nsis.log" >&2; fail "the installer could not be made."; }
 }
 
-# The project's files as they are here, without what git ignores.
+# The project's files as they are here, without what git ignores; all of them where there is no git, as
+# in what this very archive was unpacked to.
+project_files() {
+    if git -C "$root" rev-parse --is-inside-work-tree >/dev/null 2>&1; then
+        git -C "$root" ls-files -z --cached --others --exclude-standard
+    else
+        (cd "$root" && find . -path ./build -prune -o -type f -print0)
+    fi
+}
+
 make_source_archive() {
     local copy=$out/tarvix-$version
     rm -rf "$copy"
     mkdir -p "$copy"
-    (cd "$root" && git ls-files -z --cached --others --exclude-standard | tar -c --null -T - \
-        --ignore-failed-read 2>/dev/null) | tar -x -C "$copy"
+    project_files | tar -c -C "$root" --null -T - --ignore-failed-read 2>/dev/null | tar -x -C "$copy"
     chmod -R u=rwX,go=rX "$copy"
     zip_folder "$out/tarvix-$version-source.zip" "$out" "tarvix-$version"
     rm -rf "$copy"
