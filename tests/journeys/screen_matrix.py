@@ -32,6 +32,41 @@ RUN = ("click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
        "choose cboNomSize 4", "type txtDeltaP 100", "type txtBeta 0.5")
 
 
+class Places:
+    """What the X server tells about the places of windows, from now on."""
+
+    EVENT = re.compile(r"(Configure|Map)Notify event.*?event 0x\w+, window (0x\w+)"
+                       r"(?:, \((-?\d+),(-?\d+)\), width (\d+), height (\d+))?", re.S)
+
+    def __init__(self, desk):
+        self.log = pathlib.Path(desk.folder) / f"places.log"
+        with open(self.log, "wb") as output:
+            self.process = subprocess.Popen(
+                ["stdbuf", "-oL", "xev", "-root", "-event", "substructure", "-event", "property"],
+                env=desk.environment, stdin=subprocess.DEVNULL, stdout=output,
+                stderr=subprocess.DEVNULL)
+        desks.wait_until("the events of the X server", lambda: self.hears(desk))
+
+    def hears(self, desk):
+        subprocess.run(["xprop", "-root", "-f", "_HEARD", "8s", "-set", "_HEARD", "yes"],
+                       env=desk.environment, check=True)
+        return "PropertyNotify" in self.log.read_text()
+
+    def jumps(self):
+        """The places that a window took when it could be seen already."""
+        self.process.terminate()
+        self.process.wait(desks.PATIENCE)
+        places, seen, jumps = {}, set(), []
+        for kind, window, *place in self.EVENT.findall(self.log.read_text()):
+            if kind == "Map":
+                seen.add(window)
+            elif place != places.get(window):
+                if window in seen:
+                    jumps.append(f"{places.get(window)} to {place}")
+                places[window] = place
+        return jumps if seen else ["no window was seen"]
+
+
 class Window:
     """The running window."""
 
@@ -107,12 +142,14 @@ def faults_of(measured, frame, screen, scale):
 
 def check(desk, file, screen, scale, dpi, picture):
     """The faults of one window."""
+    places = Places(desk)
     window = Window(desk, file, scale, dpi)
     try:
         window.ask("measure")  # answered when it is on the screen
         frame = window.frame()
         measured = window.ask("measure")
         faults = faults_of(measured, frame, screen, scale)
+        faults += [f"jumps: {jump}" for jump in places.jumps()]
         tour = window.ask("tour")
         if tour["visited"] < 15:
             faults.append(f"the tour met {tour['visited']} controls")
