@@ -64,6 +64,39 @@ def fits(desk, program, width, height):
           message.y + message.height <= bottom)
 
 
+    keeps_a_size(desk, program)
+
+
+def keeps_a_size(desk, program):
+    """There is no button to maximize, what else would do it changes nothing, and the window made as
+    small as can be still shows a frame and the message line."""
+    window = desk.xdotool("getactivewindow").strip()
+    whole = window_frame(desk)
+    hints = ask(desk, "xprop", "-id", window, "-notype", "_MOTIF_WM_HINTS").split("=")[1]
+    _, functions, decorations, *_ = (int(word, 16) for word in hints.split(","))
+    check("a button to minimize and none to maximize",
+          functions & 0x18 == 0x08 and decorations & 0x60 == 0x20)
+    left, top, right, _ = whole
+    desk.xdotool("mousemove", (left + right) // 2, top + 8, "click", "--repeat", 2, 1)
+    wait_until("after a double click the window is where it was and as it was",
+               lambda: window_frame(desk) == whole and "MAXIMIZED" not in ask(
+                   desk, "xprop", "-id", window, "-notype", "_NET_WM_STATE"))
+    desk.xdotool("windowsize", window, 1, 1)
+    wait_until("the window is smaller", lambda: window_frame(desk) != whole)
+    wait_until("it scrolls", lambda: len(scroll_bars(program)) == 2)
+    left, top, right, bottom = window_frame(desk)
+    print(f"smallest: {right - left} x {bottom - top}")
+
+    def is_inside(control):
+        place = control.place
+        return (left <= place.x and place.x + place.width <= right
+                and top <= place.y and place.y + place.height <= bottom)
+    check("the message line is in the smallest window",
+          is_inside(max(program.find_all("alert"), key=lambda alert: alert.place.y)))
+    check("and a whole frame", any(
+        panel.name and is_inside(panel) for panel in program.find_all("panel")))
+
+
 def scrolls(desk, program, width, height):
     left, top, right, bottom = window_frame(desk)
     print(f"window {left}, {top} to {right}, {bottom} on {width} x {height}")
