@@ -68,13 +68,13 @@ def fits(desk, program, width, height):
 
 
 def keeps_a_size(desk, program):
-    """There is no button to maximize, what else would do it changes nothing, and the window made as
-    small as can be still shows a frame and the message line."""
+    """No button to maximize is asked for; where the window manager maximizes all the same, that changes
+    nothing. Made as small as can be, the window still shows a frame and the message line."""
     window = desk.xdotool("getactivewindow").strip()
     whole = window_frame(desk)
     hints = ask(desk, "xprop", "-id", window, "-notype", "_MOTIF_WM_HINTS").split("=")[1]
     _, functions, decorations, *_ = (int(word, 16) for word in hints.split(","))
-    check("a button to minimize and none to maximize",
+    check("it asks for a button to minimize and for none to maximize",
           functions & 0x18 == 0x08 and decorations & 0x60 == 0x20)
     left, top, right, _ = whole
     desk.xdotool("mousemove", (left + right) // 2, top + 8, "click", "--repeat", 2, 1)
