@@ -105,18 +105,21 @@ def scrolls(desk, program, width, height):
     check("there is one scroll bar", len(scroll_bars(program)) == 1)
     field = program.field("Beta Ratio")
     check("the last field is out of sight", field.place.y > bottom)
+    focused = program.focused()
     for _ in range(30):
-        focused = program.focused()
         if focused.name == "Exit":
             break
         desk.press("Tab")
-        wait_until(f"the focus leaves {focused.name}",
-                   lambda name=focused.name: (program.focused() or focused).name != name)
-        place = program.focused().place
-        check(f"{program.focused().name} is seen when it has the focus",
+
+        def other(former=focused.name):
+            control = program.focused()
+            return control if control and control.name != former else None
+        focused = wait_until(f"the focus leaves {focused.name}", other)
+        place = focused.place
+        check(f"{focused.name} is seen when it has the focus",
               top <= place.y and place.y + place.height <= bottom and left <= place.x
               and place.x + place.width <= right)
-    check("the Tab key has led through the whole window", program.focused().name == "Exit")
+    check("the Tab key has led through the whole window", focused.name == "Exit")
 
 
 def main():
