@@ -99,7 +99,7 @@ build_qt() {
 
 # Whoever hands on a program with this Qt hands on its source as well.
 keep_sources() {
-    mkdir "$1/kept-source"
+    mkdir -p "$1/kept-source"
     mv "$1"/qt6-base_* "$1/kept-source/"
     mv -T "$1/kept-source" "$2/source"
 }
@@ -114,16 +114,26 @@ fi
 
 host_cmake=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake
 mkdir -p "$cache"
-work=$(mktemp -d "$cache/building-qt.XXXXXX")
-trap 'rm -rf "$work"' EXIT
-use_compiler_cache
-export CMAKE_C_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER:-}
-say "Fetching the sources of Qt $version"
-fetch_sources "$work" "$version"
+# One at a time; what is interrupted or fails goes on from where it was.
+exec 9>"$kept.lock"
+flock 9
+if [ -d "$kept/source" ]; then
+    say "$kept"
+    exit 0
+fi
+work=$kept.building
+if [ ! -f "$work/fetched" ] && [ ! -d "$kept" ]; then
+    say "Fetching the sources of Qt $version"
+    rm -rf "$work"
+    mkdir "$work"
+    fetch_sources "$work" "$version"
+    touch "$work/fetched"
+fi
 # In single steps, so that a folder of this name always holds a whole Qt, and its sources a whole one.
 if [ ! -d "$kept" ]; then
     build_qt "$work"
     mv -T "$work/stage$neutral_prefix" "$kept"
 fi
 keep_sources "$work" "$kept"
+rm -rf "$work" "$kept.lock"
 say "$kept"
