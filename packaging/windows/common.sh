@@ -19,7 +19,7 @@ configure_windows() {
     cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
         "-DCMAKE_TOOLCHAIN_FILE=$windows_folder/toolchain.cmake" \
         "-DCMAKE_CXX_FLAGS=$map" "-DCMAKE_EXE_LINKER_FLAGS=$windows_link_flags" \
-        -DTARVIX_WERROR=ON -DTARVIX_BUILD_BENCH=OFF \
+        -DTARVIX_WERROR=ON -DTARVIX_BUILD_BENCH=OFF -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
         -DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST "$@" >"$build/configure.log" 2>&1 ||
         { tail -n 40 "$build/configure.log" >&2; fail "CMake could not configure for Windows."; }
 }
