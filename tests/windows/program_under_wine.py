@@ -151,12 +151,16 @@ class Journey(WindowsCase):
         self.desk.wine.set_locale(locale)
         main_window = self.start_to_main_window()
         self.desk.press_all(rehearsal.keys)
+        result = rehearsal.text("txtFlow")
+        wait_until(f"the result {result}", lambda: self.desk.copy() == result)
         self.picture(f"{fluid}-{locale}")
         file = self.print_page(main_window)
         shutil.copy(file, pictures / f"{fluid}-{locale}.pdf")
         text = subprocess.run(["pdftotext", "-layout", str(file), "-"], capture_output=True,
                               encoding="utf-8", check=True).stdout
-        printed = [words(line) for line in text.replace("\f", "").splitlines() if line.strip()]
+        # Wine's fonts have one shape for the hyphen and the soft one, and call it the latter.
+        printed = [words(line) for line in text.replace("\f", "").replace("\u00ad", "-").splitlines()
+                   if line.strip()]
         # The month's name is the system's own.
         self.assertEqual([DATE.sub("DATE", line) for line in printed],
                          [DATE.sub("DATE", line) for line in expected])
@@ -221,9 +225,12 @@ class Surroundings(WindowsCase):
         wait_until("a dialog", lambda: self.desk.desk.xdotool("getactivewindow") not in
                    (main_window, customer_window, ""))
         self.picture("no-printer")
-        self.desk.desk.press("Escape")
-        wait_until("the main window again",
-                   lambda: self.desk.desk.xdotool("getactivewindow") == main_window)
+
+        def back():
+            # As long as it fills itself, the dialog hears no key.
+            self.desk.desk.press("Escape")
+            return self.desk.desk.xdotool("getactivewindow") == main_window
+        wait_until("the main window again", back)
         self.leave()
 
 

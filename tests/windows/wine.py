@@ -100,7 +100,9 @@ class Wine:
                  "LC_ALL")
         file = self.folder / f"{pathlib.Path(program).stem}-{locale}"
         exports = "\n".join(f"export {name}='{settings[name]}'" for name in names)
+        # Wine keeps the variables of this machine's Qt from Windows programs, unless it is told so.
         file.write_text(f"#!/bin/sh\n{exports}\nunset DISPLAY\n"
+                        'export WINEQT_QPA_PLATFORM="$QT_QPA_PLATFORM"\n'
                         f"exec '{self.tool('wine')}' '{os.path.abspath(program)}' \"$@\"\n")
         file.chmod(0o755)
         return str(file)
