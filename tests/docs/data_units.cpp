@@ -1,8 +1,8 @@
 // The unit factors against the physical definitions.
 //   unit LIST TEXT FACTOR PLAIN DIFFERENCE ON FLOW    PLAIN: worked out from the definitions, in
-//                                                     the factor's unit; the differences in percent,
-//                                                     that of the flow for an entry in this unit
-//                                                     (of a flow unit: of the flow shown)
+//                                                     the factor's unit; the differences in
+//                                                     percent, that of the flow for an entry in
+//                                                     this unit (of a flow unit: of the flow shown)
 //   pipe SIZE SCHEDULE TABLE PLAIN DIFFERENCE         inside diameter, inches
 // The definitions, from which the column `exact` of tests/data/units.tsv is worked out: inch and
 // pound exact, standard gravity, conventional mercury (13595.1 kg/m3), water of 20 deg C (998.2063
