@@ -7,6 +7,7 @@ import pathlib
 import re
 import subprocess
 import sys
+import time
 
 TESTS = pathlib.Path(__file__).resolve().parent.parent
 sys.path[:0] = [str(TESTS / "journeys"), str(TESTS / "report")]
@@ -93,6 +94,13 @@ class WindowsDesk:
         return wait_until("the program copies", look).replace("\r", "")
 
     # Pages.
+
+    def page_comes(self, seconds):
+        """Whether a page comes to the printer in this time."""
+        end = time.monotonic() + seconds
+        while not self.printer.pages and time.monotonic() < end:
+            time.sleep(0.1)
+        return bool(self.printer.pages)
 
     def next_page(self):
         """The file of the page that comes next to the printer."""
