@@ -145,6 +145,7 @@ class Journey(WindowsCase):
         return self.desk.next_page()
 
     def ask_for_page(self, main_window):
+        self.desk.printer.pages.clear()
         self.desk.desk.press("ctrl+p")
         customer_window = self.desk.wait_for_window(other_than=main_window)
         for number, line in enumerate(CUSTOMER):
