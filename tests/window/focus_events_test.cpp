@@ -32,8 +32,8 @@ class FocusEventsTest : public ::testing::Test {
 
     MainForm& form() { return player_.form(); }
 
-    StatePlayer player_;
     std::vector<bool> told_;
+    StatePlayer player_;  // tells of what happens to its fields until it has gone
 };
 
 TEST_F(FocusEventsTest, TheCaretOfAFieldThatWasNeverVisitedIsNotTold) {
