@@ -10,7 +10,8 @@ inline constexpr int kSlot1 = 360;
 inline constexpr int kSlot2 = 1320;
 inline constexpr int kSlot3 = 2280;
 
-// Beside the gas's specific gravity the pressure has less room.
+// Beside the gas's specific gravity the pressure has less room, and the temperature above it as
+// much.
 inline constexpr int kPressWidthGas = 6555;
 
 // The label of the compressibility field, for a density and for Zf.
