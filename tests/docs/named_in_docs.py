@@ -1,19 +1,23 @@
 #!/usr/bin/env python3
-"""What the program says and where its limits lie stands in the documents, and the messages that the
-documents list are the program's: a new message or limit that nobody describes is a fault.
+"""What the program says and where its limits lie stands in the documents, and what the documents
+say of messages and limits is the program's, so that neither changes without the other.
 
 Messages are the texts of the calculator and of the window's handlers that read as sentences; a
-message put together from pieces is looked for piece by piece. Limits are named constants of the
-calculator. Units are compared row by row in method_tables_test.cpp.
+message put together from pieces is looked for piece by piece. Limits are the named constants of the
+calculator; limit_phrases.py tells the words in which the documents name each. The words must be
+there, with the program's number wherever they stand; and where the documents list limits, no number
+stands beside such words. Units are compared row by row in method_tables_test.cpp.
 """
 
 import re
+import struct
 import sys
 from pathlib import Path
 
+from limit_phrases import LIMIT_LISTS, NO_LIMITS, PHRASES
+
 ROOT = Path(__file__).resolve().parents[2]
-MESSAGE_FOLDERS = ("app/dispatch", "app/shared", "app/sheet", "calc", "ui/handlers", "units")
-LIMIT_FOLDERS = ("app/sheet", "calc")
+FOLDERS = ("app/dispatch", "app/shared", "app/sheet", "calc", "numbers", "ui/handlers", "units")
 DOCUMENTS = ("README.md", "docs/method.md", "docs/accuracy.md", "packaging/linux/tarvix.1")
 
 # Internal errors, which no user meets, and the box that shows them.
@@ -22,15 +26,18 @@ INTERNAL = (
     "Mass or Volumetric flow type not specified.", "No variable to calculate has been selected.",
     "Orifice flow type not specified.", "Orifice type not specified", "Temperature conversion unit",
     "Unrecognized pipe ID unit", "not recognized.", "not found.",
+    "intermediate results must have the precision of their type",
 )
 # Schedules of pipes, which are a table; it is compared with its copy in tests/data.
 SCHEDULE = re.compile(r"(Sch|STD|XS)\b")
 # The line ends, tabs and numbers of the product's boxes are its own matter.
 SENTENCE = re.compile(r"[A-Za-z].* .* |[a-z]\.$|^[A-Z].*:")
 
+NUMBER = r"\d[\d,]*(?:\.\d+)?"
 
-def sources(folders):
-    return [path for folder in folders for path in sorted((ROOT / folder).glob("*.[ch]*"))
+
+def sources():
+    return [path for folder in FOLDERS for path in sorted((ROOT / folder).glob("*.[ch]*"))
             if path.suffix in (".cpp", ".h")]
 
 
@@ -48,38 +55,91 @@ def literals(path):
 
 
 def messages():
-    return {(text, path.relative_to(ROOT).as_posix()) for path in sources(MESSAGE_FOLDERS)
+    return {(text, path.relative_to(ROOT).as_posix()) for path in sources()
             for text in literals(path)
             if SENTENCE.search(text) and not SCHEDULE.match(text)
             and not any(internal in text for internal in INTERNAL)}
 
 
-def limits():
-    """Named constants: the number as documents write it, the name, the file."""
-    for path in sources(LIMIT_FOLDERS):
-        for name, number in re.findall(
-                r"constexpr (?:float|double|int) (k\w+) = (-?[\d.']+(?:e-?\d+)?)F?;",
-                path.read_text()):
-            yield name, number.replace("'", ""), path.relative_to(ROOT).as_posix()
-
-
-def main():
-    text = plain(" ".join((ROOT / name).read_text() for name in DOCUMENTS))
-    numbers = {float(number.replace(",", "")) for number in
-               re.findall(r"(?<![\w.])-?\d[\d,]*(?:\.\d+)?(?!\w)", text)}
+def message_faults(text, method):
     faults = [f"{path}: no document names the message \"{message}\""
               for message, path in sorted(messages()) if plain(message) not in text]
-    faults += [f"{path}: no document names the limit {name}, {number}"
-               for name, number, path in limits()
-               if not name.startswith(("kMessage", "kData")) and float(number) not in numbers]
-    said = " ".join(text for path in sources(MESSAGE_FOLDERS) for text in literals(path))
-    listed = re.search(r"<!-- figures: messages -->\n(.*?)\n\n",
-                       (ROOT / "docs/method.md").read_text(), re.S).group(1)
+    said = " ".join(text for path in sources() for text in literals(path))
+    listed = re.search(r"<!-- figures: messages -->\n(.*?)\n\n", method, re.S).group(1)
     for message in re.findall(r"^\| `(.*?)` \|", listed, re.M):
         # NAME, LIMIT and the like stand for what the program puts there.
         for piece in re.split(r"\b[A-Z]{4,}\b|The Operating Density \[.*?\]", message):
             if len(piece.strip()) > 3 and piece.strip() not in said:
                 faults.append(f"docs/method.md: the program does not say \"{piece.strip()}\"")
+    return faults
+
+
+def limits():
+    """The named constants: name, type, value."""
+    for path in sources():
+        yield from ((name, kind, float(number.replace("'", ""))) for kind, name, number in
+                    re.findall(r"constexpr (float|double|int) (k\w+) = (-?[\d.']+(?:e-?\d+)?)F?;",
+                               path.read_text()) if name not in NO_LIMITS)
+    rows = re.findall(r"\{(\d+), [\d.]+F?\}", (ROOT / "calc/steam_table.cpp").read_text())
+    yield "the steam table's last row", "int", float(rows[-1])
+    yield "the steam table's rows", "int", float(len(rows))
+
+
+def same(number, kind, value):
+    """A single may also be written as what becomes of it, 1,000,000,000 for 999999999.0F."""
+    return number == value or kind == "float" and number == struct.unpack(
+        "f", struct.pack("f", value))[0]
+
+
+def limit_faults(text, method):
+    faults, named = [], []
+    known = set()
+    for name, kind, value in limits():
+        known.add(name)
+        for phrase in PHRASES.get(name, ()):
+            found = list(re.finditer(phrase.replace("#", f"({NUMBER})(?![\\d%])"), text))
+            named += [match.group() for match in found]
+            if not found:
+                faults.append(f"{name}: no document says \"{phrase}\"")
+            faults += [f"{name} is {value:.12g}, and a document says \"{match.group()}\""
+                       for match in found
+                       if not same(float(match.group(1).replace(",", "")), kind, value)]
+        if name not in PHRASES:
+            faults.append(f"{name}, {value:.12g}: limit_phrases.py does not tell who names it")
+    faults += [f"limit_phrases.py: the program has no {name}"
+               for name in (PHRASES.keys() | NO_LIMITS) - known
+               if name in PHRASES or not any(name in path.read_text() for path in sources())]
+    for start, end in LIMIT_LISTS:
+        place = plain(re.search(re.escape(start) + r"(.*?)" + end, method, re.S).group(1))
+        for phrase in sorted(named, key=len, reverse=True):
+            place = place.replace(phrase, "")
+        faults += [f"docs/method.md, {start}: no limit of the program is {number}"
+                   for number in re.findall(rf"(?<![\w.-]){NUMBER}(?!\w)", place)
+                   if float(number.replace(",", "")) not in (0, 1)]
+    return faults
+
+
+def pairs(pattern, text):
+    return {tuple(float(number) for number in pair) for pair in re.findall(pattern, text)}
+
+
+def scale_faults(text):
+    """The bands in which an iteration ends, and the decimals of a result by its size."""
+    code = "".join(path.read_text() for path in sources())
+    scale = re.search(r"kResultScale\[\] = \{(.*?)\};", code, re.S).group(1)
+    compared = (
+        ("bands", pairs(r"\bs\}? > (0\.9+)F? && (?:double\{)?s\}? < (1\.0+1)F?", code),
+         pairs(r"(0\.9+) < s < (1\.0+1)", text)),
+        ("decimals", pairs(r"\{([\d.]+)F, (\d)\}", scale),
+         pairs(r"\| ([\d.]+) (?:and more|to below [\d.]+) \| (\d) \|", text)))
+    return [f"the {what} of the program are {sorted(program)}, of the documents {sorted(documents)}"
+            for what, program, documents in compared if program != documents]
+
+
+def main():
+    method = (ROOT / "docs/method.md").read_text()
+    text = plain(" ".join((ROOT / name).read_text() for name in DOCUMENTS))
+    faults = message_faults(text, method) + limit_faults(text, method) + scale_faults(text)
     print("\n".join(faults) or f"{len(messages())} messages and {len(list(limits()))} limits are "
           "named")
     return 1 if faults else 0
