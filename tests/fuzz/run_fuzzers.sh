@@ -4,12 +4,14 @@
 # run_fuzzers.sh [SECONDS [NAME...]]     60 seconds each without; NAME as in fuzz_NAME.cpp
 # run_fuzzers.sh keep                    adds to the corpus what the runs have found beside it
 #
-# TARVIX_FUZZ_BUILD is the build folder (build/fuzz without), TARVIX_FUZZ_JOBS how many run at once
-# (2 without). A fuzzer that finds a fault leaves its input below the build folder in faults/ and
-# the script ends with status 1.
+# TARVIX_FUZZ_BUILD is the build folder (build/fuzz without), TARVIX_FUZZ_FOUND where inputs that reach
+# something new are kept for the next run (found/ in the build folder without), TARVIX_FUZZ_JOBS how
+# many run at once (2 without). A fuzzer that finds a fault leaves its input below the build folder in
+# faults/ and the script ends with status 1.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 build=${TARVIX_FUZZ_BUILD:-build/fuzz}
+found_inputs=${TARVIX_FUZZ_FOUND:-$build/found}
 jobs=${TARVIX_FUZZ_JOBS:-2}
 corpus=tests/fuzz/corpus
 clang=$(command -v clang++-14 || command -v clang++)
@@ -40,7 +42,7 @@ pack() {
 
 run_one() {
     local name=$1 seconds=$2
-    local kept=$build/kept/$name found=$build/found/$name log=$build/$name.log
+    local kept=$build/kept/$name found=$found_inputs/$name log=$build/$name.log
     rm -rf "$kept"
     unpack "$name" "$kept"
     mkdir -p "$found" "$build/faults"
@@ -66,9 +68,9 @@ if [ "${1:-}" = keep ]; then
         smallest=$build/smallest/$name
         rm -rf "$smallest" "$build/kept/$name"
         unpack "$name" "$build/kept/$name"
-        mkdir -p "$smallest" "$build/found/$name"
+        mkdir -p "$smallest" "$found_inputs/$name"
         "$build/bin/fuzz_$name" -merge=1 -max_len=512 "$smallest" "$build/kept/$name" \
-            "$build/found/$name" >"$build/$name.merge.log" 2>&1
+            "$found_inputs/$name" >"$build/$name.merge.log" 2>&1
         pack "$name" "$smallest"
         printf '%-13s %s inputs\n' "$name" "$(wc -l <"$corpus/$name.hex")"
     done
