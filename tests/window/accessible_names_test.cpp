@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QCoreApplication>
+#include <QTabBar>
 
 #include <gtest/gtest.h>
 #include <map>
@@ -89,6 +90,52 @@ TEST_F(AccessibleNamesTest, NoTwoControlsOfAFrameThatCanBeUsedShareAName) {
             }
         }
     }
+}
+
+TEST_F(AccessibleNamesTest, WhatKeepsItsNameHasThisOne) {
+    const std::map<std::string, std::string> names = {
+        {"imgBrindleLogo", "Brindle"},
+        {"tabOrifice", "Measurement Orifice"},
+        {"cboFlowUnit", "Flow Rate unit"},
+        {"cboTimeUnit", "Flow Rate per time"},
+        {"cboDeltaPunit", "Differential Pressure unit"},
+        {"cboPressUnit", "Operating Pressure unit"},
+        {"cboDensityUnit", "Operating Density unit"},
+        {"cboZfDensityUnit", "Compressibility Correction, Operating Density unit"},
+        {"cboPipeID", "Pipe ID and schedule"},
+        {"cboPipeIDUnit", "Pipe ID unit"},
+        {"cboOriBoreUnit", "Orifice Bore Diameter unit"},
+        {"fraSteam1", "Steam"},
+        {"fraSteam2", "Source of the density"},
+        {"txtMaskNomSize", "No Nominal Size, the pipe is user entered"},
+        {"optCalcBeta", "Calculate Beta Ratio"},
+        {"optCalcDP", "Calculate Differential Pressure"},
+        {"optCalcFR", "Calculate Flow Rate"},
+        {"optLiquid", "Liquid"},
+        {"optGas", "Air - Gas"},
+        {"optSteam", "Steam"},
+        {"optSgCalc", "Calculated (from density)"},
+        {"optSgUser", "User Entered"},
+        {"optSuperheated", "Superheated"},
+        {"optSaturated", "Saturated"},
+        {"optSteamTbl", "From ASME Table (Op.Press. based)"},
+        {"optSteamUser", "User Entered"},
+        {"optDegF", "Deg F"},
+        {"optDegC", "Deg C"},
+        {"optPgauge", "Gauge"},
+        {"optPabsolute", "Absolute"},
+        {"optCompCorrNone", "None"},
+        {"optCompDensity", "Density"},
+        {"optCompZf", "Zf"},
+    };
+    for (const auto& [control, name] : names) {
+        const NamedControl* found = form().Find(QString::fromStdString(control));
+        ASSERT_NE(found, nullptr) << control;
+        EXPECT_EQ(found->widget->accessibleName().toStdString(), name) << control;
+    }
+    EXPECT_EQ(form().tabOrifice->tabBar()->accessibleName(), "Measurement Orifice");
+    EXPECT_EQ(form().cmdPrint->accessibleDescription(), "Prints the calculation report");
+    EXPECT_EQ(form().cmdExit->accessibleDescription(), "Ends the program");
 }
 
 TEST_F(AccessibleNamesTest, AnOptionDoesNotRepeatItsFrame) {
