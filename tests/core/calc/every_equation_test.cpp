@@ -1,13 +1,10 @@
 // What the equations of liquid, gas and steam have in common: runs there and back, what gives
 // nothing, a beta of 1 or more.
-#include "calc/gas_runs.h"
-#include "calc/orifice_liquid.h"
-#include "calc/orifice_steam.h"
+#include "calc/equations.h"
 #include "named_row.h"
 #include "outcomes.h"
 
 #include <cmath>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace tarvix {
@@ -15,24 +12,6 @@ namespace tarvix {
 namespace {
 
 using namespace testing;
-
-// An equation with its fluid's properties.
-using Equation = std::function<Outcome(const MeteringRun& run)>;
-
-Equation Liquid(float flowingSG, float baseSG) {
-    return [=](const MeteringRun& run) { return SolveLiquid(run, {flowingSG, baseSG}); };
-}
-
-Equation Gas(FlowKind kind, CompCorrection correction, float pressure, float temperature,
-             float gravity, float density, float zf) {
-    const GasProperties gas{kind,    correction, pressure, 14.7F, temperature,
-                            519.67F, gravity,    density,  zf};
-    return [gas](const MeteringRun& run) { return SolveGas(run, gas); };
-}
-
-Equation Steam(float pressure, float density) {
-    return [=](const MeteringRun& run) { return SolveSteam(run, {pressure, density}); };
-}
 
 struct RunRow : NamedRow {
     Equation solve;
@@ -138,8 +117,7 @@ TEST(EquationsTest, AreBrokenByNoPressure) {
     int values = 0;
     for (const float pressure : kOdd) {
         for (const Equation& equation :
-             {Gas(kVolume, kNone, pressure, 519.67F, 1.0F, 0.0F, 0.0F),
-              Gas(kMass, kNone, pressure, 519.67F, 1.0F, 0.0F, 0.0F), Steam(pressure, 0.3F)}) {
+             {Air(kVolume, pressure), Air(kMass, pressure), Steam(pressure, 0.3F)}) {
             values += ValuesOfOddRuns(equation, 2.067F);
         }
     }

@@ -19,6 +19,11 @@ TEST(OrificeEquationTest, TheDischargeCoefficientIsASingle) {
     EXPECT_EQ(double{kDischargeCoefficient}, 0.6000000238418579);
 }
 
+TEST(OrificeEquationTest, TheMassDivisorIsTheDensityOfAirAtBaseConditions) {
+    EXPECT_EQ(kBaseAirDensityNumerator, 39.6619322);
+    EXPECT_EQ(kBaseAirDensityDenominator, 519.67);
+}
+
 TEST(OrificeEquationTest, Messages) {
     EXPECT_EQ(kBetaTooLarge,
               "Flow rate is out of range (beta > 0.95)."
