@@ -6,7 +6,6 @@
 #include "app/sheet/input_sheet.h"
 #include "app/sheet/solve_sheet.h"
 #include "tests/core/locales.h"
-#include "tests/core/named_row.h"
 #include "tests/core/recording_platform.h"
 #include "units/flow_units.h"
 
@@ -99,12 +98,6 @@ inline CalculationResult Solved(const InputSheet& sheet, Module1& module) {
     return CalculateResult(sheet, module.working, module);
 }
 
-// A row of a table of spoiled sheets: what is changed, and what the check says ("": good).
-struct SheetRow : NamedRow {
-    void (*change)(InputSheet& sheet);
-    std::string message;
-};
-
 class SheetTest : public ::testing::Test {
   protected:
     // Runs a check; its result and message must fit together.
@@ -122,7 +115,5 @@ class SheetTest : public ::testing::Test {
     RecordingPlatform platform;
     Module1 module{platform, kUnitedStates};
 };
-
-class SheetRowTest : public SheetTest, public ::testing::WithParamInterface<SheetRow> {};
 
 }  // namespace tarvix::testing
