@@ -1,13 +1,5 @@
 // The lower half of the page: notes and footer.
-#include "report/page/report_page.h"
-#include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
-#include "tests/report/page_rows.h"
-#include "tests/report/sample_sheets.h"
-
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
+#include "tests/report/report_page_fixture.h"
 
 namespace tarvix::testing {
 namespace {
@@ -18,14 +10,10 @@ constexpr double kHeight8 = 181.25;
 constexpr double kNotesTop = 8000;
 constexpr double kFooterTop = kNotesTop + 19 * kHeight10;
 
-ReportPage PageOf(const ReportSheet& sheet) {
-    RecordingPlatform platform;
-    Module1 module(platform, kUnitedStates);
-    FillCustomer(module);
-    return ComposeReport(sheet, module);
-}
+using ReportNotesTest = ReportPageTest;
+using ReportFooterTest = ReportPageTest;
 
-TEST(ReportNotesTest, TextsAndPlaces) {
+TEST_F(ReportNotesTest, TextsAndPlaces) {
     struct Note {
         int row;
         std::string text;
@@ -48,7 +36,7 @@ TEST(ReportNotesTest, TextsAndPlaces) {
         {16, "      pressure, or flow rate, please consult your Brindle representative for"},
         {17, "      assistance"},
     };
-    const std::vector<ReportLine> lines = LinesFrom(PageOf(LiquidSheet()), kNotesTop);
+    const std::vector<ReportLine> lines = LinesFrom(Page(LiquidSheet()), kNotesTop);
     ASSERT_GT(lines.size(), expected.size());
     EXPECT_GE(lines[expected.size()].yTwips, kFooterTop) << "the lines between are empty";
     for (std::size_t i = 0; i < expected.size(); ++i) {
@@ -61,9 +49,9 @@ TEST(ReportNotesTest, TextsAndPlaces) {
     }
 }
 
-TEST(ReportNotesTest, SameHeightWhateverStandsAbove) {
+TEST_F(ReportNotesTest, SameHeightWhateverStandsAbove) {
     for (const ReportSheet& sheet : {LiquidSheet(), GasSheet(), SteamSheet(), FullestSheet()}) {
-        const std::vector<ReportLine> lines = LinesFrom(PageOf(sheet), kNotesTop - 1);
+        const std::vector<ReportLine> lines = LinesFrom(Page(sheet), kNotesTop - 1);
         EXPECT_EQ(lines.front().text,
                   "Note: Values for the beta ratio are approximate, typically within");
         EXPECT_EQ(lines.front().yTwips, 8000);
@@ -77,7 +65,7 @@ struct Piece {
     int column;
 };
 
-TEST(ReportFooterTest, FourColumnsOnFourLines) {
+TEST_F(ReportFooterTest, FourColumnsOnFourLines) {
     const std::vector<Piece> expected{
         {1,
          "Brindle Headquarters        Port Alder, TX              Kestrel Bay, CA             "
@@ -92,7 +80,7 @@ TEST(ReportFooterTest, FourColumnsOnFourLines) {
          false, 0},
         {4, "Fax  (555) 555-0101", false, 0},
     };
-    const std::vector<ReportLine> lines = LinesFrom(PageOf(GasSheet()), kFooterTop);
+    const std::vector<ReportLine> lines = LinesFrom(Page(GasSheet()), kFooterTop);
     ASSERT_EQ(lines.size(), expected.size() + 1);
     for (std::size_t i = 0; i < expected.size(); ++i) {
         EXPECT_EQ(lines[i].text, expected[i].text);
@@ -105,8 +93,8 @@ TEST(ReportFooterTest, FourColumnsOnFourLines) {
     }
 }
 
-TEST(ReportFooterTest, DateAndWebSite) {
-    const ReportLine last = PageOf(GasSheet()).lines.back();
+TEST_F(ReportFooterTest, DateAndWebSite) {
+    const ReportLine last = Page(GasSheet()).lines.back();
     EXPECT_TRUE(last.text.starts_with("05 Mar 2024 ")) << last.text;
     const std::string webSite = last.text.substr(std::string("05 Mar 2024").size());
     const std::string reference = "Web site: www.brindle.example";
@@ -123,8 +111,8 @@ TEST(ReportFooterTest, DateAndWebSite) {
     EXPECT_NEAR(last.yTwips, kFooterTop + 7 * kHeight8, 0.01);
 }
 
-TEST(ReportFooterTest, EndsAboveTheBottomMarginOfLetter) {
-    const ReportLine last = PageOf(FullestSheet()).lines.back();
+TEST_F(ReportFooterTest, EndsAboveTheBottomMarginOfLetter) {
+    const ReportLine last = Page(FullestSheet()).lines.back();
     // 11 inches, less 4.5% at the top and at the bottom.
     EXPECT_LE(last.yTwips + kHeight10, 15840 * 0.91);
 }

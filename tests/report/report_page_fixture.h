@@ -21,14 +21,6 @@ class ReportPageTest : public ::testing::Test {
 
     ReportPage Page(const ReportSheet& sheet) { return ComposeReport(sheet, module_); }
     Rows RowsOf(const ReportSheet& sheet) { return UpperRows(Page(sheet)); }
-    std::string RowOf(const ReportSheet& sheet, const std::string& label) {
-        for (const std::string& row : RowsOf(sheet)) {
-            if (row.starts_with(label)) {
-                return row;
-            }
-        }
-        return "no row " + label;
-    }
     void ExpectFatal(const ReportSheet& sheet, const std::string& cause) {
         try {
             Page(sheet);

@@ -1,20 +1,54 @@
-// The upper half of the page: title, customer, values.
+// The upper half of the page: title, customer, values, warnings.
+#include "tests/core/named_row.h"
 #include "tests/report/report_page_fixture.h"
+
+#include <algorithm>
 
 namespace tarvix::testing {
 namespace {
 
-TEST_F(ReportPageTest, LiquidFromTopToBottom) {
-    const Rows expected{
-        "",
-        "",
-        "",
-        "Orifice calculation for Bore size - Flange Taps - Liquid",
-        "",
-        "Customer: Northfield Refinery",
-        "          Unit 4, Crude Distillation",
-        "     Tag: FE-4102",
-        "",
+// What follows the last line of the upper half in the tables below.
+const std::string kEnd = "(the notes)";
+
+struct PageRow : NamedRow {
+    ReportSheet (*sheet)();
+    void (*change)(ReportSheet& sheet, Module1& module);
+    Rows expected;  // they follow each other on the page
+};
+
+class ReportPageRow : public ReportPageTest, public ::testing::WithParamInterface<PageRow> {};
+
+TEST_P(ReportPageRow, StandsOnThePage) {
+    const auto& row = GetParam();
+    ReportSheet sheet = row.sheet();
+    row.change(sheet, module_);
+    Rows rows = RowsOf(sheet);
+    rows.push_back(kEnd);
+    EXPECT_NE(std::search(rows.begin(), rows.end(), row.expected.begin(), row.expected.end()),
+              rows.end())
+        << ::testing::PrintToString(row.expected) << " in " << ::testing::PrintToString(rows);
+}
+
+Rows FromTheTop(const char* fluid, const Rows& values) {
+    Rows rows{"",
+              "",
+              "",
+              std::string("Orifice calculation for Bore size - Flange Taps - ") + fluid,
+              "",
+              "Customer: Northfield Refinery",
+              "          Unit 4, Crude Distillation",
+              "     Tag: FE-4102",
+              ""};
+    rows.insert(rows.end(), values.begin(), values.end());
+    rows.push_back(kEnd);
+    return rows;
+}
+
+void Unchanged(ReportSheet& /*sheet*/, Module1& /*module*/) {}
+
+// clang-format off
+const PageRow kWholePages[] = {
+    {"Liquid", LiquidSheet, Unchanged, FromTheTop("Liquid", {
         "Flow Rate                       1,234.50 Gallons/Minute",
         "Differential Pressure             100.00 Inches Water",
         "Base Specific Gravity               1.00",
@@ -22,22 +56,8 @@ TEST_F(ReportPageTest, LiquidFromTopToBottom) {
         "",
         "Pipe Diameter                      2.067 Inches",
         "Bore Diameter (approximate)        1.098 Inches",
-        "Beta (approximate)               0.53123",
-    };
-    EXPECT_EQ(RowsOf(LiquidSheet()), expected);
-}
-
-TEST_F(ReportPageTest, GasFromTopToBottom) {
-    const Rows expected{
-        "",
-        "",
-        "",
-        "Orifice calculation for Bore size - Flange Taps - Gas",
-        "",
-        "Customer: Northfield Refinery",
-        "          Unit 4, Crude Distillation",
-        "     Tag: FE-4102",
-        "",
+        "Beta (approximate)               0.53123"})},
+    {"Gas", GasSheet, Unchanged, FromTheTop("Gas", {
         "Flow Rate                      25,000.00 Standard Cubic Feet/Day",
         "Differential Pressure              50.25 Inches Water",
         "Operating Temperature            (20.00) Deg F",
@@ -48,22 +68,8 @@ TEST_F(ReportPageTest, GasFromTopToBottom) {
         "",
         "Pipe Diameter                      2.067 Inches",
         "Bore Diameter (approximate)        0.517 Inches",
-        "Beta (approximate)               0.25000",
-    };
-    EXPECT_EQ(RowsOf(GasSheet()), expected);
-}
-
-TEST_F(ReportPageTest, SteamFromTopToBottom) {
-    const Rows expected{
-        "",
-        "",
-        "",
-        "Orifice calculation for Bore size - Flange Taps - Steam",
-        "",
-        "Customer: Northfield Refinery",
-        "          Unit 4, Crude Distillation",
-        "     Tag: FE-4102",
-        "",
+        "Beta (approximate)               0.25000"})},
+    {"Steam", SteamSheet, Unchanged, FromTheTop("Steam", {
         "Flow Rate                       5,000.00 Pounds/Hour",
         "Differential Pressure             100.00 Inches Water",
         "Operating Density                  0.257 lb/cubic foot",
@@ -72,198 +78,150 @@ TEST_F(ReportPageTest, SteamFromTopToBottom) {
         "",
         "Pipe Diameter                      2.067 Inches",
         "Bore Diameter (approximate)        1.240 Inches",
-        "Beta (approximate)               0.60000",
-    };
-    EXPECT_EQ(RowsOf(SteamSheet()), expected);
-}
+        "Beta (approximate)               0.60000"})},
+};
 
-TEST_F(ReportPageTest, TitleNamesWhatWasCalculated) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.mode = SolveFor::FlowRate;
-    EXPECT_EQ(RowsOf(sheet).at(3), "Orifice calculation for Flow Rate - Flange Taps - Liquid");
-    sheet.inputs.mode = SolveFor::DiffPressure;
-    EXPECT_EQ(RowsOf(sheet).at(3),
-              "Orifice calculation for Pressure Differential - Flange Taps - Liquid");
-    sheet = SteamSheet();
-    sheet.inputs.mode = SolveFor::FlowRate;
-    EXPECT_EQ(RowsOf(sheet).at(3), "Orifice calculation for Flow Rate - Flange Taps - Steam");
-    sheet = GasSheet();
-    sheet.inputs.mode = SolveFor::DiffPressure;
-    EXPECT_EQ(RowsOf(sheet).at(3),
-              "Orifice calculation for Pressure Differential - Flange Taps - Gas");
-}
+const PageRow kTitles[] = {
+    {"LiquidFlowRate", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::FlowRate; },
+     {"Orifice calculation for Flow Rate - Flange Taps - Liquid"}},
+    {"LiquidDiffPressure", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::DiffPressure; },
+     {"Orifice calculation for Pressure Differential - Flange Taps - Liquid"}},
+    {"SteamFlowRate", SteamSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::FlowRate; },
+     {"Orifice calculation for Flow Rate - Flange Taps - Steam"}},
+    {"GasDiffPressure", GasSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::DiffPressure; },
+     {"Orifice calculation for Pressure Differential - Flange Taps - Gas"}},
+    // Bore and beta are called approximate in every mode.
+    {"SolvedFlowRate", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::FlowRate; },
+     {"Bore Diameter (approximate)        1.098 Inches", "Beta (approximate)               0.53123"}},
+    {"SolvedDiffPressure", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::DiffPressure; },
+     {"Bore Diameter (approximate)        1.098 Inches", "Beta (approximate)               0.53123"}},
+};
 
-TEST_F(ReportPageTest, BoreAndBetaAreApproximateInEveryMode) {
-    for (const SolveFor mode : {SolveFor::Beta, SolveFor::DiffPressure, SolveFor::FlowRate}) {
-        ReportSheet sheet = LiquidSheet();
-        sheet.inputs.mode = mode;
-        EXPECT_TRUE(HasRow(Page(sheet), "Bore Diameter (approximate)        1.098 Inches"));
-        EXPECT_TRUE(HasRow(Page(sheet), "Beta (approximate)               0.53123"));
-    }
-}
+const PageRow kCustomers[] = {
+    // A second line that is empty, or of blanks, takes no row.
+    {"EmptySecondLine", LiquidSheet, [](ReportSheet&, Module1& m) { m.CustLine2 = ""; },
+     {"Customer: Northfield Refinery", "     Tag: FE-4102", "", "Flow Rate                       1,234.50 Gallons/Minute"}},
+    {"SecondLineOfBlanks", LiquidSheet, [](ReportSheet&, Module1& m) { m.CustLine2 = "    "; },
+     {"Customer: Northfield Refinery", "     Tag: FE-4102"}},
+    {"PastedBlanks", LiquidSheet, [](ReportSheet&, Module1& m) { m.CustLine2 = "\r\n \t"; },
+     {"Customer: Northfield Refinery", "     Tag: FE-4102"}},
+    {"BlanksAroundSecondLine", LiquidSheet, [](ReportSheet&, Module1& m) { m.CustLine2 = "  Unit 4 "; },
+     {"Customer: Northfield Refinery", "            Unit 4 ", "     Tag: FE-4102"}},
+    {"NobodyAndNoTag", LiquidSheet, [](ReportSheet&, Module1& m) { m.CustLine1 = m.CustLine2 = m.TagText = ""; },
+     {"Customer: ", "     Tag: ", ""}},
+    {"PastedLineBreaks", LiquidSheet,
+     [](ReportSheet&, Module1& m) { m.CustLine1 = "Northfield\r\nRefinery\nUnit\t4"; m.TagText = "FE\u20284102"; },
+     {"Customer: Northfield Refinery Unit 4", "          Unit 4, Crude Distillation", "     Tag: FE 4102"}},
+};
 
-TEST_F(ReportPageTest, NoModeSelectedIsFatal) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.mode.reset();
-    ExpectFatal(sheet, "Calculation type not selected");
-}
+const PageRow kValues[] = {
+    {"SaturatedFromTheTable", SteamSheet, [](ReportSheet& s, Module1&) { s.inputs.steamFromTable = true; },
+     {"                                         (Saturated - from ASME table)"}},
+    {"Superheated", SteamSheet, [](ReportSheet& s, Module1&) { s.saturated = false; },
+     {"                                         (Superheated)"}},
+    {"SuperheatedNotFromTheTable", SteamSheet,
+     [](ReportSheet& s, Module1&) { s.saturated = false; s.inputs.steamFromTable = true; },
+     {"                                         (Superheated)"}},
+    {"CelsiusAndKilopascal", GasSheet,
+     [](ReportSheet& s, Module1&) {
+         s.inputs.degC = true; s.inputs.absolutePressure = true; s.inputs.pressUnit = {"kPa", 0.1450378F}; },
+     {"Operating Temperature            (20.00) Deg C", "Operating Pressure                150.00 kPa (absolute)"}},
+    {"AbsoluteSteam", SteamSheet, [](ReportSheet& s, Module1&) { s.inputs.absolutePressure = true; },
+     {"Operating Pressure                100.00 PSI (absolute)"}},
+    {"HiddenGasGravity", GasSheet, [](ReportSheet& s, Module1&) { s.inputs.gasSGbVisible = false; },
+     {"Operating Pressure                150.00 PSI (gauge)", "Compressibility Factor:"}},
+    {"EnteredZf", GasSheet,
+     [](ReportSheet& s, Module1&) { s.inputs.compCorrection = CompCorrection::Zf; s.inputs.zf = "0.95"; },
+     {"Compressibility Factor:", "     Zf                          0.95000", ""}},
+    {"EnteredGasDensity", GasSheet,
+     [](ReportSheet& s, Module1&) {
+         s.inputs.compCorrection = CompCorrection::Density; s.inputs.zf = "1.2345";
+         s.inputs.zfDensityUnit = {"kg/cubic meter", 0.06242798F}; },
+     {"Compressibility Factor:", "     Operating Density             1.235 kg/cubic meter", ""}},
+    {"GravityFromDensity", LiquidSheet,
+     [](ReportSheet& s, Module1&) { s.inputs.sgCalculated = true; s.inputs.density = "61.5"; },
+     {"Flowing Specific Gravity            0.99 (Calculated from Density)",
+      "Operating Density                 61.500 lb/cubic foot", ""}},
+    {"TypedGravityBesideADensity", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.density = "61.5"; },
+     {"Flowing Specific Gravity            0.99", ""}},
+    {"MillimeterPipe", LiquidSheet,
+     [](ReportSheet& s, Module1&) {
+         s.pipeIdUnit = "Millimeters"; s.pipeIdText = "2.067\"  (52.50 mm)  Sch 40, STD, Sch 40S"; },
+     {"Pipe Diameter                      52.50 Millimeters"}},
+    {"CentimeterPipe", LiquidSheet,
+     [](ReportSheet& s, Module1&) {
+         s.pipeIdUnit = "Centimeters"; s.pipeIdText = "2.067\"  (5.25 cm)  Sch 40, STD, Sch 40S"; },
+     {"Pipe Diameter                       5.25 Centimeters"}},
+    {"MetricPipeWithoutMetricText", LiquidSheet, [](ReportSheet& s, Module1&) { s.pipeIdUnit = "Millimeters"; },
+     {"Pipe Diameter                            Millimeters"}},
+    {"EnteredPipe", LiquidSheet,
+     [](ReportSheet& s, Module1&) { s.inputs.pipeDiameter = "3.250"; s.pipeIdText = "3.250\" (User Entered)"; },
+     {"Pipe Diameter (User Entered)       3.250 Inches"}},
+    {"EnteredMetricPipe", LiquidSheet,
+     [](ReportSheet& s, Module1&) {
+         s.inputs.pipeDiameter = "3.250"; s.pipeIdUnit = "Millimeters";
+         s.pipeIdText = "3.250\"  (82.55 mm)   (User Entered)"; },
+     {"Pipe Diameter (User Entered)       82.55 Millimeters"}},
+    {"EmptyFlow", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.flow = ""; },
+     {"Flow Rate                                Gallons/Minute"}},
+    {"BetaThatIsNoNumber", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.beta = "abc"; },
+     {"Beta (approximate)                      "}},
+    {"UnitThatEndsInABlank", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.flowUnit = {"Cubic Meters ", 264.172F}; },
+     {"Flow Rate                       1,234.50 Cubic Meters /Minute"}},
+    {"MoreDigitsThanASingleHolds", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.flow = "123456789.12"; },
+     {"Flow Rate                 123,456,789.12 Gallons/Minute"}},
+    {"HalfAwayFromZero", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.deltaP = "0.005"; },
+     {"Differential Pressure               0.01 Inches Water"}},
+    {"ZeroWithoutSign", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.deltaP = "-0.001"; },
+     {"Differential Pressure               0.00 Inches Water"}},
+    // 24 characters, 45 with the label.
+    {"TooLongForItsColumn", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.deltaP = "1e15"; },
+     {"Differential Pressure 1,000,000,000,000,000.00 Inches Water"}},
+};
 
-TEST_F(ReportPageTest, UnknownPipeUnitIsFatal) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.pipeIdUnit = "Feet";
-    ExpectFatal(sheet, "Unrecognized pipe ID unit for 'User Entered' pipe ID");
-}
+const PageRow kWarnings[] = {
+    {"Message", LiquidSheet,
+     [](ReportSheet& s, Module1&) { s.message = "Warning: Beta value exceeds standard range (0.15 to 0.67)."; },
+     {"Beta (approximate)               0.53123", "",
+      "Warning: Beta value exceeds standard range (0.15 to 0.67).", kEnd}},
+    {"Plate", LiquidSheet,
+     [](ReportSheet& s, Module1&) {
+         s.plateWarning = true; s.plateWarning1 = "Orifice plate deflection"; s.plateWarning2 = "should be checked."; },
+     {"Beta (approximate)               0.53123", "",
+      "Warning: Orifice plate deflection should be checked.", kEnd}},
+    {"Compressibility", GasSheet, [](ReportSheet& s, Module1&) { s.zfCompWarning = CompressibilityWarning::May; },
+     {"Beta (approximate)               0.25000",
+      "",
+      "  **************************************************************",
+      "  * WARNING: A compressibility correction factor has not been  *",
+      "  *          entered.  At this pressure, no compressibility    *",
+      "  *          correction may result in erroneous computations.  *",
+      "  **************************************************************",
+      kEnd}},
+    {"CompressibilityOfSteam", SteamSheet, [](ReportSheet& s, Module1&) { s.zfCompWarning = CompressibilityWarning::Will; },
+     {"Beta (approximate)               0.60000", kEnd}},
+    {"CompressibilityOfALiquid", LiquidSheet, [](ReportSheet& s, Module1&) { s.zfCompWarning = CompressibilityWarning::Will; },
+     {"Beta (approximate)               0.53123", kEnd}},
+    {"AllTogether", FullestSheet, Unchanged,
+     {"Beta (approximate)               0.25000",
+      "",
+      "Warning: Beta value exceeds standard range (0.15 to 0.67).",
+      "Warning: Orifice plate deflection should be checked.",
+      "",
+      "  **************************************************************",
+      "  * WARNING: A compressibility correction factor has not been  *",
+      "  *          entered.  At this pressure, no compressibility    *",
+      "  *          correction will result in erroneous computations. *",
+      "  **************************************************************",
+      kEnd}},
+};
+// clang-format on
 
-TEST_F(ReportPageTest, SecondCustomerLineThatIsEmptyTakesNoRow) {
-    module_.CustLine2 = "";
-    const Rows rows = RowsOf(LiquidSheet());
-    EXPECT_EQ(rows.at(5), "Customer: Northfield Refinery");
-    EXPECT_EQ(rows.at(6), "     Tag: FE-4102");
-    EXPECT_EQ(rows.at(7), "");
-    EXPECT_EQ(rows.at(8), "Flow Rate                       1,234.50 Gallons/Minute");
-}
-
-TEST_F(ReportPageTest, SecondCustomerLineOfBlanksTakesNoRow) {
-    module_.CustLine2 = "    ";
-    EXPECT_EQ(RowsOf(LiquidSheet()).at(6), "     Tag: FE-4102");
-    module_.CustLine2 = "\r\n \t";  // pasted
-    EXPECT_EQ(RowsOf(LiquidSheet()).at(6), "     Tag: FE-4102");
-}
-
-TEST_F(ReportPageTest, SecondCustomerLineKeepsItsOwnBlanks) {
-    module_.CustLine2 = "  Unit 4 ";
-    EXPECT_EQ(RowsOf(LiquidSheet()).at(6), "            Unit 4 ");
-}
-
-TEST_F(ReportPageTest, EmptyCustomerAndTagKeepTheirLabels) {
-    module_.CustLine1 = "";
-    module_.CustLine2 = "";
-    module_.TagText = "";
-    const Rows rows = RowsOf(LiquidSheet());
-    EXPECT_EQ(rows.at(5), "Customer: ");
-    EXPECT_EQ(rows.at(6), "     Tag: ");
-}
-
-TEST_F(ReportPageTest, PastedLineBreaksBecomeBlanks) {
-    module_.CustLine1 = "Northfield\r\nRefinery\nUnit\t4";
-    module_.TagText = "FE\u20284102";
-    const Rows rows = RowsOf(LiquidSheet());
-    EXPECT_EQ(rows.at(5), "Customer: Northfield Refinery Unit 4");
-    EXPECT_EQ(rows.at(7), "     Tag: FE 4102");
-}
-
-TEST_F(ReportPageTest, CustomerLinesAreNotChangedByPrinting) {
-    module_.CustLine1 = "A\nB";
-    Page(LiquidSheet());
-    EXPECT_EQ(module_.CustLine1, "A\nB");
-    EXPECT_EQ(module_.CustLine2, "Unit 4, Crude Distillation");
-    EXPECT_EQ(module_.TagText, "FE-4102");
-}
-
-TEST_F(ReportPageTest, SteamStateNamesTheTable) {
-    const std::string blanks(41, ' ');
-    ReportSheet sheet = SteamSheet();
-    sheet.inputs.steamFromTable = true;
-    EXPECT_TRUE(HasRow(Page(sheet), blanks + "(Saturated - from ASME table)"));
-    sheet.saturated = false;
-    EXPECT_TRUE(HasRow(Page(sheet), blanks + "(Superheated)"));
-    sheet.inputs.steamFromTable = false;
-    EXPECT_TRUE(HasRow(Page(sheet), blanks + "(Superheated)"));
-}
-
-TEST_F(ReportPageTest, PressureAndTemperatureOptions) {
-    ReportSheet sheet = GasSheet();
-    sheet.inputs.degC = true;
-    sheet.inputs.absolutePressure = true;
-    sheet.inputs.pressUnit = {"kPa", 0.1450378F};
-    EXPECT_TRUE(HasRow(Page(sheet), "Operating Temperature            (20.00) Deg C"));
-    EXPECT_TRUE(HasRow(Page(sheet), "Operating Pressure                150.00 kPa (absolute)"));
-    sheet = SteamSheet();
-    sheet.inputs.absolutePressure = true;
-    EXPECT_TRUE(HasRow(Page(sheet), "Operating Pressure                100.00 PSI (absolute)"));
-}
-
-TEST_F(ReportPageTest, HiddenGasGravityTakesNoRow) {
-    ReportSheet sheet = GasSheet();
-    sheet.inputs.gasSGbVisible = false;
-    const Rows rows = RowsOf(sheet);
-    EXPECT_EQ(rows.at(12), "Operating Pressure                150.00 PSI (gauge)");
-    EXPECT_EQ(rows.at(13), "Compressibility Factor:");
-}
-
-TEST_F(ReportPageTest, EnteredCompressibility) {
-    ReportSheet sheet = GasSheet();
-    sheet.inputs.compCorrection = CompCorrection::Zf;
-    sheet.inputs.zf = "0.95";
-    EXPECT_EQ(RowsOf(sheet).at(14), "Compressibility Factor:");
-    EXPECT_EQ(RowsOf(sheet).at(15), "     Zf                          0.95000");
-}
-
-TEST_F(ReportPageTest, MeasuredGasDensity) {
-    ReportSheet sheet = GasSheet();
-    sheet.inputs.compCorrection = CompCorrection::Density;
-    sheet.inputs.zf = "1.2345";
-    sheet.inputs.zfDensityUnit = {"kg/cubic meter", 0.06242798F};
-    EXPECT_EQ(RowsOf(sheet).at(14), "Compressibility Factor:");
-    EXPECT_EQ(RowsOf(sheet).at(15), "     Operating Density             1.235 kg/cubic meter");
-}
-
-TEST_F(ReportPageTest, LiquidGravityFromDensity) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.sgCalculated = true;
-    sheet.inputs.density = "61.5";
-    const Rows rows = RowsOf(sheet);
-    EXPECT_EQ(rows.at(12), "Flowing Specific Gravity            0.99 (Calculated from Density)");
-    EXPECT_EQ(rows.at(13), "Operating Density                 61.500 lb/cubic foot");
-    EXPECT_EQ(rows.at(14), "");
-}
-
-TEST_F(ReportPageTest, TypedLiquidGravityHasNoDensityRow) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.density = "61.5";
-    EXPECT_EQ(RowOf(sheet, "Operating Density"), "no row Operating Density");
-}
-
-TEST_F(ReportPageTest, MetricPipeShowsWhatTheListShows) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.pipeIdUnit = "Millimeters";
-    sheet.pipeIdText = "2.067\"  (52.50 mm)  Sch 40, STD, Sch 40S";
-    EXPECT_TRUE(HasRow(Page(sheet), "Pipe Diameter                      52.50 Millimeters"));
-    sheet.pipeIdUnit = "Centimeters";
-    sheet.pipeIdText = "2.067\"  (5.25 cm)  Sch 40, STD, Sch 40S";
-    EXPECT_TRUE(HasRow(Page(sheet), "Pipe Diameter                       5.25 Centimeters"));
-}
-
-TEST_F(ReportPageTest, UserEnteredPipe) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.pipeDiameter = "3.250";
-    sheet.pipeIdText = "3.250\" (User Entered)";
-    EXPECT_TRUE(HasRow(Page(sheet), "Pipe Diameter (User Entered)       3.250 Inches"));
-    sheet.pipeIdUnit = "Millimeters";
-    sheet.pipeIdText = "3.250\"  (82.55 mm)   (User Entered)";
-    EXPECT_TRUE(HasRow(Page(sheet), "Pipe Diameter (User Entered)       82.55 Millimeters"));
-}
-
-TEST_F(ReportPageTest, MetricPipeWithoutMetricTextIsEmpty) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.pipeIdUnit = "Millimeters";
-    EXPECT_TRUE(HasRow(Page(sheet), "Pipe Diameter                            Millimeters"));
-}
-
-TEST_F(ReportPageTest, FieldWithoutNumberIsEmpty) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.flow = "";
-    sheet.inputs.beta = "abc";
-    EXPECT_TRUE(HasRow(Page(sheet), "Flow Rate                                Gallons/Minute"));
-    EXPECT_TRUE(HasRow(Page(sheet), "Beta (approximate)                      "));
-}
-
-TEST_F(ReportPageTest, UnitTextsStandAsTheListHasThem) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.flowUnit = {"Cubic Meters ", 264.172F};  // ends in a blank
-    EXPECT_EQ(RowOf(sheet, "Flow Rate"),
-              "Flow Rate                       1,234.50 Cubic Meters /Minute");
-}
+INSTANTIATE_TEST_SUITE_P(WholePages, ReportPageRow, ::testing::ValuesIn(kWholePages), kRowName);
+INSTANTIATE_TEST_SUITE_P(Titles, ReportPageRow, ::testing::ValuesIn(kTitles), kRowName);
+INSTANTIATE_TEST_SUITE_P(Customers, ReportPageRow, ::testing::ValuesIn(kCustomers), kRowName);
+INSTANTIATE_TEST_SUITE_P(Values, ReportPageRow, ::testing::ValuesIn(kValues), kRowName);
+INSTANTIATE_TEST_SUITE_P(Warnings, ReportPageRow, ::testing::ValuesIn(kWarnings), kRowName);
 
 TEST_F(ReportPageTest, NumbersAsTheUsersSystemWritesThem) {
     Module1 german(platform_, kGermany);
@@ -282,32 +240,38 @@ TEST_F(ReportPageTest, NumbersAsTheUsersSystemWritesThem) {
     page = ComposeReport(sheet, french);
     EXPECT_TRUE(HasRow(page, "Flow Rate                      12\u202F345,00 Gallons/Minute"));
 
-    sheet = GasSheet();
-    page = ComposeReport(sheet, german);
+    page = ComposeReport(GasSheet(), german);
     EXPECT_TRUE(HasRow(page, "     Zf                          1,00000 (assumed)"));
 }
 
-TEST_F(ReportPageTest, MoreDigitsThanASingleHolds) {
+TEST_F(ReportPageTest, NoModeSelectedIsFatal) {
     ReportSheet sheet = LiquidSheet();
-    sheet.inputs.flow = "123456789.12";
-    EXPECT_EQ(RowOf(sheet, "Flow Rate"), "Flow Rate                 123,456,789.12 Gallons/Minute");
+    sheet.inputs.mode.reset();
+    ExpectFatal(sheet, "Calculation type not selected");
 }
 
-TEST_F(ReportPageTest, HalvesRoundAwayFromZero) {
+TEST_F(ReportPageTest, UnknownPipeUnitIsFatal) {
     ReportSheet sheet = LiquidSheet();
-    sheet.inputs.deltaP = "0.005";
-    EXPECT_EQ(RowOf(sheet, "Differential Pressure"),
-              "Differential Pressure               0.01 Inches Water");
-    sheet.inputs.deltaP = "-0.001";
-    EXPECT_EQ(RowOf(sheet, "Differential Pressure"),
-              "Differential Pressure               0.00 Inches Water");
+    sheet.pipeIdUnit = "Feet";
+    ExpectFatal(sheet, "Unrecognized pipe ID unit for 'User Entered' pipe ID");
 }
 
-TEST_F(ReportPageTest, ValueTooLongForItsColumnFollowsOneBlank) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.deltaP = "1e15";  // 24 characters, 45 with the label
-    EXPECT_EQ(RowOf(sheet, "Differential Pressure"),
-              "Differential Pressure 1,000,000,000,000,000.00 Inches Water");
+TEST_F(ReportPageTest, CustomerLinesAreNotChangedByPrinting) {
+    module_.CustLine1 = "A\nB";
+    Page(LiquidSheet());
+    EXPECT_EQ(module_.CustLine1, "A\nB");
+    EXPECT_EQ(module_.CustLine2, "Unit 4, Crude Distillation");
+    EXPECT_EQ(module_.TagText, "FE-4102");
+}
+
+TEST_F(ReportPageTest, TheFullestPageEndsAboveTheNotes) {
+    double bottom = 0;
+    for (const ReportLine& line : Page(FullestSheet()).lines) {
+        if (line.font.sizePt == 12) {
+            bottom = std::max(bottom, line.yTwips + 271.875);
+        }
+    }
+    EXPECT_LE(bottom, 8000);
 }
 
 }  // namespace
