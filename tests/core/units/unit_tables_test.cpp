@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <span>
 #include <string>
 
 namespace tarvix {
@@ -18,50 +17,59 @@ namespace {
 
 using namespace testing;
 
-void ExpectSameUnits(std::span<const Unit> units, const std::string& list) {
+std::string KindOf(const Unit& /*unit*/) {
+    return "";
+}
+std::string KindOf(const FlowUnit& unit) {
+    return unit.kind == FlowKind::Mass ? "M" : "V";
+}
+
+template <typename Units>
+void ExpectSameUnits(const Units& units, const std::string& list) {
     const auto rows = RowsOf(ReadDataFile("units.tsv"), list);
-    ASSERT_EQ(units.size(), rows.size());
+    ASSERT_EQ(units.size(), rows.size()) << list;
     for (size_t i = 0; i < rows.size(); ++i) {
-        SCOPED_TRACE(rows[i][2]);
+        SCOPED_TRACE(list + " " + rows[i][2]);
         EXPECT_EQ(rows[i][1], std::to_string(i));
         EXPECT_EQ(units[i].text, rows[i][2]);
-        EXPECT_EQ(rows[i][3], "");
+        EXPECT_EQ(KindOf(units[i]), rows[i][3]);
         EXPECT_EQ(units[i].factor, std::strtof(rows[i][4].c_str(), nullptr));
     }
 }
 
-TEST(UnitTablesTest, PressureUnitsEntryByEntry) {
+TEST(UnitTablesTest, AreTheListedOnesEntryByEntry) {
     ExpectSameUnits(kPressUnits, "press");
-}
-
-TEST(UnitTablesTest, DifferentialPressureUnitsEntryByEntry) {
     ExpectSameUnits(kDeltaPUnits, "deltaP");
-}
-
-TEST(UnitTablesTest, DensityUnitsEntryByEntry) {
     ExpectSameUnits(kDensityUnits, "density");
-}
-
-TEST(UnitTablesTest, LengthUnitsEntryByEntry) {
     ExpectSameUnits(kLengthUnits, "length");
+    ExpectSameUnits(kTimeUnits, "time");
+    ExpectSameUnits(FlowUnitsOf(Fluid::Liquid).units, "flow L");
+    ExpectSameUnits(FlowUnitsOf(Fluid::Steam).units, "flow S");
+    ExpectSameUnits(FlowUnitsOf(Fluid::Gas).units, "flow G");
 }
 
-TEST(UnitTablesTest, TimeUnitsEntryByEntry) {
-    ExpectSameUnits(kTimeUnits, "time");
+TEST(UnitTablesTest, EachFluidHasItsDefaults) {
+    EXPECT_EQ(FlowUnitsOf(Fluid::Liquid).defaultFlowUnit, "Gallons");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Liquid).defaultTimeUnit, "Minute");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Steam).defaultFlowUnit, "Pounds");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Steam).defaultTimeUnit, "Hour");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Gas).defaultFlowUnit, "Standard Cubic Feet");
+    EXPECT_EQ(FlowUnitsOf(Fluid::Gas).defaultTimeUnit, "Day");
+}
+
+TEST(UnitTablesTest, AFluidHasACodeOfOneCapitalLetter) {
+    EXPECT_EQ(FluidOf("L"), Fluid::Liquid);
+    EXPECT_EQ(FluidOf("S"), Fluid::Steam);
+    EXPECT_EQ(FluidOf("G"), Fluid::Gas);
+    for (const char* code : {"", "l", "g", "s", "LG", "X", " L"}) {
+        EXPECT_EQ(FluidOf(code), std::nullopt) << code;
+    }
 }
 
 TEST(UnitTablesTest, LengthUnitNamesAreThoseOfTheTable) {
     EXPECT_EQ(kLengthUnits[0].text, kInches);
     EXPECT_EQ(kLengthUnits[1].text, kMillimeters);
     EXPECT_EQ(kLengthUnits[2].text, kCentimeters);
-}
-
-TEST(UnitTablesTest, TheFirstUnitOfAListIsItsCalculationUnit) {
-    EXPECT_EQ(kPressUnits[0].factor, 1.0F);
-    EXPECT_EQ(kDeltaPUnits[0].factor, 1.0F);
-    EXPECT_EQ(kDensityUnits[0].factor, 1.0F);
-    EXPECT_EQ(kLengthUnits[0].factor, 1.0F);
-    EXPECT_EQ(kTimeUnits[0].factor, 1.0F);
 }
 
 // Quotients ---------------------------------------------------------------------------------------
@@ -108,19 +116,6 @@ const QuotientRow kQuotientRows[] = {
 // clang-format on
 
 INSTANTIATE_TEST_SUITE_P(UnitTables, ComputedFactor, ::testing::ValuesIn(kQuotientRows), kRowName);
-
-// What the factors do -----------------------------------------------------------------------------
-
-TEST(UnitTablesTest, HundredKilopascalAre14Point50378Psi) {
-    const float psi = 100.0F * kPressUnits[2].factor;
-    EXPECT_EQ(kPressUnits[2].text, "kPa");
-    EXPECT_EQ(psi, 14.50378F);
-}
-
-TEST(UnitTablesTest, OnePascalOfDifferentialPressureCounts4017Point5InchesOfWater) {
-    EXPECT_EQ(kDeltaPUnits[8].text, "Pa");
-    EXPECT_EQ(1.0F * kDeltaPUnits[8].factor, 4017.5F);
-}
 
 }  // namespace
 
