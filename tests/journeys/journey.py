@@ -43,6 +43,17 @@ class Journey(unittest.TestCase):
         self.program.option(option).act("Press")
         wait_until(option, lambda: self.program.option(option).checked)
 
+    def go_through(self, begins, entry, direction="Increase"):
+        """Goes through a list, entry by entry, until it says the one that is wanted."""
+        control = self.program.list(begins)
+        for _ in range(30):
+            before = control.name
+            if before.endswith(": " + entry):
+                return
+            control.act(direction)
+            wait_until(f"the entry after {before}", lambda: control.name != before)
+        self.fail(f"{begins} has no {entry}")
+
 
 def run(journey, description, *further):
     """Runs the tests of a class of journeys by the command line: the program, what else the class

@@ -5,7 +5,6 @@ import sys
 import tempfile
 
 import journey as journeys
-from desk import CannotRun
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "report"))
 import print_journey  # noqa: E402  (the print system of the report's own journey)
@@ -26,10 +25,7 @@ class PrintingJourney(journeys.Journey):
         cls.pictures = pathlib.Path(cls.pictures)
         cls.pictures.mkdir(parents=True, exist_ok=True)
         folder = stack.enter_context(tempfile.TemporaryDirectory(prefix="journey-print-"))
-        try:
-            cls.system = print_journey.PrintSystem(folder)
-        except print_journey.CannotRun as reason:
-            raise CannotRun(str(reason)) from reason
+        cls.system = print_journey.PrintSystem(folder)
         stack.callback(cls.system.stop)
         cls.printer = print_journey.NetworkPrinter()
         stack.callback(cls.printer.close)

@@ -26,17 +26,6 @@ class ScreenReaderJourney(journeys.Journey):
         self.program.field(field).write(text)
         self.program.wait_for_text(field, text)
 
-    def go_through(self, unit, entry, direction="Increase"):
-        """Goes through a list, entry by entry, until it says the one that is wanted."""
-        control = self.program.list(unit)
-        for _ in range(30):
-            before = control.name
-            if before.endswith(": " + entry):
-                return
-            control.act(direction)
-            wait_until(f"the entry after {before}", lambda: control.name != before)
-        self.fail(f"{unit} has no {entry}")
-
     def wait_for_event(self, kind, name):
         def look():
             self.listener.listen()

@@ -40,6 +40,21 @@ def option(*names):
     return [name + "." * name[-1].isalnum() for name in names] + [SELECTED_OPTION]
 
 
+def pipe_to_buttons(flow_unit, time_unit, differential_pressure):
+    """The stations behind the fluid's own, with the flow rate as the result and a beta of 0.5."""
+    return (
+        *PIPE,
+        ["Flow Rate panel.", f"Flow Rate unit: {flow_unit} combo box."],
+        [f"Flow Rate per time: {time_unit} combo box."],
+        ["Differential Pressure panel.", "Differential Pressure, Inches Water text.",
+         f"{differential_pressure} selected."],
+        ["Differential Pressure unit: Inches Water combo box."],
+        ["Orifice Bore Diameter panel.", "Orifice Bore Diameter, Inches text.", "1.034 selected."],
+        ["Orifice Bore Diameter unit: Inches combo box."],
+        ["Beta Ratio panel.", "Beta Ratio text.", "0.5 selected."],
+        *BUTTONS)
+
+
 class SpokenJourney(journeys.Journey):
     reader = None
 
@@ -200,17 +215,7 @@ class SpokenJourney(journeys.Journey):
             ["Specific Gravity panel.", "Base Specific Gravity, air = 1 text.", "0.6 selected."],
             option("Compressibility Correction panel", "Zf"),
             ["Compressibility at Flowing Conditions (Zf) text.", "0.9 selected."],
-            *PIPE,
-            ["Flow Rate panel.", "Flow Rate unit: Standard Cubic Feet combo box."],
-            ["Flow Rate per time: Day combo box."],
-            ["Differential Pressure panel.", "Differential Pressure, Inches Water text.",
-             "50 selected."],
-            ["Differential Pressure unit: Inches Water combo box."],
-            ["Orifice Bore Diameter panel.", "Orifice Bore Diameter, Inches text.",
-             "1.034 selected."],
-            ["Orifice Bore Diameter unit: Inches combo box."],
-            ["Beta Ratio panel.", "Beta Ratio text.", "0.5 selected."],
-            *BUTTONS)
+            *pipe_to_buttons("Standard Cubic Feet", "Day", "50"))
 
     def test_way_through_a_liquid(self):
         self.choose("Calculate Flow Rate")
@@ -225,17 +230,7 @@ class SpokenJourney(journeys.Journey):
             ["Base Specific Gravity, water = 1 text.", "1 selected."],
             ["Density panel.", "Operating Density, lb/cubic foot text.", "31.183 selected."],
             ["Operating Density unit: lb/cubic foot combo box."],
-            *PIPE,
-            ["Flow Rate panel.", "Flow Rate unit: Gallons combo box."],
-            ["Flow Rate per time: Minute combo box."],
-            ["Differential Pressure panel.", "Differential Pressure, Inches Water text.",
-             "100 selected."],
-            ["Differential Pressure unit: Inches Water combo box."],
-            ["Orifice Bore Diameter panel.", "Orifice Bore Diameter, Inches text.",
-             "1.034 selected."],
-            ["Orifice Bore Diameter unit: Inches combo box."],
-            ["Beta Ratio panel.", "Beta Ratio text.", "0.5 selected."],
-            *BUTTONS)
+            *pipe_to_buttons("Gallons", "Minute", "100"))
 
     def test_way_through_steam(self):
         self.choose("Calculate Flow Rate")
@@ -253,17 +248,7 @@ class SpokenJourney(journeys.Journey):
             ["Pressure panel.", "Operating Pressure, PSI gauge text.", "100 selected."],
             ["Operating Pressure unit: PSI combo box."],
             option("Gauge"),
-            *PIPE,
-            ["Flow Rate panel.", "Flow Rate unit: Pounds combo box."],
-            ["Flow Rate per time: Hour combo box."],
-            ["Differential Pressure panel.", "Differential Pressure, Inches Water text.",
-             "50 selected."],
-            ["Differential Pressure unit: Inches Water combo box."],
-            ["Orifice Bore Diameter panel.", "Orifice Bore Diameter, Inches text.",
-             "1.034 selected."],
-            ["Orifice Bore Diameter unit: Inches combo box."],
-            ["Beta Ratio panel.", "Beta Ratio text.", "0.5 selected."],
-            *BUTTONS)
+            *pipe_to_buttons("Pounds", "Hour", "50"))
 
     def test_options_by_the_arrow_keys(self):
         for name in ("Calculate Differential Pressure", "Calculate Flow Rate"):

@@ -58,17 +58,8 @@ class UseJourney(journeys.Journey):
     def test_long_result(self):
         self.start()
         self.liquid_run()
-        # By AT-SPI's Increase to cubic centimeters, the last unit, and to days.
-        units = self.program.list("Flow Rate unit")
-        while not units.name.endswith("Cubic Centimeters"):
-            before = units.name
-            units.act("Increase")
-            wait_until(f"the unit after {before}", lambda name=before: units.name != name)
-        time_unit = self.program.list("Flow Rate per time")
-        while not time_unit.name.endswith("Day"):
-            before = time_unit.name
-            time_unit.act("Increase")
-            wait_until(f"the unit after {before}", lambda name=before: time_unit.name != name)
+        self.go_through("Flow Rate unit", "Cubic Centimeters")
+        self.go_through("Flow Rate per time", "Day")
         self.enter("Base Specific Gravity", "0.000001")
         # 37.5057 x 10^6 gallons per minute / 0.000264172 x 1440 = 2.0444e14
         flow = self.program.field("Flow Rate")

@@ -25,8 +25,10 @@ import threading
 import time
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "journeys"))
+from desk import PATIENCE, CannotRun, wait_until  # noqa: E402  (found by the line above)
+
 SKIPPED = 77
-PATIENCE = 60  # seconds for anything that the print system does by itself
 PRINTER = "Journey"
 # A printer that takes PDF, with Letter as its paper; from Debian's cups-filters.
 DESCRIPTION = "/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd"
@@ -35,21 +37,6 @@ TOOLS = ("lpadmin", "lpstat", "cupsdisable", "cupsenable", "cupsaccept", "cupsre
 
 print_page = ""
 logo = ""
-
-
-class CannotRun(Exception):
-    """The print system can't be set up on this machine."""
-
-
-def wait_until(what, condition):
-    """Waits for a condition and returns its result; fails with `what` after PATIENCE."""
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        result = condition()
-        if result:
-            return result
-        time.sleep(0.02)
-    raise AssertionError(f"waited {PATIENCE} s in vain: {what}")
 
 
 def free_port():

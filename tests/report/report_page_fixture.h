@@ -2,8 +2,8 @@
 #pragma once
 
 #include "report/page/report_page.h"
+#include "tests/core/fatal_errors.h"
 #include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
 #include "tests/report/page_rows.h"
 #include "tests/report/sample_sheets.h"
 
@@ -22,15 +22,9 @@ class ReportPageTest : public ::testing::Test {
     ReportPage Page(const ReportSheet& sheet) { return ComposeReport(sheet, module_); }
     Rows RowsOf(const ReportSheet& sheet) { return UpperRows(Page(sheet)); }
     void ExpectFatal(const ReportSheet& sheet, const std::string& cause) {
-        try {
-            Page(sheet);
-            FAIL() << "the program went on";
-        } catch (const ProgramEnded& end) {
-            EXPECT_EQ(end.exitStatus, 1);
-        }
-        ASSERT_EQ(platform_.boxes.size(), 1U);
-        EXPECT_EQ(platform_.boxes.front().text, FatalText(cause));
-        EXPECT_EQ(platform_.boxes.front().title, "Fatal Error");
+        const auto box = FatalBoxOf(platform_, [&] { Page(sheet); });
+        EXPECT_EQ(box.text, FatalText(cause));
+        EXPECT_EQ(box.title, "Fatal Error");
     }
 
     RecordingPlatform platform_;

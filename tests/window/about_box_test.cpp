@@ -99,7 +99,7 @@ TEST(AboutBoxTest, ButtonClosesIt) {
 }
 
 TEST(AboutBoxTest, EnterAndEscapeCloseIt) {
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
         AboutBox box;
         box.show();
         QTest::keyClick(&box, key);

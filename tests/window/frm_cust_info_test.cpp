@@ -29,6 +29,12 @@ class CustomerWindowTest : public ::testing::Test {
         return *window_;
     }
 
+    void Store(const std::string& line1, const std::string& line2, const std::string& tag) {
+        module_.CustLine1 = line1;
+        module_.CustLine2 = line2;
+        module_.TagText = tag;
+    }
+
     static void Type(QWidget* field, const QString& text) {
         field->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(field, text);
@@ -99,9 +105,7 @@ TEST_F(CustomerWindowTest, NextReportStartsWithTheLastTextsSelected) {
 }
 
 TEST_F(CustomerWindowTest, GettingTheFocusSelectsTheWholeText) {
-    module_.CustLine1 = "one";
-    module_.CustLine2 = "two";
-    module_.TagText = "three";
+    Store("one", "two", "three");
     frmCustInfo& window = Open();
     QTest::keyClick(&window, Qt::Key_Tab);
     EXPECT_TRUE(window.txtCust2->hasFocus());
@@ -124,8 +128,7 @@ TEST_F(CustomerWindowTest, ClickSelectsTheWholeTextAndASecondClickSetsTheCaret) 
 }
 
 TEST_F(CustomerWindowTest, CancelKeepsTheStoredTexts) {
-    module_.CustLine1 = "Northfield Refinery";
-    module_.TagText = "FE-4102";
+    Store("Northfield Refinery", "", "FE-4102");
     frmCustInfo& window = Open();
     Type(window.txtCust1, "Sawyer");
     Type(window.txtCust2, "typed for nothing");
@@ -136,9 +139,7 @@ TEST_F(CustomerWindowTest, CancelKeepsTheStoredTexts) {
 }
 
 TEST_F(CustomerWindowTest, ClearEmptiesTheFieldsOnly) {
-    module_.CustLine1 = "Northfield Refinery";
-    module_.CustLine2 = "Unit 4";
-    module_.TagText = "FE-4102";
+    Store("Northfield Refinery", "Unit 4", "FE-4102");
     frmCustInfo& window = Open();
     QTest::mouseClick(window.cmdClear, Qt::LeftButton);
     EXPECT_TRUE(window.isVisible());
@@ -149,19 +150,8 @@ TEST_F(CustomerWindowTest, ClearEmptiesTheFieldsOnly) {
     ExpectStored("Northfield Refinery", "Unit 4", "FE-4102");
 }
 
-TEST_F(CustomerWindowTest, ClearThenCancelKeepsTheStoredTexts) {
-    module_.CustLine1 = "Northfield Refinery";
-    frmCustInfo& window = Open();
-    window.cmdClear->click();
-    window.cmdCancel->click();
-    ExpectStored("Northfield Refinery", "", "");
-    EXPECT_EQ(Open().txtCust1->text(), "Northfield Refinery");
-}
-
 TEST_F(CustomerWindowTest, ClearThenPrintStoresEmptyTexts) {
-    module_.CustLine1 = "Northfield Refinery";
-    module_.CustLine2 = "Unit 4";
-    module_.TagText = "FE-4102";
+    Store("Northfield Refinery", "Unit 4", "FE-4102");
     frmCustInfo& window = Open();
     window.cmdClear->click();
     window.cmdPrint->click();
@@ -169,11 +159,18 @@ TEST_F(CustomerWindowTest, ClearThenPrintStoresEmptyTexts) {
     ExpectStored("", "", "");
 }
 
-TEST_F(CustomerWindowTest, EmptyTextsCanBePrinted) {
+TEST_F(CustomerWindowTest, ClearLeadsToTheFirstLineAndEnterThenPrints) {
+    module_.CustLine1 = "ACME";
     frmCustInfo& window = Open();
-    window.cmdPrint->click();
+    window.cmdClear->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(window.cmdClear, Qt::Key_Return);
+    ASSERT_TRUE(window.isVisible());
+    EXPECT_TRUE(window.txtCust1->hasFocus());
+    QTest::keyClicks(QApplication::focusWidget(), "Northfield");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(module_.MsgResult, kPrint);
-    ExpectStored("", "", "");
+    ExpectStored("Northfield", "", "");
 }
 
 TEST_F(CustomerWindowTest, CloseBoxPrintsNothing) {

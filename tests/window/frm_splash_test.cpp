@@ -1,8 +1,9 @@
 // The splash window under a clock that the test sets.
 #include "ui/windows/frm_splash.h"
 
+#include "tests/core/fatal_errors.h"
 #include "tests/core/locales.h"
-#include "tests/core/recording_platform.h"
+#include "tests/core/named_row.h"
 #include "ui/windows/qt_platform.h"
 
 #include <QApplication>
@@ -104,43 +105,40 @@ TEST_F(SplashTest, ShowsNameVersionAndLogos) {
     EXPECT_GT(middle("imgVeltraneLogo").blue(), 200);
 }
 
-TEST_F(SplashTest, HandsOverInOrder) {
+TEST_F(SplashTest, HandsOverInOrderAndOnlyOnce) {
     Run();
     EXPECT_EQ(steps_, (QStringList{"load", "show"}));
     EXPECT_FALSE(splash_.isVisible());
-}
-
-TEST_F(SplashTest, HandsOverOnlyOnce) {
-    Run();
     splash_.show();
     QCoreApplication::processEvents();
     splash_.hide();
     EXPECT_EQ(steps_, (QStringList{"load", "show"}));
 }
 
-TEST_F(SplashTest, WaitsThreeSecondsOfTheClock) {
-    clock_.seconds = {20, 20, 21, 22, 22, 23, 59};
+// The seconds of the clock, from the start on, and how often it is looked at.
+struct WaitRow : NamedRow {
+    std::deque<int> seconds;
+    int looks;
+};
+
+class SplashWait : public SplashTest, public ::testing::WithParamInterface<WaitRow> {};
+
+TEST_P(SplashWait, EndsByTheSecondsOfTheClock) {
+    clock_.seconds = GetParam().seconds;
     Run();
-    EXPECT_EQ(clock_.looks, 6);  // the start and five looks: 23 ends it
+    EXPECT_EQ(clock_.looks, GetParam().looks);
+    // None before the first look of the wait, none after the last.
+    EXPECT_EQ(clock_.sleeps, GetParam().looks - 2);
 }
 
-TEST_F(SplashTest, MinuteThatRollsOverEndsTheWaitEarly) {
-    clock_.seconds = {58, 58, 59, 0, 1, 2};
-    Run();
-    EXPECT_EQ(clock_.looks, 4);  // 58 to 0 is a difference of 58
-}
+const WaitRow kWaitRows[] = {
+    {"ThreeSeconds", {20, 20, 21, 22, 22, 23, 59}, 6},
+    {"RollsOverAndEndsEarly", {58, 58, 59, 0, 1, 2}, 4},  // 58 to 0 is a difference of 58
+    {"StartsInTheLastSecond", {59, 59, 0, 1, 2}, 3},
+    {"StartsBeforeTheLastSeconds", {56, 57, 58, 59, 0}, 4},
+};
 
-TEST_F(SplashTest, StartInTheLastSecondOfAMinute) {
-    clock_.seconds = {59, 59, 0, 1, 2};
-    Run();
-    EXPECT_EQ(clock_.looks, 3);
-}
-
-TEST_F(SplashTest, StartJustBeforeTheLastSeconds) {
-    clock_.seconds = {56, 57, 58, 59, 0};
-    Run();
-    EXPECT_EQ(clock_.looks, 4);  // 59 is the third second
-}
+INSTANTIATE_TEST_SUITE_P(Clocks, SplashWait, ::testing::ValuesIn(kWaitRows), kRowName);
 
 TEST_F(SplashTest, IsPaintedWithItsLogosBeforeTheWait) {
     const EventCounter brindle(*splash_.imgBrindleLogo, QEvent::Paint);
@@ -176,13 +174,6 @@ TEST_F(SplashTest, HandlesNoEventsDuringTheWait) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return delivered.count() == 1; }));
 }
 
-TEST_F(SplashTest, SleepsBetweenTwoLooks) {
-    clock_.seconds = {10, 10, 11, 12, 13};
-    Run();
-    EXPECT_EQ(clock_.looks, 5);
-    EXPECT_EQ(clock_.sleeps, 3);  // none before the first look of the wait, none after the last
-}
-
 TEST_F(SplashTest, BuildsTheMainWindowWithinTheWait) {
     clock_.seconds = {10, 10, 13};
     frmSplash splash(module_,
@@ -200,17 +191,10 @@ TEST_F(SplashTest, CloseRequestDoesNotStopTheStart) {
 
 TEST_F(SplashTest, MissingLogoEndsTheProgram) {
     ASSERT_TRUE(QFile::remove(folder_.filePath("BrindleLogo.jpg")));
-    try {
-        splash_.Form_Activate();
-        FAIL() << "the program went on";
-    } catch (const ProgramEnded& end) {
-        EXPECT_EQ(end.exitStatus, 1);
-    }
-    ASSERT_EQ(clock_.boxes.size(), 1U);
-    EXPECT_EQ(clock_.boxes[0].style, BoxStyle::Critical);
-    EXPECT_EQ(clock_.boxes[0].title, "Brindle Tarvix");
-    EXPECT_EQ(clock_.boxes[0].text,
-              "Run-time error: File not found: " + module_.AppPath + "BrindleLogo.jpg");
+    const auto box = FatalBoxOf(clock_, [this] { splash_.Form_Activate(); });
+    EXPECT_EQ(box.style, BoxStyle::Critical);
+    EXPECT_EQ(box.title, "Brindle Tarvix");
+    EXPECT_EQ(box.text, "Run-time error: File not found: " + module_.AppPath + "BrindleLogo.jpg");
     EXPECT_EQ(clock_.looks, 0);
     EXPECT_TRUE(steps_.isEmpty());
 }
@@ -220,9 +204,7 @@ TEST_F(SplashTest, LogoThatIsNoPictureEndsTheProgram) {
     ASSERT_TRUE(logo.open(QIODevice::WriteOnly));
     logo.write("no picture");
     logo.close();
-    EXPECT_THROW(splash_.Form_Activate(), ProgramEnded);
-    ASSERT_EQ(clock_.boxes.size(), 1U);
-    EXPECT_EQ(clock_.boxes[0].text,
+    EXPECT_EQ(FatalBoxOf(clock_, [this] { splash_.Form_Activate(); }).text,
               "Run-time error: File not found: " + module_.AppPath + "VeltraneLogo.jpg");
 }
 

@@ -1,8 +1,6 @@
 // Everything can be done without a mouse.
 #include "tests/window/shown_windows.h"
 #include "tests/window/window_states.h"
-#include "ui/windows/about_box.h"
-#include "ui/windows/frm_cust_info.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -21,6 +19,9 @@ namespace tarvix::testing {
 namespace {
 
 using Names = std::vector<std::string>;
+
+const QStringList kFlowOfWater = {"click optLiquid", "click optCalcFR",    "type txtSGf 1",
+                                  "type txtSGb 1",   "type txtDeltaP 100", "type txtBeta 0.5"};
 
 class KeyboardTest : public ::testing::Test {
   protected:
@@ -127,8 +128,7 @@ TEST_F(KeyboardTest, TheFirstTabStopIsTheSelectedMode) {
 }
 
 TEST_F(KeyboardTest, PrintIsATabStopWhenThereIsSomethingToPrint) {
-    Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
-          "type txtDeltaP 100", "type txtBeta 0.5"});
+    Play(kFlowOfWater);
     EXPECT_EQ(Walk(form().optCalcFR, Qt::Key_Tab, Qt::NoModifier),
               ExpectedOrder("optLiquid", "optCalcFR", true));
 }
@@ -247,8 +247,7 @@ TEST_F(KeyboardTest, F1AndAltAShowTheAboutWindow) {
 TEST_F(KeyboardTest, CtrlPPrintsOnlyWhatIsSolved) {
     const QTemporaryDir folder;
     player_.desk().SetPrinter(folder.filePath("page.pdf"));
-    Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
-          "type txtDeltaP 100"});
+    Play(kFlowOfWater.mid(0, 5));
     Press(Qt::Key_P, Qt::ControlModifier);
     EXPECT_TRUE(player_.desk().TakePages().empty());
     Play({"type txtBeta 0.5"});
@@ -276,8 +275,7 @@ TEST_F(KeyboardTest, F10OpensTheMenu) {
 
 TEST_F(KeyboardTest, CtrlCCopiesTheSolvedValueFromAnywhere) {
     QClipboard& clipboard = *QApplication::clipboard();
-    Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
-          "choose cboNomSize 4", "type txtDeltaP 100", "type txtBeta 0.5"});
+    Play(kFlowOfWater + QStringList{"choose cboNomSize 4"});
     const auto copied = [&](const char* from) {
         clipboard.setText("something else");
         Play({QString("focus ") + from});
@@ -300,8 +298,7 @@ TEST_F(KeyboardTest, CtrlCCopiesTheSolvedValueFromAnywhere) {
 }
 
 TEST_F(KeyboardTest, CtrlCCopiesASelectionBeforeTheSolvedValue) {
-    Play({"click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
-          "type txtDeltaP 100", "type txtBeta 0.5", "focus txtDeltaP"});
+    Play(kFlowOfWater + QStringList{"focus txtDeltaP"});
     Press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "100");
 }
@@ -321,58 +318,6 @@ TEST_F(KeyboardTest, EnterAndSpacePressTheButtonThatHasTheFocus) {
     EXPECT_EQ(player_.desk().TakeBoxes().size(), 1U);
     Press(Qt::Key_Space);
     EXPECT_EQ(player_.desk().TakeBoxes().size(), 1U);
-}
-
-// ---- Enter and Esc in the dialogs ----
-
-TEST_F(KeyboardTest, EnterAndEscCloseTheAboutWindow) {
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
-        AboutBox about(&window());
-        about.show();
-        about.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return about.cmdExit->hasFocus(); }));
-        Press(key);
-        EXPECT_FALSE(about.isVisible());
-    }
-}
-
-TEST_F(KeyboardTest, EnterPrintsAndEscCancelsInTheCustomerWindow) {
-    constexpr int kPrint = 1;
-    constexpr int kDoNotPrint = 2;
-    for (const auto& [key, result] :
-         {std::pair(Qt::Key_Return, kPrint), std::pair(Qt::Key_Escape, kDoNotPrint)}) {
-        ScriptDesk desk([](int) {});
-        Module1 module(desk, NumberLocale{});
-        frmCustInfo customer(module, &window());
-        customer.show();
-        customer.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return customer.txtCust1->hasFocus(); }));
-        QTest::keyClicks(QApplication::focusWidget(), "ACME");
-        Press(key);
-        EXPECT_FALSE(customer.isVisible());
-        EXPECT_EQ(module.MsgResult, result);
-        EXPECT_EQ(module.CustLine1, result == kPrint ? "ACME" : "");
-    }
-}
-
-TEST_F(KeyboardTest, ClearLeadsToTheFirstLineAndEnterThenPrints) {
-    constexpr int kPrint = 1;
-    ScriptDesk desk([](int) {});
-    Module1 module(desk, NumberLocale{});
-    module.CustLine1 = "ACME";
-    frmCustInfo customer(module, &window());
-    customer.show();
-    customer.activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return customer.txtCust1->hasFocus(); }));
-    customer.cmdClear->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(customer.cmdClear, Qt::Key_Return);
-    ASSERT_TRUE(customer.isVisible());
-    EXPECT_EQ(Focus(), "txtCust1");
-    QTest::keyClicks(QApplication::focusWidget(), "Northfield");
-    Press(Qt::Key_Return);
-    EXPECT_FALSE(customer.isVisible());
-    EXPECT_EQ(module.MsgResult, kPrint);
-    EXPECT_EQ(module.CustLine1, "Northfield");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The fields for numbers under real key, mouse and input method events.
+#include "tests/core/named_row.h"
 #include "tests/window/window_states.h"
 
 #include <QApplication>
@@ -50,48 +51,41 @@ TEST_F(NumericFieldTest, LettersBlanksAndPunctuationAreSwallowed) {
     EXPECT_EQ(field.text(), "1234");
 }
 
-TEST_F(NumericFieldTest, ASecondSeparatorIsSwallowed) {
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "1.2.3..4");
-    EXPECT_EQ(field.text(), "1.234");
+// What a key meets: the text before, its selection, the keys, the text after.
+struct KeyRow : NamedRow {
+    const char* before;
+    int start, length;
+    const char* keys;
+    const char* after;
+};
+
+class KeysInAField : public NumericFieldTest, public ::testing::WithParamInterface<KeyRow> {};
+
+TEST_P(KeysInAField, AreJudgedByTheTextAround) {
+    const auto& row = GetParam();
+    NumericField& field = Enter(row.before);
+    if (row.length > 0) {
+        field.setSelection(row.start, row.length);
+    } else {
+        field.setCursorPosition(row.start);
+    }
+    QTest::keyClicks(&field, row.keys);
+    EXPECT_EQ(field.text(), row.after);
 }
 
-TEST_F(NumericFieldTest, ASeparatorMayBeTypedAgainWhenTheFirstIsDeleted) {
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "1.");
-    QTest::keyClick(&field, Qt::Key_Backspace);
-    QTest::keyClicks(&field, "2.5");
-    EXPECT_EQ(field.text(), "12.5");
-}
+// clang-format off
+const KeyRow kKeyRows[] = {
+    {"SecondSeparator",          "",     0, 0, "1.2.3..4", "1.234"},
+    {"SeparatorLeftOfSelection", "1.25", 2, 2, ".",        "1.."},   // only right of it is looked
+    {"SeparatorRightOfSelection", "12.5", 0, 2, ".",       "12.5"},
+    {"SeparatorInSelection",     "1.25", 1, 1, ".",        "1.25"},
+    {"SignBehindDigits",         "",     0, 0, "-1-2+",    "-12"},
+    {"SignInFrontOfASign",       "-12",  0, 0, "+",        "+-12"},  // nor whether there is one already
+    {"SignOverTheText",          "125",  0, 3, "-3",       "-3"},
+};
+// clang-format on
 
-TEST_F(NumericFieldTest, ASeparatorLeftOfASelectionIsNotSeen) {
-    NumericField& field = Enter("1.25");
-    field.setSelection(2, 2);
-    QTest::keyClicks(&field, ".");
-    EXPECT_EQ(field.text(), "1..") << "only the text right of a selection is searched";
-}
-
-TEST_F(NumericFieldTest, ASeparatorRightOfASelectionIsSeen) {
-    NumericField& field = Enter("12.5");
-    field.setSelection(0, 2);
-    QTest::keyClicks(&field, ".");
-    EXPECT_EQ(field.text(), "12.5");
-}
-
-TEST_F(NumericFieldTest, ASignIsTypedAtTheStartOnly) {
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "-1-2+");
-    EXPECT_EQ(field.text(), "-12");
-    QTest::keyClick(&field, Qt::Key_Home);
-    QTest::keyClicks(&field, "+");
-    EXPECT_EQ(field.text(), "+-12") << "whether there is a sign already is not looked at";
-}
-
-TEST_F(NumericFieldTest, ASignMayReplaceTheWholeText) {
-    NumericField& field = Enter("125");
-    QTest::keyClicks(&field, "-3");
-    EXPECT_EQ(field.text(), "-3");
-}
+INSTANTIATE_TEST_SUITE_P(NumericField, KeysInAField, ::testing::ValuesIn(kKeyRows), kRowName);
 
 TEST_F(NumericFieldTest, CursorAndDeleteKeysWork) {
     NumericField& field = Enter("12345");
@@ -223,6 +217,13 @@ class FieldMouseTest : public NumericFieldTest {
         return field;
     }
 
+    // A move with the button held; the buttons of a synthetic one have to be given.
+    static void Drag(NumericField& field, QPoint to) {
+        QMouseEvent move(QEvent::MouseMove, to, field.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(&field, &move);
+    }
+
     // In the left half of the second digit from the right.
     static QPoint SecondDigitFromTheRight(const NumericField& field) {
         const int digit = field.fontMetrics().horizontalAdvance('0');
@@ -269,9 +270,7 @@ TEST_F(FieldMouseTest, ADoubleClickSelectsTheWholeNumber) {
         QMouseEvent second(QEvent::MouseButtonDblClick, at, field.mapToGlobal(at), Qt::LeftButton,
                            Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&field, &second);
-        QMouseEvent tremble(QEvent::MouseMove, at + QPoint(1, 0), field.mapToGlobal(at),
-                            Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&field, &tremble);
+        Drag(field, at + QPoint(1, 0));
         QTest::mouseRelease(&field, Qt::LeftButton, {}, at);
         EXPECT_EQ(field.selectedText(), number);
     }
@@ -292,10 +291,7 @@ TEST_F(FieldMouseTest, ADragOfTheFirstClickSelectsWhatItPasses) {
     const QPoint at = SecondDigitFromTheRight(field);
     const QPoint end(2, at.y());
     QTest::mousePress(&field, Qt::LeftButton, {}, at);
-    // The buttons of a synthetic move have to be given.
-    QMouseEvent move(QEvent::MouseMove, end, field.mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(&field, &move);
+    Drag(field, end);
     QTest::mouseRelease(&field, Qt::LeftButton, {}, end);
     EXPECT_EQ(field.selectedText(), "123");
 }

@@ -1,6 +1,7 @@
 // One recalculation: from the texts of a sheet to the text of the result.
 #include "app/sheet/solve_sheet.h"
 #include "app/sheets.h"
+#include "fatal_errors.h"
 #include "named_row.h"
 
 #include <gtest/gtest.h>
@@ -14,26 +15,16 @@ using namespace testing;
 
 class CalculationTest : public SheetTest {
   protected:
+    template <typename Action>
+    std::string FatalTextOf(Action action) {
+        module.MsgText = "";
+        return FatalBoxOf(platform, action).text;
+    }
+
     // Checks and solves a sheet that must be good.
     CalculationResult Solve(const InputSheet& sheet) {
         EXPECT_EQ(CheckAndKeep(sheet, module), kDataGood) << module.MsgText;
         return Solved(sheet, module);
-    }
-
-    // What the fatal error that `action` ends in is about.
-    template <typename Action>
-    std::string FatalCauseOf(Action action) {
-        module.MsgText = "";
-        platform.boxes.clear();
-        try {
-            action();
-            ADD_FAILURE() << "the program did not end";
-            return "";
-        } catch (const ProgramEnded& end) {
-            EXPECT_EQ(end.exitStatus, 1);
-        }
-        EXPECT_EQ(platform.boxes.size(), 1U);
-        return platform.boxes.empty() ? "" : platform.boxes.front().text;
     }
 };
 
@@ -268,9 +259,9 @@ TEST_F(CalculationTest, TheOrificeCheckFollowsAGoodFluidCheckOnly) {
 TEST_F(CalculationTest, AnUnknownFluidEndsTheProgram) {
     for (const char* fluid : {"", "X", "l", "s", "g", "LS"}) {
         module.FluidType = fluid;
-        EXPECT_EQ(FatalCauseOf([&] { module.CurrentFluid(); }),
+        EXPECT_EQ(FatalTextOf([&] { module.CurrentFluid(); }),
                   FatalText("Orifice type not specified"));
-        EXPECT_EQ(FatalCauseOf([&] { module.CurrentFluid("Orifice flow type not specified."); }),
+        EXPECT_EQ(FatalTextOf([&] { module.CurrentFluid("Orifice flow type not specified."); }),
                   FatalText("Orifice flow type not specified."));
     }
     const std::pair<const char*, Fluid> known[] = {
@@ -286,7 +277,7 @@ TEST_F(CalculationTest, WithoutAModeTheProgramEnds) {
         InputSheet sheet = sheetOf(SolveFor::FlowRate);
         sheet.mode.reset();
         EXPECT_EQ(CheckAndKeep(sheet, module), kDataGood);
-        EXPECT_EQ(FatalCauseOf([&] { Solved(sheet, module); }),
+        EXPECT_EQ(FatalTextOf([&] { Solved(sheet, module); }),
                   FatalText("No variable to calculate has been selected."));
     }
 }
@@ -294,11 +285,11 @@ TEST_F(CalculationTest, WithoutAModeTheProgramEnds) {
 TEST_F(CalculationTest, AGasFlowOfUnknownKindEndsTheProgram) {
     InputSheet sheet = GasSheet();
     sheet.flowKind.reset();
-    EXPECT_EQ(FatalCauseOf([&] { Solved(sheet, module); }),
+    EXPECT_EQ(FatalTextOf([&] { Solved(sheet, module); }),
               FatalText("Mass or Volumetric flow type not specified."));
     // It is found before the missing mode is.
     sheet.mode.reset();
-    EXPECT_EQ(FatalCauseOf([&] { Solved(sheet, module); }),
+    EXPECT_EQ(FatalTextOf([&] { Solved(sheet, module); }),
               FatalText("Mass or Volumetric flow type not specified."));
 }
 

@@ -2,9 +2,9 @@
 // separator, and the two ways in which the program ends.
 #include "app/shared/module1.h"
 
+#include "fatal_errors.h"
 #include "locales.h"
 #include "named_row.h"
-#include "recording_platform.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -19,19 +19,6 @@ using namespace testing;
 
 class Module1Test : public ::testing::Test {
   protected:
-    // The message box of the fatal error that `action` ends in.
-    template <typename Action>
-    MessageBoxRequest FatalBoxOf(Action action) {
-        try {
-            action();
-            ADD_FAILURE() << "the program did not end";
-        } catch (const ProgramEnded& end) {
-            EXPECT_EQ(end.exitStatus, 1);
-        }
-        EXPECT_EQ(platform.boxes.size(), 1U);
-        return platform.boxes.empty() ? MessageBoxRequest{} : platform.boxes.front();
-    }
-
     RecordingPlatform platform;
     Module1 american{platform, kUnitedStates};
     Module1 german{platform, kGermany};
@@ -74,25 +61,13 @@ TEST_F(Module1Test, CelsiusIsConverted) {
     EXPECT_EQ(american.TempToDegF(3.3F, "C"), 37.93999991416931F);
 }
 
+// The message is appended to what stands there.
 TEST_F(Module1Test, AnUnknownTemperatureUnitEndsTheProgram) {
-    american.MsgText = "";
-    const auto box = FatalBoxOf([&] { american.TempToDegF(1.0F, "K"); });
-    EXPECT_EQ(box.text, FatalText("Temperature conversion unit K not recognized."));
-}
-
-TEST_F(Module1Test, TheTemperatureMessageIsAppendedToTheLastOne) {
-    american.MsgText = "left over. ";
-    const auto box = FatalBoxOf([&] { american.TempToDegF(1.0F, "K"); });
-    EXPECT_EQ(box.text, FatalText("left over. Temperature conversion unit K not recognized."));
-}
-
-TEST_F(Module1Test, TemperatureUnitsAreCaseSensitive) {
-    for (const char* unit : {"f", "c", "", "FC", "F "}) {
-        platform.boxes.clear();
-        american.MsgText = "";
-        const auto box = FatalBoxOf([&] { american.TempToDegF(1.0F, unit); });
-        EXPECT_EQ(box.text, FatalText("Temperature conversion unit " + std::string(unit) +
-                                      " not recognized."));
+    for (const char* unit : {"K", "f", "c", "", "FC", "F "}) {
+        american.MsgText = "left over. ";
+        const auto box = FatalBoxOf(platform, [&] { american.TempToDegF(1.0F, unit); });
+        EXPECT_EQ(box.text, FatalText("left over. Temperature conversion unit " +
+                                      std::string(unit) + " not recognized."));
     }
 }
 
@@ -280,7 +255,7 @@ TEST_F(Module1Test, LocalDecimalLeavesTheTextWhereThePointIsTheSeparator) {
 TEST_F(Module1Test, AFatalErrorShowsItsBoxAndEndsTheProgram) {
     american.MsgText = "Orifice type not specified";
     platform.answer = kAnswerCancel;
-    const auto box = FatalBoxOf([&] { american.FatalError(); });
+    const auto box = FatalBoxOf(platform, [&] { american.FatalError(); });
     EXPECT_EQ(box.text,
               "Fatal Error Encountered: \n\r\n\rOrifice type not specified\n\r\n\r"
               "This Program will now terminate.");
@@ -294,12 +269,7 @@ TEST_F(Module1Test, AFatalErrorShowsItsBoxAndEndsTheProgram) {
 
 TEST_F(Module1Test, ExitAsksAndEndsTheProgramOnOk) {
     platform.answer = kAnswerOk;
-    try {
-        american.ExitProgram();
-        ADD_FAILURE() << "the program did not end";
-    } catch (const ProgramEnded& end) {
-        EXPECT_EQ(end.exitStatus, 0);
-    }
+    EXPECT_EQ(ExitStatusOf([&] { american.ExitProgram(); }), 0);
     ASSERT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(platform.boxes[0].text, "Program Complete. EXIT PROGRAM");
     EXPECT_EQ(platform.boxes[0].title, "Program Termination");
@@ -315,7 +285,7 @@ TEST_F(Module1Test, CancelInTheExitConfirmationLeavesTheProgramRunning) {
     platform.answer = kAnswerCancel;
     american.CustLine1 = "kept";
     american.working.OperPress = 100.0F;
-    EXPECT_NO_THROW(american.ExitProgram());
+    EXPECT_EQ(ExitStatusOf([&] { american.ExitProgram(); }), std::nullopt);
     EXPECT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(american.MsgResult, 2);
     EXPECT_EQ(american.CustLine1, "kept");
