@@ -275,7 +275,7 @@ TEST_F(KeyboardTest, F10OpensTheMenu) {
 
 TEST_F(KeyboardTest, CtrlCCopiesTheSolvedValueFromAnywhere) {
     QClipboard& clipboard = *QApplication::clipboard();
-    Play(kFlowOfWater + QStringList{"choose cboNomSize 4"});
+    Play(QStringList{"choose cboNomSize 4"} + kFlowOfWater);
     const auto copied = [&](const char* from) {
         clipboard.setText("something else");
         Play({QString("focus ") + from});
