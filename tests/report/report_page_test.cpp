@@ -202,7 +202,7 @@ const PageRow kWarnings[] = {
      {"Beta (approximate)               0.60000", kEnd}},
     {"CompressibilityOfALiquid", LiquidSheet, [](ReportSheet& s, Module1&) { s.zfCompWarning = CompressibilityWarning::Will; },
      {"Beta (approximate)               0.53123", kEnd}},
-    {"AllTogether", FullestSheet, Unchanged,
+    {"EveryWarning", FullestSheet, Unchanged,
      {"Beta (approximate)               0.25000",
       "",
       "Warning: Beta value exceeds standard range (0.15 to 0.67).",
