@@ -23,9 +23,6 @@ double FlangeCoefficient(double beta, double diameterMm, double reynolds) {
     return DischargeCoefficient(beta, diameterMm, reynolds, FlangeTaps(diameterMm));
 }
 
-constexpr double kPipesMm[] = {52.5, 102.3, 202.7, 574.6};
-constexpr double kInfinite = 1e40;
-
 }  // namespace
 
 TEST(Iso5167, PublishedCoefficientsOfTheThreeTapArrangements) {
@@ -53,15 +50,6 @@ TEST(Iso5167, CoefficientTermByTerm) {
     EXPECT_NEAR(FlangeCoefficient(0.5, 50.8, 1e5), 0.60809355, 2e-8);
 }
 
-TEST(Iso5167, CornerTapsAtInfiniteReynoldsNumberLeaveThePolynomial) {
-    for (const double beta : {0.1, 0.2, 0.45, 0.6, 0.75}) {
-        const double b2 = beta * beta;
-        EXPECT_NEAR(DischargeCoefficient(beta, 100, kInfinite, kCornerTaps),
-                    0.5961 + 0.0261 * b2 - 0.216 * b2 * b2 * b2 * b2, 1e-10)
-            << beta;
-    }
-}
-
 // The small-pipe term starts at 71.12 mm without a jump and makes a smaller pipe's C larger.
 TEST(Iso5167, SmallPipeTermStartsSmoothly) {
     for (const double beta : {0.2, 0.5, 0.7}) {
@@ -72,47 +60,6 @@ TEST(Iso5167, SmallPipeTermStartsSmoothly) {
     const double with = DischargeCoefficient(0.5, 1.8 * 25.4, 1e5, kCornerTaps);
     const double without = DischargeCoefficient(0.5, 2.8 * 25.4, 1e5, kCornerTaps);
     EXPECT_NEAR(with - without, 0.011 * 0.25, 1e-12);
-}
-
-TEST(Iso5167, CoefficientFallsWithTheReynoldsNumber) {
-    for (const double diameter : kPipesMm) {
-        for (int percent = 15; percent <= 67; ++percent) {
-            const double beta = percent / 100.0;
-            double before = FlangeCoefficient(beta, diameter, 1e4);
-            for (const double reynolds : {1.5e4, 3e4, 6e4, 1e5, 3e5, 1e6, 3e6, 1e7, 1e8}) {
-                const double now = FlangeCoefficient(beta, diameter, reynolds);
-                EXPECT_LT(now, before) << diameter << " mm, beta " << beta << ", Re " << reynolds;
-                before = now;
-            }
-        }
-    }
-}
-
-// Sharp-edged plates lie around 0.6: the contraction of the jet, pi / (pi + 2) = 0.611, little
-// changed.
-TEST(Iso5167, CoefficientStaysNearTheContractionOfTheJet) {
-    for (const double diameter : kPipesMm) {
-        for (int percent = 15; percent <= 67; ++percent) {
-            for (const double reynolds : {1e4, 1e5, 1e6, 1e7}) {
-                const double c = FlangeCoefficient(percent / 100.0, diameter, reynolds);
-                EXPECT_GT(c, 0.59);
-                EXPECT_LT(c, 0.645);
-            }
-        }
-    }
-}
-
-// For a small pressure drop epsilon is 1 - (0.351 + 0.256 b^4 + 0.93 b^8) (dp / p) / kappa.
-TEST(Iso5167, ExpansibilityStartsWithItsSlope) {
-    for (const double beta : {0.2, 0.5, 0.7}) {
-        for (const double exponent : {1.1, 1.3, 1.67}) {
-            const double b4 = std::pow(beta, 4);
-            const double x = 1e-6;
-            EXPECT_NEAR((1 - Expansibility(beta, 1 - x, exponent)) / x,
-                        (0.351 + 0.256 * b4 + 0.93 * b4 * b4) / exponent, 1e-6);
-            EXPECT_EQ(Expansibility(beta, 1, exponent), 1);
-        }
-    }
 }
 
 // A quarter of the pressure, exponent 1: the bracket is exactly 0.25.

@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
@@ -87,9 +88,11 @@ TEST(DecimalValueTest, IsTheDoubleNearestToTheSevenDigits) {
     EXPECT_EQ(DecimalValue(-0.0F), 0.0);
     EXPECT_FALSE(std::signbit(DecimalValue(-0.0F)));
     // On both sides of where the powers of ten stop being exact in a double.
-    EXPECT_EQ(DecimalValue(1.234567e-16F), 1.234567e-16);
-    EXPECT_EQ(DecimalValue(1.234567e-17F), 1.234567e-17);
-    EXPECT_EQ(DecimalValue(-1.234567e-30F), -1.234567e-30);
+    for (int power = 0; power < 35; ++power) {
+        const std::string text = "1.234567e-" + std::to_string(power);
+        EXPECT_EQ(DecimalValue(std::strtof(text.c_str(), nullptr)),
+                  std::strtod(text.c_str(), nullptr));
+    }
 }
 
 // Plain form, beyond what may be entered --------------------------------------------------------

@@ -56,11 +56,12 @@ TEST(BoreAndBetaTest, ThereAndBackInEveryUnitAndPipe) {
     EXPECT_GT(cases, 400);
 }
 
-TEST(BoreAndBetaTest, ANegativeOrHugeBetaStillHasABore) {
+TEST(BoreAndBetaTest, AnyNumberInAnyPipeHasItsOther) {
     EXPECT_EQ(BoreFromBeta(-0.5F, 2.0F, 1.0F), -1.0F);
     EXPECT_EQ(BoreFromBeta(100.0F, 2.0F, 1.0F), 200.0F);
     EXPECT_EQ(BetaFromBore(-1.0F, 2.0F, 1.0F), -0.5F);
     EXPECT_EQ(BetaFromBore(0.0F, 2.0F, 1.0F), 0.0F);
+    EXPECT_EQ(BetaFromBore(0.5F, 1.0F, 1.0F), 0.5F);
 }
 
 TEST(BoreAndBetaTest, APipeWithoutDiameterHasNoBeta) {
