@@ -1,12 +1,17 @@
-// What a control does by itself when the focus comes to it.
+// What each kind of control does by itself.
+#include "ui/controls/controls.h"
+
 #include "ui/controls/entry_line.h"
 #include "ui/controls/tab_control.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QTabBar>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -74,6 +79,114 @@ TEST_F(EntryLineTest, PressThatBringsTheFocusKeepsTheSelection) {
     line_.selectAll();
     QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
     EXPECT_EQ(line_.selectedText(), line_.text());
+}
+
+// ---- A list that is covered, and the field that covers it ----
+
+bool IsTaken(QWidget& widget, QEvent&& event) {
+    event.setAccepted(true);
+    QCoreApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+bool IsKeyTaken(QWidget& widget) {
+    return IsTaken(widget, QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier));
+}
+
+bool IsWheelTaken(QWidget& widget) {
+    return IsTaken(widget, QWheelEvent(QPointF(1, 1), QPointF(1, 1), QPoint(), QPoint(0, -120),
+                                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false));
+}
+
+TEST(DropDownListAloneTest, WhatACoveredOneDoesNotWantGoesOnToTheWindow) {
+    DropDownList list(nullptr);
+    list.AddItem("one");
+    list.AddItem("two");
+    list.show();
+    list.activateWindow();
+    list.setFocus();
+    EXPECT_TRUE(IsKeyTaken(list));
+    EXPECT_EQ(list.ListIndex(), 1);
+    list.SetCovered(true);
+    EXPECT_FALSE(IsKeyTaken(list));
+    EXPECT_FALSE(IsWheelTaken(list));
+    EXPECT_EQ(list.ListIndex(), 1);
+    EXPECT_EQ(list.focusPolicy(), Qt::ClickFocus) << "Tab passes it by";
+    list.SetCovered(false);
+    EXPECT_EQ(list.focusPolicy(), Qt::StrongFocus);
+}
+
+TEST(DropDownListAloneTest, TheWheelGoesOnToThePageWithoutTheFocus) {
+    DropDownList list(nullptr);
+    list.AddItem("one");
+    list.AddItem("two");
+    EXPECT_FALSE(IsWheelTaken(list));
+    EXPECT_EQ(list.ListIndex(), 0);
+}
+
+TEST(DropDownListAloneTest, ShowsTwentyEntriesAtOnce) {
+    EXPECT_EQ(DropDownList(nullptr).maxVisibleItems(), 20);
+}
+
+TEST(CoverFieldTest, IsNothingToWorkWith) {
+    QWidget window;
+    CoverField cover(&window);
+    EXPECT_TRUE(cover.isReadOnly());
+    EXPECT_EQ(cover.focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(cover.contextMenuPolicy(), Qt::PreventContextMenu);
+    EXPECT_EQ(cover.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&cover)->role(), QAccessible::StaticText);
+    cover.setText("12345");
+    QTest::mouseDClick(&cover, Qt::LeftButton, {}, cover.rect().center());
+    EXPECT_FALSE(cover.hasSelectedText());
+}
+
+// ---- The arrow keys among options ----
+
+class OptionKeysTest : public ::testing::Test {
+  protected:
+    OptionKeysTest() {
+        for (OptionButton*& option : options_) {
+            option = new OptionButton(&window_);
+        }
+        window_.show();
+        window_.activateWindow();
+        options_[0]->Select();
+        options_[0]->setFocus();
+    }
+
+    // The option that is selected after a key, by its place.
+    int After(Qt::Key key) {
+        QTest::keyClick(window_.focusWidget(), key);
+        for (int i = 0; i < 3; ++i) {
+            if (options_[i]->Value()) {
+                EXPECT_EQ(window_.focusWidget(), options_[i]);
+                return i;
+            }
+        }
+        return -1;
+    }
+
+    QWidget window_;
+    OptionButton* options_[3]{};
+};
+
+TEST_F(OptionKeysTest, GoRoundInBothDirections) {
+    EXPECT_EQ(After(Qt::Key_Down), 1);
+    EXPECT_EQ(After(Qt::Key_Right), 2);
+    EXPECT_EQ(After(Qt::Key_Down), 0);
+    EXPECT_EQ(After(Qt::Key_Up), 2);
+    EXPECT_EQ(After(Qt::Key_Left), 1);
+    EXPECT_EQ(After(Qt::Key_A), 1) << "other keys do nothing";
+}
+
+TEST_F(OptionKeysTest, PassByWhatCannotBeUsed) {
+    options_[1]->setEnabled(false);
+    EXPECT_EQ(After(Qt::Key_Down), 2);
+    options_[1]->setEnabled(true);
+    options_[1]->hide();
+    EXPECT_EQ(After(Qt::Key_Up), 0);
+    EXPECT_EQ(After(Qt::Key_Up), 2);
 }
 
 // ---- The mnemonic of the tab ----

@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QFontInfo>
+#include <QLayout>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTest>
