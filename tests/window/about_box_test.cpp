@@ -3,12 +3,15 @@
 #include "tests/window/modal_driver.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
+#include <set>
+#include <string>
 
 namespace tarvix::testing {
 namespace {
@@ -79,10 +82,36 @@ TEST(AboutBoxTest, EveryLineIsShownInFullAndBelowTheOneBefore) {
     }
 }
 
-TEST(AboutBoxTest, StandsInTwoFrames) {
-    const AboutBox box;
-    EXPECT_NE(box.findChild<QFrame*>("Frame1"), nullptr);
-    EXPECT_NE(box.findChild<QFrame*>("Frame2"), nullptr);
+// The lines of a paragraph follow each other closely; half a line parts it from the one above, and
+// as much the first and the last from their frame.
+TEST(AboutBoxTest, StandsInTwoFramesAndParagraphs) {
+    AboutBox box;
+    box.show();
+    const auto* frame1 = box.findChild<QFrame*>("Frame1");
+    const auto* frame2 = box.findChild<QFrame*>("Frame2");
+    ASSERT_NE(frame1, nullptr);
+    ASSERT_NE(frame2, nullptr);
+    EXPECT_EQ(frame1->x(), frame2->x());
+    EXPECT_EQ(frame1->width(), frame2->width());
+    const int line = box.fontMetrics().lineSpacing();
+    const std::set<std::string> begins = {"Label1", "Label5", "Label10", "Label13", "Label15"};
+    const QLabel* above = nullptr;
+    for (const LabelText& expected : kTexts) {
+        const auto* label = box.findChild<QLabel*>(expected.label);
+        if (above != nullptr && above->parentWidget() == label->parentWidget()) {
+            const int gap = label->y() - above->geometry().bottom() - 1;
+            EXPECT_EQ(gap, begins.contains(expected.label) ? line / 2 : 0) << expected.label;
+        } else if (above != nullptr) {
+            EXPECT_EQ(label->x(), line + frame1->frameWidth()) << expected.label;
+            EXPECT_EQ(label->y(), line / 2 + frame1->frameWidth()) << expected.label;
+        }
+        above = label;
+    }
+    const QFont usual = box.font();
+    const auto* title = box.findChild<QLabel*>("Label17");
+    EXPECT_TRUE(title->font().bold());
+    EXPECT_NEAR(QFontInfo(title->font()).pointSizeF(), 1.4 * QFontInfo(usual).pointSizeF(), 0.3);
+    EXPECT_EQ(box.findChild<QScrollArea*>("texts")->accessibleName(), "About Brindle Tarvix");
 }
 
 TEST(AboutBoxTest, ButtonClosesIt) {

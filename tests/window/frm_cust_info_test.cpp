@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <utility>
 
 namespace tarvix::testing {
 namespace {
@@ -66,8 +67,50 @@ TEST_F(CustomerWindowTest, CaptionsAndNames) {
         const auto* field = window.findChild<QLineEdit*>(name);
         ASSERT_NE(field, nullptr) << name;
         EXPECT_EQ(field->parentWidget(), frame) << name;
-        EXPECT_FALSE(field->accessibleName().isEmpty()) << name;
     }
+}
+
+TEST_F(CustomerWindowTest, IsReadAloud) {
+    const frmCustInfo& window = Open();
+    EXPECT_EQ(window.txtCust1->accessibleName(), "Customer");
+    EXPECT_EQ(window.txtCust2->accessibleName(), "Customer, second line");
+    EXPECT_EQ(window.txtTag->accessibleName(), "Tag");
+    const auto described = [&](const char* name) {
+        return window.findChild<QPushButton*>(name)->accessibleDescription();
+    };
+    EXPECT_EQ(described("cmdPrint"), "Prints the report with these lines");
+    EXPECT_EQ(described("cmdClear"), "Empties the three lines");
+    EXPECT_EQ(described("cmdCancel"), "Closes the window without printing");
+}
+
+// The two lines of the customer and the tag under each other, their labels before them, what is
+// said of them below, then the buttons.
+TEST_F(CustomerWindowTest, StandsInRows) {
+    const frmCustInfo& window = Open();
+    const auto place = [&](const char* name) {
+        const auto* widget = window.findChild<QWidget*>(name);
+        return QRect(widget->mapTo(&window, QPoint()), widget->size());
+    };
+    const QRect first = place("txtCust1");
+    int above = first.y() - 1;
+    for (const char* name : {"txtCust1", "txtCust2", "txtTag", "lblFit"}) {
+        EXPECT_EQ(place(name).x(), first.x()) << name;
+        EXPECT_EQ(place(name).width(), first.width()) << name;
+        EXPECT_GT(place(name).y(), above) << name;
+        above = place(name).bottom();
+    }
+    for (const auto& [label, field] : {std::pair("Label1", "txtCust1"), {"Label2", "txtTag"}}) {
+        EXPECT_LT(place(label).right(), first.x());
+        EXPECT_NEAR(place(label).center().y(), place(field).center().y(), 1);
+    }
+    int left = 0;
+    for (const char* name : {"cmdPrint", "cmdClear", "cmdCancel"}) {
+        EXPECT_GT(place(name).y(), place("Frame1").bottom() + 5) << name;
+        EXPECT_GT(place(name).x(), left) << name;
+        left = place(name).right();
+    }
+    EXPECT_EQ(left, place("Frame1").right());
+    EXPECT_GE(place("lblFit").height(), 2 * window.fontMetrics().lineSpacing());
 }
 
 TEST_F(CustomerWindowTest, OpensEmptyAndWithNothingPrinted) {
