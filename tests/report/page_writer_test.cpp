@@ -83,5 +83,14 @@ TEST(PageWriterTest, GoesOnBelowAndBeside) {
     EXPECT_EQ(lines[3].yTwips, 8000);
 }
 
+TEST(PageWriterTest, OnlyWhatTheCustomerTypedIsMarked) {
+    PageWriter writer;
+    writer.Print("Title");
+    writer.PrintCustomerLine("Tag: FE-4102");
+    ASSERT_EQ(writer.Page().lines.size(), 2U);
+    EXPECT_FALSE(writer.Page().lines[0].customer);
+    EXPECT_TRUE(writer.Page().lines[1].customer);
+}
+
 }  // namespace
 }  // namespace tarvix::testing
