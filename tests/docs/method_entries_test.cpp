@@ -1,12 +1,11 @@
-// What docs/method.md says of entries and messages against the program's checks.
-#include "app/sheet/derived_densities.h"
+// What docs/method.md says of entries against the program's checks. named_in_docs.py compares the
+// messages.
 #include "tests/core/app/sheets.h"
 #include "tests/docs/document_figures.h"
 #include "units/flow_units.h"
 #include "units/unit_tables.h"
 
 #include <gtest/gtest.h>
-#include <map>
 #include <string>
 
 namespace tarvix::docs {
@@ -20,12 +19,6 @@ std::string MessageOf(const InputSheet& sheet) {
     testing::RecordingPlatform platform;
     Module1 module(platform, testing::kUnitedStates);
     return CheckInputs(sheet, {}, module).message;
-}
-
-std::string SteamTableMessageOf(const InputSheet& sheet) {
-    testing::RecordingPlatform platform;
-    const Module1 module(platform, testing::kUnitedStates);
-    return SteamDensityTextOf(sheet, module).message;
 }
 
 // A run of which nothing has been entered yet.
@@ -56,55 +49,6 @@ InputSheet EmptyGasWith(CompCorrection correction) {
     sheet.zfVisible = true;
     return sheet;
 }
-
-InputSheet SteamFromTable(const char* pressure) {
-    InputSheet sheet = EmptyRun(Fluid::Steam);
-    sheet.steamFromTable = true;
-    sheet.pf = pressure;
-    sheet.deltaP = "100";
-    sheet.beta = "0.5";
-    return sheet;
-}
-
-using Words = std::map<std::string, std::string>;
-
-// A message of the document, with words in place of those that stand for them there.
-std::string Filled(const std::string& cell, const Words& words) {
-    EXPECT_TRUE(cell.size() > 2 && cell.front() == '`' && cell.back() == '`') << cell;
-    std::string message = cell.substr(1, cell.size() - 2);
-    for (const auto& [placeholder, word] : words) {
-        const auto at = message.find(placeholder);
-        if (at == std::string::npos) {
-            ADD_FAILURE() << "no " << placeholder << " in " << message;
-        } else {
-            message.replace(at, placeholder.size(), word);
-        }
-    }
-    return message;
-}
-
-// Goes through the table of messages, row by row.
-class MethodMessages : public ::testing::Test {
-  protected:
-    void ExpectFluidMessages();
-    void ExpectSteamTableMessages();
-    void ExpectRunMessages();
-    bool AtEnd() const { return row_ == table_.rows().size(); }
-
-  private:
-    void ExpectNext(const Words& words, const std::string& shown) {
-        ++row_;
-        ExpectSame(words, shown);
-    }
-    // The row that was compared last, with other words.
-    void ExpectSame(const Words& words, const std::string& shown) const {
-        ASSERT_LE(row_, table_.rows().size());
-        EXPECT_EQ(Filled(table_.rows()[row_ - 1][0], words), shown);
-    }
-
-    FigureTable table_ = ReadFigures(kMethod, "messages");
-    std::size_t row_ = 0;
-};
 
 }  // namespace
 
@@ -153,94 +97,6 @@ TEST(MethodEntries, FormsOfANumber) {
         expect(row[0], row[1], testing::kUnitedStates);
         expect(row[0], row[2], testing::kGermany);
     }
-}
-
-// Of the fluid's entries, in the order of the document.
-void MethodMessages::ExpectFluidMessages() {
-    InputSheet sheet = testing::GasSheet();
-    ASSERT_EQ(MessageOf(sheet), "");
-    sheet.tf = "-";
-    sheet.activeField = Field::Tf;
-    ExpectNext({{"NAME", "Op. Temperature"}}, MessageOf(sheet));
-
-    sheet = testing::GasSheet();
-    sheet.gasSGb = "0";
-    sheet.activeField = Field::GasSGb;
-    ExpectNext({{"NAME", "Base Specific Gravity"}}, MessageOf(sheet));
-
-    sheet = testing::GasSheet();
-    sheet.absolutePressure = true;
-    sheet.pf = "0";
-    sheet.activeField = Field::Pf;
-    ExpectNext({{"NAME", "Op. Pressure"}}, MessageOf(sheet));
-
-    sheet.absolutePressure = false;
-    sheet.pf = "-14.7";
-    const Words vacuum{{"NAME", "Op. Pressure"}, {"LIMIT", "-14.7000"}, {"UNIT", "PSI"}};
-    ExpectNext(vacuum, MessageOf(sheet));
-    sheet.activeField = Field::None;
-    ExpectSame(vacuum, MessageOf(sheet));
-
-    const Words both{{"NAMES", "Op. Temperature, Op. Pressure"}};
-    sheet = testing::GasSheet();
-    sheet.tf = "";
-    sheet.pf = "";
-    ExpectNext(both, MessageOf(sheet));
-    sheet.tf = "-";
-    sheet.pf = ".";
-    ExpectNext(both, MessageOf(sheet));
-
-    sheet = testing::LiquidSheet();
-    ASSERT_EQ(MessageOf(sheet), "");
-    sheet.sgf = "0";
-    sheet.sgb = "-1";
-    ExpectNext({{"NAMES", "Flowing Specific Gravity, Base Specific Gravity"}}, MessageOf(sheet));
-}
-
-void MethodMessages::ExpectSteamTableMessages() {
-    struct Side {
-        const char* gauge;
-        const char* absolute;
-        const char* gaugeLimit;
-        const char* absoluteLimit;
-    };
-    const Side sides[] = {{"-0.1", "14.6", "0.0", "14.70"}, {"3000.1", "3014.8", "3,000", "3,015"}};
-    for (const Side& side : sides) {
-        ExpectNext({{"LIMIT", side.gaugeLimit}, {"UNIT", "PSI"}},
-                   SteamTableMessageOf(SteamFromTable(side.gauge)));
-        InputSheet absolute = SteamFromTable(side.absolute);
-        absolute.absolutePressure = true;
-        ExpectSame({{"LIMIT", side.absoluteLimit}, {"UNIT", "PSI"}, {"gauge", "absolute"}},
-                   SteamTableMessageOf(absolute));
-    }
-    ExpectNext({}, MessageOf(SteamFromTable("-0.1")));
-    ExpectSame({}, MessageOf(SteamFromTable("3000.1")));
-}
-
-// Of flow rate, differential pressure and beta.
-void MethodMessages::ExpectRunMessages() {
-    InputSheet sheet = testing::LiquidSheet();
-    sheet.activeField = Field::DeltaP;
-    sheet.deltaP = "-";
-    ExpectNext({{"NAME", "Differential Pressure"}}, MessageOf(sheet));
-    sheet.deltaP = "0";
-    ExpectNext({{"NAME", "Differential Pressure"}}, MessageOf(sheet));
-
-    const Words both{{"NAMES", "Differential Pressure, Beta Ratio"}};
-    sheet.activeField = Field::None;
-    sheet.deltaP = "";
-    sheet.beta = "-";
-    ExpectNext(both, MessageOf(sheet));
-    sheet.deltaP = "0";
-    sheet.beta = "-1";
-    ExpectNext(both, MessageOf(sheet));
-}
-
-TEST_F(MethodMessages, AreTheProgramsOwn) {
-    ExpectFluidMessages();
-    ExpectSteamTableMessages();
-    ExpectRunMessages();
-    EXPECT_TRUE(AtEnd()) << "a message of the document that is not compared";
 }
 
 }  // namespace tarvix::docs

@@ -3,12 +3,14 @@
 say of messages and limits is the program's, so that neither changes without the other.
 
 Messages are the texts of the calculator and of the window's handlers that read as sentences; a
-message put together from pieces is looked for piece by piece. Limits are the named constants of the
+message put together from pieces is looked for piece by piece, and the whole ones that the documents
+list are those that the scenarios see. Limits are the named constants of the
 calculator; limit_phrases.py tells the words in which the documents name each. The words must be
 there, with the program's number wherever they stand; and where the documents list limits, no number
 stands beside such words. Units are compared row by row in method_tables_test.cpp.
 """
 
+import json
 import re
 import struct
 import sys
@@ -64,14 +66,30 @@ def messages():
 def message_faults(text, method):
     faults = [f"{path}: no document names the message \"{message}\""
               for message, path in sorted(messages()) if plain(message) not in text]
-    said = " ".join(text for path in sources() for text in literals(path))
     listed = re.search(r"<!-- figures: messages -->\n(.*?)\n\n", method, re.S).group(1)
-    for message in re.findall(r"^\| `(.*?)` \|", listed, re.M):
-        # NAME, LIMIT and the like stand for what the program puts there.
-        for piece in re.split(r"\b[A-Z]{4,}\b|The Operating Density \[.*?\]", message):
-            if len(piece.strip()) > 3 and piece.strip() not in said:
-                faults.append(f"docs/method.md: the program does not say \"{piece.strip()}\"")
+    rows = re.findall(r"^\| `(.*?)` \|", listed, re.M)
+    seen = messages_seen()
+    faults += [f"docs/method.md: no scenario sees \"{row}\"" for row in rows
+               if not any(pattern_of(row).fullmatch(message) for message in seen)]
+    faults += [f"docs/method.md does not list the message \"{message}\"" for message in seen
+               if message not in text
+               and not any(pattern_of(row).fullmatch(message) for row in rows)]
     return faults
+
+
+def pattern_of(row):
+    """A message of the documents; NAME, LIMIT and the like stand for what the program puts there."""
+    name = r"(?!The |Fluid data)[A-Z]"
+    places = {"NAME": name + "[^,]*", "NAMES": name + ".*", "gauge": "(?:gauge|absolute)",
+              "LIMIT": r"-?\d[\d.,\s\u2019\u066c]*", "UNIT": "[A-Za-z][^()]*"}
+    return re.compile("".join(places.get(word, re.escape(word))
+                              for word in re.split(r"(\b(?:NAMES?|LIMIT|UNIT|gauge)\b)", row)))
+
+
+def messages_seen():
+    """What the line at the bottom says in the scenarios, which are played on the program."""
+    return {json.loads(caption) for path in sorted((ROOT / "tests/scenarios").rglob("*.script"))
+            for caption in re.findall(r"^#= lblMsg\.caption (\"..*\")$", path.read_text(), re.M)}
 
 
 def limits():

@@ -104,32 +104,6 @@ TEST_P(PaperTest, FontsAreCourierNewOrItsEqualAndEmbedded) {
     EXPECT_EQ(fonts.filter("Italic").size(), 1);
 }
 
-TEST_P(PaperTest, LongCustomerIsNarrowedToTheMargin) {
-    module_.CustLine1 = "Acme Steam" + std::string(69, 'W') + "Z";
-    const PdfPage page = PageOf(LiquidSheet(), GetParam().paper);
-    EXPECT_EQ(page.LineOf(page.Word("Customer:")),
-              "Customer: " + QString::fromStdString(module_.CustLine1));
-    const double rightMargin = GetParam().width - GetParam().leftMargin;
-    for (const PdfWord& word : page.words) {
-        EXPECT_LE(word.right, rightMargin + 0.5) << word.text.toStdString();
-    }
-}
-
-TEST_P(PaperTest, OverlongCustomerEndsInAnEllipsisAtTheMargin) {
-    module_.CustLine1 = std::string(300, 'W');
-    module_.TagText = std::string(5000, 'x') + " y";
-    const PdfPage page = PageOf(LiquidSheet(), GetParam().paper);
-    const double rightMargin = GetParam().width - GetParam().leftMargin;
-    for (const char* label : {"Customer:", "Tag:"}) {
-        const QString line = page.LineOf(page.Word(label));
-        EXPECT_TRUE(line.endsWith(QChar(0x2026))) << line.toStdString();
-        EXPECT_GT(line.size(), 100) << line.toStdString();
-    }
-    for (const PdfWord& word : page.words) {
-        EXPECT_LE(word.right, rightMargin + 0.1) << word.text.toStdString();
-    }
-}
-
 TEST_P(PaperTest, PrinterThatCannotReachThePapersEdge) {
     const PdfPage page = PageOf(GasSheet(), GetParam().paper, QMarginsF(18, 12, 18, 12));
     EXPECT_NEAR(page.Word("Orifice").left, GetParam().leftMargin, 0.1);

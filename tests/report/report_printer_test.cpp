@@ -87,13 +87,6 @@ TEST_F(ReportPrinterTest, ReplacesAFileThatIsThere) {
     EXPECT_LT(QFile(File()).size(), 500000);
 }
 
-TEST_F(ReportPrinterTest, FileThatCannotBeWrittenIsAFailure) {
-    const PrintOutcome outcome = PrintTo(folder_.filePath("no such folder/page.pdf"));
-    EXPECT_EQ(outcome.status, PrintOutcome::Status::Failed);
-    EXPECT_FALSE(outcome.reason.isEmpty());
-    EXPECT_EQ(PrintTo(folder_.path()).status, PrintOutcome::Status::Failed);
-}
-
 TEST_F(ReportPrinterTest, FailureBoxOfAFileSpeaksOfAFile) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
@@ -121,6 +114,14 @@ class NoPrinterTest : public ReportPrinterTest {
             << "a printer is there: " << QPrinterInfo::defaultPrinterName().toStdString();
     }
 
+    static void PressDefaultButton(const QPrintDialog& dialog) {
+        for (auto* button : dialog.findChildren<QPushButton*>()) {
+            if (button->isDefault()) {
+                button->click();
+            }
+        }
+    }
+
     QWidget owner_;
 };
 
@@ -145,11 +146,7 @@ TEST_F(NoPrinterTest, DialogProposesAFileOfItsOwnForEachReport) {
     for (int report = 0; report < 3; ++report) {
         const ModalDriver<QPrintDialog> user([&proposed](QPrintDialog& dialog) {
             proposed << dialog.findChild<QLineEdit*>("filename")->text();
-            for (auto* button : dialog.findChildren<QPushButton*>()) {
-                if (button->isDefault()) {
-                    button->click();
-                }
-            }
+            PressDefaultButton(dialog);
         });
         PrintReport(owner_, platform_, Page(), QImage());
         EXPECT_TRUE(user.done());
@@ -169,11 +166,7 @@ TEST_F(NoPrinterTest, DialogProposesAFileOfItsOwnForEachReport) {
 TEST_F(NoPrinterTest, DialogPrintsIntoAPdfFile) {
     const ModalDriver<QPrintDialog> user([this](QPrintDialog& dialog) {
         dialog.findChild<QLineEdit*>("filename")->setText(File());
-        for (auto* button : dialog.findChildren<QPushButton*>()) {
-            if (button->isDefault()) {
-                button->click();
-            }
-        }
+        PressDefaultButton(dialog);
     });
     PrintReport(owner_, platform_, Page(), QImage());
     EXPECT_TRUE(user.done());

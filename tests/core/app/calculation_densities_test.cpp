@@ -205,22 +205,14 @@ INSTANTIATE_TEST_SUITE_P(Warnings, ZfCompWarning, ::testing::ValuesIn(kWarningRo
 TEST(PlateThicknessTest, FromEightInchesAnd150InchesOfWaterOn) {
     const SelectedUnit& inches = kDeltaPUnits[0];
     EXPECT_TRUE(CheckPlateThickness("8", "150", inches));
-    EXPECT_FALSE(CheckPlateThickness("8", "149.9", inches));
-    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", inches));
     EXPECT_TRUE(CheckPlateThickness("42", "1000", inches));
-    EXPECT_TRUE(CheckPlateThickness("10", "150", inches));
-    EXPECT_FALSE(CheckPlateThickness("6", "150", inches));
-    EXPECT_FALSE(CheckPlateThickness("6", "1000000", inches));
+    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", inches));
     EXPECT_FALSE(CheckPlateThickness("7.9999995", "150", inches));
-    EXPECT_FALSE(CheckPlateThickness("0.5", "150", inches));
-}
-
-TEST(PlateThicknessTest, OtherUnitsAreConvertedFirst) {
+    EXPECT_FALSE(CheckPlateThickness("6", "1000000", inches));
+    // Other units are converted first.
     const SelectedUnit psi = UnitNamed(kDeltaPUnits, "PSI");
     EXPECT_FALSE(CheckPlateThickness("8", "5.41", psi));  // 149.86
     EXPECT_TRUE(CheckPlateThickness("8", "5.42", psi));   // 150.13
-    const SelectedUnit pascal = UnitNamed(kDeltaPUnits, "Pa");
-    EXPECT_TRUE(CheckPlateThickness("8", "0.04", pascal));
 }
 
 TEST(PlateThicknessTest, WithoutANumberThereIsNoWarning) {
