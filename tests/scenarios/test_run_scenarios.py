@@ -144,34 +144,23 @@ class RunnerTest(unittest.TestCase):
         self.assert_red('state\n#| "Beta"\n', "must follow #= page N")
         self.assert_red('state\n#= page 1\n#| Beta\n', "not a JSON value")
 
-    def test_refusal_that_was_not_expected(self):
-        self.assert_red("click optGas\nstate\n#= calculations 3\n", "expected a state, found",
-                        [{"refused": "click optGas", "why": "hidden"}, STATE])
-
-    def test_refusal_that_did_not_come(self):
-        self.assert_red("click optGas\n#! refused\nstate\n#= calculations 3\n",
-                        "topic.script:2: expected a refusal of: click optGas, found a state")
-
-    def test_refusal_of_another_command(self):
-        self.assert_red("click optGas\n#! refused\n", "expected a refusal of: click optGas",
-                        [{"refused": "click optSteam", "why": "hidden"}])
-
-    def test_end_that_was_not_expected(self):
-        self.assert_red("state\n#= calculations 3\nclick cmdExit\n", "expected nothing more",
-                        [STATE, {"ended": "exit"}])
-
-    def test_other_end(self):
-        self.assert_red("click cmdExit\n#! ended exit\n", "expected the program's end (exit)",
-                        [{"ended": "fatal"}])
-
-    def test_output_that_stops_short(self):
-        self.assert_red("state\n#= calculations 3\nstate\n#= calculations 0\n",
-                        "found the end of the output")
-
-    def test_output_that_is_no_json(self):
-        self.assert_red("state\n#= calculations 3\n", "no JSON", ["QWidget: warning"])
-
-    def test_exit_status(self):
+    def test_output_that_is_not_the_expected(self):
+        refused = {"refused": "click optGas", "why": "hidden"}
+        for script, message, outputs in (
+                ("click optGas\nstate\n#= calculations 3\n", "expected a state, found",
+                 [refused, STATE]),
+                ("click optGas\n#! refused\nstate\n#= calculations 3\n",
+                 "topic.script:2: expected a refusal of: click optGas, found a state", [STATE]),
+                ("click optSteam\n#! refused\n", "expected a refusal of: click optSteam", [refused]),
+                ("state\n#= calculations 3\nclick cmdExit\n", "expected nothing more",
+                 [STATE, {"ended": "exit"}]),
+                ("click cmdExit\n#! ended exit\n", "expected the program's end (exit)",
+                 [{"ended": "fatal"}]),
+                ("state\n#= calculations 3\nstate\n#= calculations 0\n",
+                 "found the end of the output", [STATE]),
+                ("state\n#= calculations 3\n", "no JSON", ["QWidget: warning"])):
+            with self.subTest(message):
+                self.assert_red(script, message, outputs)
         self.assert_red("state\n#= calculations 3\n", "exit status 2", status=2)
 
     def test_player_that_is_not_there(self):
