@@ -36,10 +36,6 @@ class Invariants(unittest.TestCase):
         self.assertIsNotNone(found)
         self.assertEqual(found[0], name)
 
-    def test_options(self):
-        self.assert_breaks("one_of_each_group", self.step("click optGas"),
-                           ("optSteam", "value", True))
-
     def test_result_field(self):
         for key, value in (("locked", False), ("tabstop", True), ("backcolor", "window")):
             self.assert_breaks("locked_is_green", self.step("click optCalcBeta"),
@@ -47,26 +43,10 @@ class Invariants(unittest.TestCase):
         self.assert_breaks("locked_is_green", self.step("click optCalcDP"),
                            ("optCalcBeta", "backcolor", "0x00FF00"))
 
-    def test_printing(self):
-        for name in ("cmdPrint", "mnuPrint"):
-            self.assert_breaks("print_follows_the_result", self.step("type txtDeltaP 50"),
-                               (name, "enabled", False))
-        self.assert_breaks("print_follows_the_result", self.step("type txtDeltaP 50"),
-                           ("txtFlow", "text", ""))
-
-    def test_message(self):
-        self.assert_breaks("message_has_its_colour", self.step("type txtDeltaP 0"),
-                           ("lblMsg", "backcolor", "0x0000FF"))
-        self.assert_breaks("message_has_its_colour", self.step("type txtDeltaP 5"),
-                           ("lblMsg", "backcolor", "0x00FFFF"))
-
     def test_hidden_fields(self):
         step = self.step("type txtSGb 0", "choose cboFlowUnit Pounds")
-        self.assert_breaks("hidden_never_blocks", step, ("lblMsg", "backcolor", "0x00FFFF"),
-                           ("lblMsg", "caption",
-                            "Incomplete fluid data (Base Specific Gravity)."),
-                           ("txtFlow", "text", ""), ("cmdPrint", "enabled", False),
-                           ("mnuPrint", "enabled", False))
+        self.assert_breaks("hidden_never_blocks", step,
+                           ("lblMsg", "caption", "Incomplete fluid data (Base Specific Gravity)."))
 
     def test_numbers(self):
         for text in ("inf", "nan", "1e5x"):
@@ -75,14 +55,6 @@ class Invariants(unittest.TestCase):
         step = self.step("choose cboPipeIDUnit Millimeters")
         self.assert_breaks("no_infinity", step,
                            ("cboNomSize", "items", ["inf"] + step["cboNomSize"]["items"][1:]))
-
-    def test_lists(self):
-        self.assert_breaks("lists_have_a_selection", self.step("click optGas"),
-                           ("cboTimeUnit", "index", 0))
-
-    def test_picked_again(self):
-        self.assert_breaks("picked_again_changes_nothing", self.step("choose cboTimeUnit Minute"),
-                           ("txtFlow", "text", "142.4"))
 
     def test_solving_back(self):
         self.assert_breaks("solving_back_gives_the_inputs", self.step("click optCalcDP"),
