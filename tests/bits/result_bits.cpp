@@ -6,13 +6,13 @@
 // whole way of one edit: texts, checks, equation, result text; beside it stand the bits of what the
 // equations give for the same seed without the rounding to a text.
 #include "app/shared/module1.h"
-#include "app/shared/platform.h"
 #include "app/sheet/data_checks.h"
 #include "app/sheet/solve_sheet.h"
 #include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
 #include "calc/steam_table.h"
+#include "tests/core/recording_platform.h"
 #include "units/flow_units.h"
 #include "units/nominal_sizes.h"
 #include "units/unit_tables.h"
@@ -27,17 +27,6 @@
 
 namespace tarvix {
 namespace {
-
-class SilentPlatform : public Platform {
-  public:
-    int ShowMessageBox(const MessageBoxRequest& /*request*/) override { return kAnswerOk; }
-    std::optional<std::string> ShowInputBox(const InputBoxRequest& /*request*/) override {
-        return std::nullopt;
-    }
-    int CurrentSecond() override { return 0; }
-    void SleepUntilNextSecond() override {}
-    [[noreturn]] void EndProgram(int exitStatus) override { std::exit(exitStatus); }
-};
 
 // The same choices for a seed with every standard library: whole numbers and one division.
 class Choices {
@@ -180,7 +169,7 @@ std::string WorkingBits(const WorkingValues& working) {
 }
 
 void WriteSheets(std::uint64_t sheets, std::uint64_t seed) {
-    SilentPlatform platform;
+    testing::RecordingPlatform platform;
     Choices choices(seed);
     for (std::uint64_t number = 0; number < sheets; ++number) {
         Module1 module(platform, NumberLocale{});

@@ -6,6 +6,7 @@
 //
 // Writes the message boxes that the user would see, one a line, and "going on" at the end.
 #include "report/printer/report_printer.h"
+#include "tests/core/recording_platform.h"
 #include "tests/report/sample_sheets.h"
 #include "ui/windows/window_host_qt.h"
 
@@ -22,7 +23,7 @@
 namespace tarvix::testing {
 namespace {
 
-class PrintingPlatform : public Platform {
+class PrintingPlatform : public RecordingPlatform {
   public:
     int ShowMessageBox(const MessageBoxRequest& request) override {
         std::string text = request.text;
@@ -30,11 +31,6 @@ class PrintingPlatform : public Platform {
         std::cout << "box: " << request.title << ": " << text << std::endl;
         return kAnswerOk;
     }
-    std::optional<std::string> ShowInputBox(const InputBoxRequest& /*request*/) override {
-        return std::nullopt;
-    }
-    int CurrentSecond() override { return 0; }
-    void SleepUntilNextSecond() override {}
     [[noreturn]] void EndProgram(int exitStatus) override { std::exit(exitStatus); }
 };
 

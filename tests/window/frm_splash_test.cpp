@@ -138,6 +138,13 @@ const WaitRow kWaitRows[] = {
     {"RollsOverAndEndsEarly", {58, 58, 59, 0, 1, 2}, 4},  // 58 to 0 is a difference of 58
     {"StartsInTheLastSecond", {59, 59, 0, 1, 2}, 3},
     {"StartsBeforeTheLastSeconds", {56, 57, 58, 59, 0}, 4},
+    // A clock that is set meanwhile.
+    {"SetBackByAFewSeconds", {30, 30, 31, 27}, 4},
+    {"SetBackByASecondWaitsLonger", {30, 31, 29, 30, 31, 32, 33}, 7},
+    {"SetBackByHoursIsNotNoticed", {30, 31, 31, 32, 33}, 5},
+    {"SetBackAcrossTheMinute", {1, 2, 58}, 3},
+    {"SetForward", {30, 45}, 2},
+    {"LeapSecondIsARollover", {58, 59, 60, 0}, 4},
 };
 
 INSTANTIATE_TEST_SUITE_P(Clocks, SplashWait, ::testing::ValuesIn(kWaitRows), kRowName);
