@@ -159,6 +159,16 @@ class Desk:
         """The title of the window that has the keyboard."""
         return self.xdotool("getactivewindow", "getwindowname")
 
+    def search(self, title):
+        """The windows on the screen whose titles match. The search breaks off without an answer where
+        a window goes away while it looks, be it the clipboard's; then it looks again."""
+        def look():
+            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                                   env=self.environment, text=True, capture_output=True,
+                                   timeout=PATIENCE, check=False)
+            return None if "X Error" in found.stderr else (found.stdout.split(),)
+        return wait_until("a search for windows", look)[0]
+
     def take_picture(self, file):
         subprocess.run(["import", "-window", "root", str(file)], env=self.environment,
                        timeout=PATIENCE, check=True)

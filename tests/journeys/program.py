@@ -102,8 +102,8 @@ class Program:
 
     def wait_for_splash(self):
         """The first window. It answers nothing, so all that can be seen is that it is there."""
-        wait_until("a first window", lambda: self.is_running() and self.desk.xdotool(
-            "search", "--onlyvisible", "--name", "^Brindle Tarvix$"))
+        wait_until("a first window", lambda: self.is_running() and self.desk.search(
+            "^Brindle Tarvix$"))
 
     def wait_for_main_window(self):
         self.application = wait_until("the program on the accessibility bus", self.look_for_it)

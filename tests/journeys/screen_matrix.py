@@ -91,8 +91,8 @@ class Window:
 
     def frame(self):
         """Left, top, right and bottom on the screen, with what the window manager adds."""
-        window = desks.wait_until("the window", lambda: self.desk.xdotool(
-            "search", "--onlyvisible", "--name", "^Brindle Tarvix$")).split()[-1]
+        window = desks.wait_until("the window", lambda: self.desk.search(
+            "^Brindle Tarvix$"))[-1]
         info = self.output_of("xwininfo", "-id", window)
         left, top, width, height = (
             int(re.search(rf"{what}: +(-?\d+)", info).group(1))

@@ -216,8 +216,8 @@ class UseJourney(journeys.Journey):
         wait_until("the first line is typed into", lambda: line.text == "Northfield")
         self.desk.press("Return")
         # Without a printer, a dialog offers a file.
-        wait_until("the window is gone and the print dialog there", lambda: self.desk.xdotool(
-            "search", "--onlyvisible", "--name", "^Print$"))
+        wait_until("the window is gone and the print dialog there", lambda: self.desk.search(
+            "^Print$"))
 
     # ---- The nominal sizes in a comma system ----
 
