@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMarginsF>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -166,6 +167,8 @@ QString FreeFileName(const QString& folder, const std::string& documentName) {
 
 PrintOutcome PrintReportOn(QPrinter& printer, const ReportPage& page, const QImage& logo) {
     printer.setFullPage(true);
+    // Windows' print engine counts from the printer's own margins in this mode, too.
+    printer.setPageMargins(QMarginsF());
     printer.setDocName(JobName(page));
     printer.setCreator(kCreator);
     return printer.outputFormat() == QPrinter::PdfFormat ? PrintToFile(printer, page, logo)
