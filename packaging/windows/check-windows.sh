@@ -5,6 +5,8 @@
 #                            Qt for Windows is built already (build-qt.sh), the whole program as well,
 #                            with a part of the scenarios and a few random sessions
 # check-windows.sh --full    all of it; builds Qt where it is not there
+# check-windows.sh --twice   what --full ends with: the program is made again from its archive of
+#                            sources, in another folder and without a compiler cache, to the same bytes
 #
 # Pictures and printed pages are left in build/windows/pictures.
 set -euo pipefail
@@ -17,7 +19,7 @@ source "$here/common.sh"
 root=$(project_root)
 out=$root/build/windows
 tests=$root/tests/windows
-full=${1:-}
+mode=${1:-}
 
 # Debian has the sources of GoogleTest, not its library for Windows.
 build_googletest() {
@@ -33,10 +35,13 @@ build_googletest() {
     } >"$build.log" 2>&1 || { tail -n 40 "$build.log" >&2; fail "GoogleTest could not be built."; }
 }
 
-# The same program for this machine, to compare with.
+# build_for_here PRESET TARGET...: the same for this machine, to compare with.
 build_for_here() {
-    cmake --preset "$1" >"$out/here.log" 2>&1 || { cat "$out/here.log" >&2; fail "no preset $1."; }
-    cmake --build --preset "$1" --target "$2" -- --quiet || fail "$2 could not be built."
+    local preset=$1
+    shift
+    cmake --preset "$preset" >"$out/here.log" 2>&1 ||
+        { cat "$out/here.log" >&2; fail "no preset $preset."; }
+    cmake --build --preset "$preset" --target "$@" -- --quiet || fail "$* could not be built."
 }
 
 check_core() {
@@ -58,9 +63,9 @@ prove() {
 check_window() {
     local build=$1 sample=() sessions=(--sessions 2 --actions 150)
     say "The whole program under Wine"
-    build_for_here dev window_script
+    build_for_here dev window_script tarvix
     build_windows "$build" window_script system_locale_tests
-    if [ "$full" = --full ]; then
+    if [ "$mode" = --full ]; then
         sessions=(--sessions 30 --actions 200)
     else
         sample=(--every 8)
@@ -68,15 +73,40 @@ check_window() {
     prove "$tests/window_under_wine.py" "${sample[@]}" "${sessions[@]}" \
         "$root/build/dev/bin/window_script" "$build/bin/window_script.exe" \
         "$build/bin/system_locale_tests.exe"
-    prove "$tests/program_under_wine.py" "$out/Tarvix" "$root/build/dev/bin/window_script" "$out/pictures"
+    prove "$tests/program_under_wine.py" "$out/Tarvix" \
+        "$root"/build/dev/bin/{window_script,tarvix} "$out/pictures"
     prove "$tests/installer_under_wine.py" "$out"/tarvix-*-setup.exe "$out/Tarvix"
+}
+
+# The same sources give the same bytes. What is built here goes on to be tested; what is built there
+# comes from the archive that is handed on.
+check_twice() {
+    local elsewhere product tree different=0
+    say "The program once more, from its archive of sources"
+    elsewhere=$(mktemp -d "${TMPDIR:-/tmp}/tarvix-made-again-XXXXXX")
+    # shellcheck disable=SC2064  # of the folder that it is now
+    trap "rm -rf '$elsewhere'" EXIT
+    (cd "$elsewhere" && cmake -E tar xf "$out"/tarvix-*-source.zip)
+    tree=$(echo "$elsewhere"/tarvix-*)
+    CCACHE_DISABLE=1 "$tree/packaging/windows/make-windows.sh" >"$out/again.log" 2>&1 ||
+        { tail -n 20 "$out/again.log" >&2; fail "the program could not be made again."; }
+    for product in "$out"/tarvix-*.{zip,exe} "$out/Tarvix/tarvix.exe"; do
+        cmp "$product" "$tree/build/windows/${product#"$out/"}" || different=$((different + 1))
+    done
+    [ "$different" -eq 0 ] || fail "$different files came out different."
+    say "$(sha256sum "$out"/tarvix-*.{zip,exe} | sed "s,  $out/,  ,")" "The same bytes."
 }
 
 install_packages windows
 use_compiler_cache
 mkdir -p "$out"
+if [ "$mode" = --twice ]; then
+    "$here/make-windows.sh"
+    check_twice
+    exit 0
+fi
 build_googletest
-if [ "$full" != --full ] && ! qt=$("$here/build-qt.sh" --find); then
+if [ "$mode" != --full ] && ! qt=$("$here/build-qt.sh" --find); then
     configure_windows "$out/core" -DTARVIX_BUILD_WINDOW=OFF "-DCMAKE_PREFIX_PATH=$out/googletest"
     check_core "$out/core"
     say "NOT CHECKED: the window on Windows, for Qt for Windows is not built on this machine." \
@@ -91,3 +121,4 @@ options[0]+=";$out/googletest"
 configure_windows "$out/program" "${options[@]}" -DTARVIX_BUILD_TESTS=ON
 check_core "$out/program"
 check_window "$out/program"
+if [ "$mode" = --full ]; then check_twice; fi

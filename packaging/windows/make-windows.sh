@@ -24,10 +24,9 @@ version=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' "$root/CMakeLists.txt")
 copyright=$(sed -n '/^Copyright/p' "$root/LICENSE")
 umask 022
 
-# Times in archives: the last commit's, whatever the clock says.
+# Times in archives: the version's, whatever the clock says and whether or not git is there.
 source_date() {
-    git -C "$root" log -1 --format=%ct 2>/dev/null ||
-        dpkg-parsechangelog -l "$root/packaging/debian/changelog" -STimestamp
+    dpkg-parsechangelog -l "$root/packaging/debian/changelog" -STimestamp
 }
 
 # zip_folder ARCHIVE PARENT NAME...: packs files and folders of PARENT with names in one order and

@@ -2,11 +2,12 @@
 """The Windows program as it is handed on, under Wine on a real X server: started, driven by keys
 through a run of each fluid, printed through Windows' print system; and what goes wrong around it.
 
-    program_under_wine.py PROGRAM_FOLDER PLAYER PICTURES
+    program_under_wine.py PROGRAM_FOLDER PLAYER PROGRAM PICTURES
 
 PLAYER is this machine's script player, which rehearses every run and says what the page must say; the
-results beside the runs are worked out by hand. Pictures of the window and the pages are left in the
-folder PICTURES. Exit status 77: the desktop can't be set up here.
+results beside the runs are worked out by hand. PROGRAM is this machine's program, whose page of the
+same run, from the same printer, must look the same. Pictures of the window and the pages are left in
+the folder PICTURES. Exit status 77: the desktop can't be set up here.
 """
 
 import pathlib
@@ -17,6 +18,7 @@ import sys
 import tempfile
 import unittest
 
+import same_page
 import windows_desk
 from rehearsal import Rehearsal
 from windows_desk import TITLE, wait_until
@@ -30,6 +32,7 @@ DATE = re.compile(r"^\d\d \S+ \d{4}\b")
 
 program_folder = pathlib.Path()
 player = ""
+program_here = pathlib.Path()
 pictures = pathlib.Path()
 
 
@@ -116,11 +119,18 @@ class WindowsCase(unittest.TestCase):
                                             stderr=subprocess.DEVNULL)
         return self.process
 
+    def start_here(self, locale):
+        """This machine's program, on the same desk with the same printer."""
+        self.process = subprocess.Popen(
+            [program_here], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL, env=self.desk.environment_here(locale))
+        return self.process
+
     def start_to_main_window(self, folder=None):
         return self.desk.wait_for_window(process=self.start(folder))
 
     def visible_windows(self):
-        return self.desk.desk.xdotool("search", "--onlyvisible", "--name", ".").split()
+        return self.desk.desk.search(".")
 
     def picture(self, name):
         self.desk.desk.take_picture(pictures / f"{name}.png")
@@ -136,15 +146,6 @@ class WindowsCase(unittest.TestCase):
 
 class Journey(WindowsCase):
     def print_page(self, main_window):
-        """Prints; again where Wine has handed over the job, which it does once and without asking what
-        became of it, and the print server has not taken it."""
-        for _ in range(3):
-            self.ask_for_page(main_window)
-            if self.desk.page_comes(20):
-                break
-        return self.desk.next_page()
-
-    def ask_for_page(self, main_window):
         self.desk.printer.pages.clear()
         self.desk.desk.press("ctrl+p")
         customer_window = self.desk.wait_for_window(other_than=main_window)
@@ -152,13 +153,10 @@ class Journey(WindowsCase):
             if number:
                 self.desk.desk.press("Tab")
             self.enter(line)
-
-        def is_closed():
-            if customer_window in self.visible_windows():
-                self.desk.desk.press("Return")
-                return False
-            return True
-        wait_until("the customer window closes", is_closed)
+        self.desk.desk.press("Return")
+        wait_until("the customer window closes",
+                   lambda: customer_window not in self.visible_windows())
+        return self.desk.next_page()
 
     def enter(self, text):
         """Types into the field that has the focus; again, where the window had no ear for it yet."""
@@ -169,6 +167,27 @@ class Journey(WindowsCase):
             return self.desk.copy() == text
         wait_until(f"{text} in its field", stands_there)
 
+    def go_through(self, rehearsal, name, process):
+        """The run by keys in a program that has been started, to its end; the page's file."""
+        main_window = self.desk.wait_for_window(process=process)
+        self.desk.press_all(rehearsal.keys)
+        result = rehearsal.text("txtFlow")
+        wait_until(f"the result {result}", lambda: self.desk.copy() == result)
+        self.picture(name)
+        file = pictures / f"{name}.pdf"
+        shutil.copy(self.print_page(main_window), file)
+        self.leave()
+        return file
+
+    def check_lines(self, file, expected):
+        text = subprocess.run(["pdftotext", "-layout", str(file), "-"], capture_output=True,
+                              encoding="utf-8", check=True).stdout
+        printed = [words(line) for line in
+                   same_page.without_soft_hyphens(text).replace("\f", "").splitlines() if line.strip()]
+        # The month's name is the system's own.
+        self.assertEqual([DATE.sub("DATE", line) for line in printed],
+                         [DATE.sub("DATE", line) for line in expected])
+
     def run_through(self, fluid, locale):
         rehearsal = Rehearsal(player, locale)
         by_hand = in_locale(getattr(Runs, fluid)(rehearsal, locale), locale)
@@ -176,22 +195,11 @@ class Journey(WindowsCase):
         self.assertIn(by_hand, expected)
 
         self.desk.wine.set_locale(locale)
-        main_window = self.start_to_main_window()
-        self.desk.press_all(rehearsal.keys)
-        result = rehearsal.text("txtFlow")
-        wait_until(f"the result {result}", lambda: self.desk.copy() == result)
-        self.picture(f"{fluid}-{locale}")
-        file = self.print_page(main_window)
-        shutil.copy(file, pictures / f"{fluid}-{locale}.pdf")
-        text = subprocess.run(["pdftotext", "-layout", str(file), "-"], capture_output=True,
-                              encoding="utf-8", check=True).stdout
-        # Wine's fonts have one shape for the hyphen and the soft one, and call it the latter.
-        printed = [words(line) for line in text.replace("\f", "").replace("\u00ad", "-").splitlines()
-                   if line.strip()]
-        # The month's name is the system's own.
-        self.assertEqual([DATE.sub("DATE", line) for line in printed],
-                         [DATE.sub("DATE", line) for line in expected])
-        self.leave()
+        windows_page = self.go_through(rehearsal, f"{fluid}-{locale}", self.start())
+        self.check_lines(windows_page, expected)
+        page_here = self.go_through(rehearsal, f"{fluid}-{locale}-here", self.start_here(locale))
+        self.check_lines(page_here, expected)
+        self.assertEqual(same_page.differences(windows_page, page_here), [])
 
     def test_runs(self):
         for locale in ("en_US", "de_DE"):
@@ -260,12 +268,12 @@ class Surroundings(WindowsCase):
 
 
 def main():
-    global program_folder, player, pictures
-    if len(sys.argv) < 4:
+    global program_folder, player, program_here, pictures
+    if len(sys.argv) < 5:
         print(__doc__, file=sys.stderr)
         return 2
-    program_folder, player, pictures = (pathlib.Path(argument).absolute()
-                                        for argument in sys.argv[1:4])
+    program_folder, player, program_here, pictures = (pathlib.Path(argument).absolute()
+                                                      for argument in sys.argv[1:5])
     pictures.mkdir(parents=True, exist_ok=True)
     try:
         with tempfile.TemporaryDirectory(prefix="tarvix-windows-") as folder, \
@@ -275,7 +283,7 @@ def main():
             windows_desk.windows.CannotRun) as reason:
         print(f"SKIPPED: the program under Wine: {reason}")
         return SKIPPED
-    result = unittest.main(argv=[sys.argv[0], *sys.argv[4:]], exit=False, verbosity=2,
+    result = unittest.main(argv=[sys.argv[0], *sys.argv[5:]], exit=False, verbosity=2,
                            warnings="ignore").result
     return 0 if result.wasSuccessful() else 1
 

@@ -7,7 +7,6 @@ import pathlib
 import re
 import subprocess
 import sys
-import time
 
 TESTS = pathlib.Path(__file__).resolve().parent.parent
 sys.path[:0] = [str(TESTS / "journeys"), str(TESTS / "report")]
@@ -34,18 +33,24 @@ class WindowsDesk:
         folder.chmod(0o755)
         self.desk = desks.Desk(folder / "desk")
         try:
-            extra = {"DISPLAY": self.desk.environment["DISPLAY"]}
+            self.printing = {}
             if printers:
                 self.system = print_journey.PrintSystem(folder / "print")
                 self.printer = print_journey.NetworkPrinter()
                 self.system.add_printer(self.printer.port)
-                extra |= {name: self.system.environment[name]
-                          for name in ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")}
-            self.wine = windows.Wine(folder / "windows", extra)
+                self.printing = {name: self.system.environment[name]
+                                 for name in ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")}
+            self.wine = windows.Wine(folder / "windows", self.printing |
+                                     {"DISPLAY": self.desk.environment["DISPLAY"]})
         except BaseException:
             self.stop()
             raise
         self.pages = folder / "print"
+
+    def environment_here(self, locale):
+        """What a program of this machine needs to run on the same desk with the same printer."""
+        return {**self.desk.environment, **self.printing, "LC_ALL": f"{locale}.UTF-8",
+                "LOCPATH": self.wine.environment["LOCPATH"]}
 
     def stop(self):
         for part in (self.wine, self.desk, self.system):
@@ -57,7 +62,7 @@ class WindowsDesk:
     # Windows, seen from outside.
 
     def windows(self, title=TITLE):
-        return self.desk.xdotool("search", "--onlyvisible", "--name", f"^{re.escape(title)}$").split()
+        return self.desk.search(f"^{re.escape(title)}$")
 
     def has_frame(self, window):
         extents = subprocess.run(["xprop", "-id", window, "_NET_FRAME_EXTENTS"], text=True,
@@ -94,13 +99,6 @@ class WindowsDesk:
         return wait_until("the program copies", look).replace("\r", "")
 
     # Pages.
-
-    def page_comes(self, seconds):
-        """Whether a page comes to the printer in this time."""
-        end = time.monotonic() + seconds
-        while not self.printer.pages and time.monotonic() < end:
-            time.sleep(0.1)
-        return bool(self.printer.pages)
 
     def next_page(self):
         """The file of the page that comes next to the printer."""
