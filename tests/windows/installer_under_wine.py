@@ -8,14 +8,13 @@ PROGRAM_FOLDER: what has to be installed. Exit status 77: the desktop can't be s
 """
 
 import pathlib
-import subprocess
 import sys
 import tempfile
 import unittest
 
 import windows_desk
-from windows_desk import wait_until
 
+wait_until = windows_desk.desks.wait_until
 SKIPPED = 77
 UNINSTALL = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall"
 
@@ -53,12 +52,6 @@ class Installer(unittest.TestCase):
         # It goes on as a copy of itself, so that it can take itself away.
         wait_until("the uninstaller has ended", lambda: not self.installed.exists())
 
-    def start_and_leave(self):
-        process = self.wine.popen(self.installed / "tarvix.exe", stdin=subprocess.DEVNULL,
-                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self.desk.wait_for_window(process=process)
-        return process
-
     def test_installed_started_removed(self):
         before = self.everything()
         self.install()
@@ -71,11 +64,12 @@ class Installer(unittest.TestCase):
         for name in ("DisplayName", "DisplayVersion", "UninstallString", "QuietUninstallString"):
             self.assertIn(name, entry)
 
-        process = self.start_and_leave()
+        self.desk.start_windows_program(self.installed / "tarvix.exe")
+        self.desk.wait_for_window()
         # While it runs it is neither replaced nor removed.
         self.assertEqual(self.wine.run(setup, "/S").returncode, 2)
         self.desk.desk.press("alt+F4")
-        self.assertEqual(process.wait(windows_desk.desks.PATIENCE), 0)
+        self.assertEqual(self.desk.program_ends(), 0)
         # Once more over itself, as an update does.
         self.install()
 

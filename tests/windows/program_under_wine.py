@@ -21,7 +21,7 @@ import unittest
 import same_page
 import windows_desk
 from rehearsal import Rehearsal
-from windows_desk import TITLE, wait_until
+from windows_desk import TITLE
 
 SKIPPED = 77
 LOGOS = ("BrindleLogo.jpg", "VeltraneLogo.jpg")
@@ -104,30 +104,18 @@ class WindowsCase(unittest.TestCase):
         cls.addClassCleanup(cls.desk.stop)
 
     def setUp(self):
-        self.process = None
-        self.addCleanup(self.end_program)
-
-    def end_program(self):
-        if self.process is not None and self.process.poll() is None:
-            self.process.kill()
-        if self.process is not None:
-            self.process.wait()
+        self.addCleanup(self.desk.end_program)
 
     def start(self, folder=None):
-        self.process = self.desk.wine.popen((folder or program_folder) / "tarvix.exe",
-                                            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                            stderr=subprocess.DEVNULL)
-        return self.process
+        self.desk.start_windows_program((folder or program_folder) / "tarvix.exe")
 
     def start_here(self, locale):
         """This machine's program, on the same desk with the same printer."""
-        self.process = subprocess.Popen(
-            [program_here], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL, env=self.desk.environment_here(locale))
-        return self.process
+        self.desk.start([program_here], self.desk.environment_here(locale))
 
     def start_to_main_window(self, folder=None):
-        return self.desk.wait_for_window(process=self.start(folder))
+        self.start(folder)
+        return self.desk.wait_for_window()
 
     def visible_windows(self):
         return self.desk.desk.search(".")
@@ -141,7 +129,7 @@ class WindowsCase(unittest.TestCase):
         self.desk.desk.press("x")
         self.desk.wait_for_window("Program Termination")
         self.desk.desk.press("Return")
-        self.assertEqual(self.process.wait(windows_desk.desks.PATIENCE), 0)
+        self.assertEqual(self.desk.program_ends(), 0)
 
 
 class Journey(WindowsCase):
@@ -154,8 +142,8 @@ class Journey(WindowsCase):
                 self.desk.desk.press("Tab")
             self.enter(line)
         self.desk.desk.press("Return")
-        wait_until("the customer window closes",
-                   lambda: customer_window not in self.visible_windows())
+        self.desk.wait_until("the customer window closes",
+                             lambda: customer_window not in self.visible_windows())
         return self.desk.next_page()
 
     def enter(self, text):
@@ -165,14 +153,14 @@ class Journey(WindowsCase):
             self.desk.desk.write(text)
             self.desk.desk.press("ctrl+a")
             return self.desk.copy() == text
-        wait_until(f"{text} in its field", stands_there)
+        self.desk.wait_until(f"{text} in its field", stands_there)
 
-    def go_through(self, rehearsal, name, process):
+    def go_through(self, rehearsal, name):
         """The run by keys in a program that has been started, to its end; the page's file."""
-        main_window = self.desk.wait_for_window(process=process)
+        main_window = self.desk.wait_for_window()
         self.desk.press_all(rehearsal.keys)
         result = rehearsal.text("txtFlow")
-        wait_until(f"the result {result}", lambda: self.desk.copy() == result)
+        self.desk.wait_until(f"the result {result}", lambda: self.desk.copy() == result)
         self.picture(name)
         file = pictures / f"{name}.pdf"
         shutil.copy(self.print_page(main_window), file)
@@ -195,9 +183,11 @@ class Journey(WindowsCase):
         self.assertIn(by_hand, expected)
 
         self.desk.wine.set_locale(locale)
-        windows_page = self.go_through(rehearsal, f"{fluid}-{locale}", self.start())
+        self.start()
+        windows_page = self.go_through(rehearsal, f"{fluid}-{locale}")
         self.check_lines(windows_page, expected)
-        page_here = self.go_through(rehearsal, f"{fluid}-{locale}-here", self.start_here(locale))
+        self.start_here(locale)
+        page_here = self.go_through(rehearsal, f"{fluid}-{locale}-here")
         self.check_lines(page_here, expected)
         self.assertEqual(same_page.differences(windows_page, page_here), [])
 
@@ -206,7 +196,7 @@ class Journey(WindowsCase):
             for fluid in ("liquid", "gas", "steam"):
                 with self.subTest(fluid=fluid, locale=locale):
                     self.run_through(fluid, locale)
-                self.end_program()
+                self.desk.end_program()
 
 
 class Surroundings(WindowsCase):
@@ -220,7 +210,7 @@ class Surroundings(WindowsCase):
         return folder
 
     def expect_box(self, text):
-        self.desk.wait_for_window(process=self.process)
+        self.desk.wait_for_window()
         copied = self.desk.copy()
         self.assertEqual([line for line in copied.splitlines() if line.strip("- ")][:2],
                          [TITLE, text])
@@ -235,7 +225,7 @@ class Surroundings(WindowsCase):
                 self.expect_box(f"Run-time error: File not found: {path}")
                 self.picture(f"missing-{logo}")
                 self.desk.desk.press("Return")
-                self.assertEqual(self.process.wait(windows_desk.desks.PATIENCE), 1)
+                self.assertEqual(self.desk.program_ends(), 1)
                 (folder / "elsewhere").rename(folder / logo)
 
     def test_awkward_folder_that_is_read_only(self):
@@ -257,12 +247,12 @@ class Surroundings(WindowsCase):
         customer_window = self.desk.wait_for_window(other_than=main_window)
         self.desk.desk.press("Return")
         # Some window asks where to print; cancelled, nothing is printed and the program goes on.
-        wait_until("a dialog", lambda: self.desk.desk.xdotool("getactivewindow") not in
-                   (main_window, customer_window, ""))
+        self.desk.wait_until("a dialog", lambda: self.desk.desk.xdotool("getactivewindow") not in
+                             (main_window, customer_window, ""))
         self.picture("no-printer")
         # By its title bar: Wine's dialog hears no Escape.
         self.desk.desk.press("alt+F4")
-        wait_until("the main window alone", lambda: self.visible_windows() == [main_window])
+        self.desk.wait_until("the main window alone", lambda: self.visible_windows() == [main_window])
         self.desk.desk.xdotool("windowactivate", "--sync", main_window)
         self.leave()
 

@@ -14,7 +14,6 @@ import desk as desks  # noqa: E402  (found by the line above)
 import print_journey  # noqa: E402
 import wine as windows  # noqa: E402
 
-wait_until = desks.wait_until
 TITLE = "Brindle Tarvix"
 # What the script player calls keys, and what X calls them.
 KEYS = {"{Tab}": "Tab", "{Left}": "Left", "{Right}": "Right", "{Enter}": "Return",
@@ -26,7 +25,7 @@ class WindowsDesk:
 
     def __init__(self, folder, printers=True):
         folder = pathlib.Path(folder)
-        self.system = self.printer = self.wine = None
+        self.system = self.printer = self.wine = self.program = None
         (folder / "desk").mkdir()
         (folder / "windows").mkdir()
         (folder / "print").mkdir()
@@ -53,11 +52,44 @@ class WindowsDesk:
                 "LOCPATH": self.wine.environment["LOCPATH"]}
 
     def stop(self):
+        self.end_program()
         for part in (self.wine, self.desk, self.system):
             if part is not None:
                 part.stop()
         if self.printer is not None:
             self.printer.close()
+
+    # A program on the desk.
+
+    def start(self, command, environment):
+        """Starts the program that the hands and eyes are for."""
+        self.program = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def start_windows_program(self, file):
+        self.start([self.wine.tool("wine"), str(file)], self.wine.environment)
+
+    def program_ends(self):
+        """Waits until the program ends by itself; its exit status."""
+        status = self.program.wait(desks.PATIENCE)
+        self.program = None
+        return status
+
+    def end_program(self):
+        """Ends the program, where it has not ended by itself."""
+        if self.program is not None:
+            self.program.kill()
+            self.program.wait()
+            self.program = None
+
+    def wait_until(self, what, condition):
+        """Waits for something that the program does; not any longer once it has ended."""
+        def look():
+            result = condition()
+            assert result or self.program is None or self.program.poll() is None, (
+                f"the program ended with exit status {self.program.returncode} before {what}")
+            return result
+        return desks.wait_until(what, look)
 
     # Windows, seen from outside.
 
@@ -69,15 +101,14 @@ class WindowsDesk:
                                  env=self.desk.environment, capture_output=True, check=False).stdout
         return any(number != "0" for number in re.findall(r"\d+", extents))
 
-    def wait_for_window(self, title=TITLE, process=None, other_than=None):
+    def wait_for_window(self, title=TITLE, other_than=None):
         """The window of this title that has a frame (the splash has none) and the keyboard."""
         def look():
-            assert process is None or process.poll() is None, "the program ended"
             active = self.desk.xdotool("getactivewindow")
             if active == other_than or active not in self.windows(title):
                 return None
             return active if self.has_frame(active) else None
-        return wait_until(f"a window '{title}'", look)
+        return self.wait_until(f"a window '{title}'", look)
 
     # Hands.
 
@@ -96,14 +127,14 @@ class WindowsDesk:
                 ["xclip", "-selection", "clipboard", "-o", "-t", "UTF8_STRING"], timeout=20,
                 env=self.desk.environment, capture_output=True, check=False).stdout.decode()
             return found if found != "nothing copied" else None
-        return wait_until("the program copies", look).replace("\r", "")
+        return self.wait_until("the program copies", look).replace("\r", "")
 
     # Pages.
 
     def next_page(self):
         """The file of the page that comes next to the printer."""
-        wait_until(f"a page at the printer; the server's log ends:\n{self.system.log()}",
-                   lambda: self.printer.pages)
+        self.wait_until(f"a page at the printer; the server's log ends:\n{self.system.log()}",
+                        lambda: self.printer.pages)
         data = self.printer.pages.pop(0)
         file = self.pages / "page.pdf"
         file.write_bytes(data[data.index(b"%PDF"):])

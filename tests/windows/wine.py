@@ -77,10 +77,6 @@ class Wine:
         return next(user for user in (self.prefix / "drive_c/users").iterdir()
                     if user.name != "Public")
 
-    def popen(self, program, *arguments, **options):
-        return subprocess.Popen([self.tool("wine"), str(program), *map(str, arguments)],
-                                env=self.environment, **options)
-
     def run(self, program, *arguments, **options):
         """Runs a program to its end and returns what it wrote and its exit status."""
         return subprocess.run([self.tool("wine"), str(program), *map(str, arguments)],
