@@ -52,7 +52,8 @@ class NetworkPrinter:
         self.pages = []
         self.listener = socket.create_server(("127.0.0.1", 0))
         self.port = self.listener.getsockname()[1]
-        threading.Thread(target=self.serve, daemon=True).start()
+        self.thread = threading.Thread(target=self.serve, daemon=True)
+        self.thread.start()
 
     def serve(self):
         while True:
@@ -64,6 +65,10 @@ class NetworkPrinter:
                 self.pages.append(job.read())
 
     def close(self):
+        """Wakes the thread and waits for its end. Left waiting at a descriptor that has been closed, it
+        would take a page from the next printer, whose descriptor has the same number."""
+        self.listener.shutdown(socket.SHUT_RDWR)
+        self.thread.join(PATIENCE)
         self.listener.close()
 
 

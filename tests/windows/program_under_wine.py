@@ -195,7 +195,11 @@ class Journey(WindowsCase):
         for locale in ("en_US", "de_DE"):
             for fluid in ("liquid", "gas", "steam"):
                 with self.subTest(fluid=fluid, locale=locale):
-                    self.run_through(fluid, locale)
+                    try:
+                        self.run_through(fluid, locale)
+                    except AssertionError:
+                        self.picture(f"{fluid}-{locale}-failed")
+                        raise
                 self.desk.end_program()
 
 

@@ -55,6 +55,11 @@ class Wine:
         self.set_locale("en_US")
         self.wine("wineboot", "-i")
         self.write_registry()
+        # Windows shuts down when its last program ends, and a program that starts meanwhile fails. So
+        # one program is always there: an interpreter that waits for a command.
+        self.first_program = subprocess.Popen(
+            [self.tool("wine"), "cmd"], env=self.environment, stdin=subprocess.PIPE,
+            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     @staticmethod
     def tool(name):
@@ -108,12 +113,9 @@ class Wine:
         done = self.run("reg", "query", key, "/s")
         return done.stdout.decode(errors="replace") if done.returncode == 0 else ""
 
-    def wait(self):
-        """Waits until no Windows program runs any more."""
-        subprocess.run([self.tool("wineserver"), "-w"], env=self.environment, timeout=PATIENCE,
-                       check=True)
-
     def stop(self):
         for argument in ("-k", "-w"):
             subprocess.run([self.tool("wineserver"), argument], env=self.environment,
                            capture_output=True, timeout=PATIENCE, check=False)
+        self.first_program.stdin.close()
+        self.first_program.wait(PATIENCE)
