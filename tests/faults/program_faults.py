@@ -89,6 +89,13 @@ class ProgramCase(unittest.TestCase):
         desk.wait_until("the program ends", has_ended)
         return process.returncode
 
+    def ask_to_exit(self, window):
+        """Chooses Exit in the menu, which asks whether it shall be."""
+        self.desk.xdotool("windowactivate", "--sync", window)
+        self.desk.press("alt+f")
+        self.desk.press("x")
+        desk.wait_until("the question", lambda: self.windows("Program Termination"))
+
     def ended(self, process):
         return process.wait(desk.PATIENCE)
 
@@ -215,10 +222,7 @@ class SmallScreen(ProgramCase):
         self.assertLessEqual(left + width, 640 + border)
         self.assertLessEqual(top + height, 480 + border)
         # The box of the exit can be reached and answered.
-        self.desk.xdotool("windowactivate", "--sync", window)
-        self.desk.press("alt+f")
-        self.desk.press("x")
-        desk.wait_until("the question", lambda: self.windows("Program Termination"))
+        self.ask_to_exit(window)
         self.desk.press("Return")
         self.assertEqual(self.ended(process), 0)
 
@@ -250,10 +254,7 @@ class DisplayGone(ProgramCase):
     def test_while_a_question_is_open(self):
         process = self.start()
         window = self.wait_for_main_window()[0]
-        self.desk.xdotool("windowactivate", "--sync", window)
-        self.desk.press("alt+f")
-        self.desk.press("x")
-        desk.wait_until("the question", lambda: self.windows("Program Termination"))
+        self.ask_to_exit(window)
         self.kill_display(process)
 
     def test_no_display_to_begin_with(self):

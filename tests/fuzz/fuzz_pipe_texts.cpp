@@ -5,11 +5,7 @@
 
 #include <cmath>
 
-namespace {
-
 using tarvix::fuzz::Require;
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     FuzzedDataProvider data(bytes, size);

@@ -209,13 +209,4 @@ TEST(EveryLocale, DatesHaveTwoDigitsTheMonthsShortNameAndFourDigits) {
     }
 }
 
-TEST(EveryLocale, TheOtherSeparatorIsNeverTyped) {
-    testing::RecordingPlatform platform;
-    for (const QLocale& locale : EveryLocale()) {
-        const Module1 module(platform, NumberLocaleOf(locale));
-        const char other = module.locale().decimalSeparator == '.' ? ',' : '.';
-        EXPECT_EQ(module.NumericKeyFilter(other, {}), 0) << locale.name().toStdString();
-    }
-}
-
 }  // namespace tarvix

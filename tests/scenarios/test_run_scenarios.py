@@ -60,6 +60,12 @@ class RunnerTest(unittest.TestCase):
             result = run_scenarios.main([*extra, str(player), str(root / "area")])
         return result, printed.getvalue()
 
+    def run_main(self, *arguments):
+        """Exit status and printed text of the runner."""
+        with contextlib.redirect_stdout(io.StringIO()) as printed:
+            result = run_scenarios.main(list(arguments))
+        return result, printed.getvalue()
+
     def assert_green(self, script, outputs=(STATE,), **more):
         result, printed = self.run_script(script, outputs, **more)
         self.assertEqual(result, 0, printed)
@@ -164,21 +170,19 @@ class RunnerTest(unittest.TestCase):
         self.assert_red("state\n#= calculations 3\n", "exit status 2", status=2)
 
     def test_player_that_is_not_there(self):
-        with contextlib.redirect_stdout(io.StringIO()) as printed:
-            (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
-            result = run_scenarios.main([self.folder.name + "/none", self.folder.name])
+        (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
+        result, printed = self.run_main(self.folder.name + "/none", self.folder.name)
         self.assertEqual(result, 1)
-        self.assertIn("can't be started", printed.getvalue())
+        self.assertIn("can't be started", printed)
 
     def test_player_that_hangs(self):
         player = Path(self.folder.name) / "player"
         player.write_text(f"#!{sys.executable}\nimport threading\nthreading.Event().wait()\n")
         player.chmod(0o755)
         (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
-        with contextlib.redirect_stdout(io.StringIO()) as printed:
-            result = run_scenarios.main(["--timeout", "0.5", str(player), self.folder.name])
+        result, printed = self.run_main("--timeout", "0.5", str(player), self.folder.name)
         self.assertEqual(result, 1)
-        self.assertIn("did not end within 0.5 seconds", printed.getvalue())
+        self.assertIn("did not end within 0.5 seconds", printed)
 
     def test_script_without_any_expectation(self):
         self.assert_red("click optGas\nstate\n", "without any expectation")
@@ -209,10 +213,9 @@ class RunnerTest(unittest.TestCase):
         self.assert_red(b"# \xff\nstate\n#= pages 0\n", "not UTF-8")
 
     def test_file_that_is_not_there(self):
-        with contextlib.redirect_stdout(io.StringIO()) as printed:
-            result = run_scenarios.main(["/bin/true", self.folder.name + "/none.script"])
+        result, printed = self.run_main("/bin/true", self.folder.name + "/none.script")
         self.assertEqual(result, 1)
-        self.assertIn("can't be read", printed.getvalue())
+        self.assertIn("can't be read", printed)
 
     def test_folder_without_scenarios(self):
         with contextlib.redirect_stderr(io.StringIO()):
