@@ -41,6 +41,7 @@ class NumberLocale:
 _LOCALES = {
     "C": (".", ","),
     "POSIX": (".", ","),
+    "ar_EG": (".", "\u066c"),
     "en_US": (".", ","),
     "en_GB": (".", ","),
     "de_DE": (",", "."),
