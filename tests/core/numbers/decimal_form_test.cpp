@@ -2,6 +2,7 @@
 #include "numbers/decimal_form.h"
 
 #include "named_row.h"
+#include "tests/core/numbers/infinities.h"
 
 #include <algorithm>
 #include <array>
@@ -17,9 +18,6 @@ namespace tarvix {
 namespace {
 
 using namespace testing;
-
-constexpr float kSingleInfinity = std::numeric_limits<float>::infinity();
-constexpr double kDoubleInfinity = std::numeric_limits<double>::infinity();
 
 // The digits ------------------------------------------------------------------------------------
 

@@ -2,6 +2,7 @@
 #include "locales.h"
 #include "named_row.h"
 #include "numbers/number_text.h"
+#include "tests/core/numbers/infinities.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -14,9 +15,6 @@ namespace tarvix {
 namespace {
 
 using namespace testing;
-
-constexpr float kSingleInfinity = std::numeric_limits<float>::infinity();
-constexpr double kDoubleInfinity = std::numeric_limits<double>::infinity();
 
 // Values ------------------------------------------------------------------------------------------
 
