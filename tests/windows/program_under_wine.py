@@ -10,6 +10,7 @@ same run, from the same printer, must look the same. Pictures of the window and 
 the folder PICTURES. Exit status 77: the desktop can't be set up here.
 """
 
+import contextlib
 import pathlib
 import re
 import shutil
@@ -117,6 +118,14 @@ class WindowsCase(unittest.TestCase):
         self.start(folder)
         return self.desk.wait_for_window()
 
+    @contextlib.contextmanager
+    def picture_of_failure(self, name):
+        try:
+            yield
+        except AssertionError:
+            self.picture(f"{name}-failed")
+            raise
+
     def visible_windows(self):
         return self.desk.desk.search(".")
 
@@ -125,9 +134,11 @@ class WindowsCase(unittest.TestCase):
 
     def leave(self):
         """By the menu, with the question answered."""
-        self.desk.desk.press("alt+f")
-        self.desk.desk.press("x")
-        self.desk.wait_for_window("Program Termination")
+        def is_asked():
+            self.desk.desk.press("alt+f")
+            self.desk.desk.press("x")
+            return self.desk.comes_soon(lambda: self.desk.window_in_front("Program Termination"))
+        self.desk.wait_until("the question whether to leave", is_asked)
         self.desk.desk.press("Return")
         self.assertEqual(self.desk.program_ends(), 0)
 
@@ -152,7 +163,8 @@ class Journey(WindowsCase):
             self.desk.desk.press("ctrl+a")
             self.desk.desk.write(text)
             self.desk.desk.press("ctrl+a")
-            return self.desk.copy() == text
+            self.desk.forget_copied()
+            return self.desk.comes_soon(lambda: self.desk.copied() == text)
         self.desk.wait_until(f"{text} in its field", stands_there)
 
     def go_through(self, rehearsal, name):
@@ -194,12 +206,9 @@ class Journey(WindowsCase):
     def test_runs(self):
         for locale in ("en_US", "de_DE"):
             for fluid in ("liquid", "gas", "steam"):
-                with self.subTest(fluid=fluid, locale=locale):
-                    try:
-                        self.run_through(fluid, locale)
-                    except AssertionError:
-                        self.picture(f"{fluid}-{locale}-failed")
-                        raise
+                with (self.subTest(fluid=fluid, locale=locale),
+                      self.picture_of_failure(f"{fluid}-{locale}")):
+                    self.run_through(fluid, locale)
                 self.desk.end_program()
 
 
@@ -222,7 +231,7 @@ class Surroundings(WindowsCase):
     def test_missing_logo(self):
         folder = self.copy_of_program("no logo")
         for logo in LOGOS:
-            with self.subTest(logo):
+            with self.subTest(logo), self.picture_of_failure(logo):
                 (folder / logo).rename(folder / "elsewhere")
                 self.start(folder)
                 path = "Z:" + str(folder / logo).replace("/", "\\")
@@ -243,6 +252,10 @@ class Surroundings(WindowsCase):
         folder.chmod(0o755)
 
     def test_no_printer(self):
+        with self.picture_of_failure("no-printer"):
+            self.print_without_printer()
+
+    def print_without_printer(self):
         rehearsal = Rehearsal(player, "en_US")
         Runs.liquid(rehearsal, "en_US")
         main_window = self.start_to_main_window()

@@ -7,6 +7,7 @@ import pathlib
 import re
 import subprocess
 import sys
+import time
 
 TESTS = pathlib.Path(__file__).resolve().parent.parent
 sys.path[:0] = [str(TESTS / "journeys"), str(TESTS / "report")]
@@ -15,6 +16,8 @@ import print_journey  # noqa: E402
 import wine as windows  # noqa: E402
 
 TITLE = "Brindle Tarvix"
+# In seconds: what has not come by then has not been heard, and is asked for again.
+SOON = 10
 # What the script player calls keys, and what X calls them.
 KEYS = {"{Tab}": "Tab", "{Left}": "Left", "{Right}": "Right", "{Enter}": "Return",
         ",": "comma", ".": "period"}
@@ -91,6 +94,15 @@ class WindowsDesk:
             return result
         return desks.wait_until(what, look)
 
+    def comes_soon(self, condition):
+        """Whether something that the program does comes in a little while."""
+        end = time.monotonic() + SOON
+        while time.monotonic() < end:
+            if condition():
+                return True
+            time.sleep(0.05)
+        return False
+
     # Windows, seen from outside.
 
     def windows(self, title=TITLE):
@@ -103,12 +115,14 @@ class WindowsDesk:
 
     def wait_for_window(self, title=TITLE, other_than=None):
         """The window of this title that has a frame (the splash has none) and the keyboard."""
-        def look():
-            active = self.desk.xdotool("getactivewindow")
-            if active == other_than or active not in self.windows(title):
-                return None
-            return active if self.has_frame(active) else None
-        return self.wait_until(f"a window '{title}'", look)
+        return self.wait_until(f"a window '{title}'",
+                               lambda: self.window_in_front(title, other_than))
+
+    def window_in_front(self, title=TITLE, other_than=None):
+        active = self.desk.xdotool("getactivewindow")
+        if active == other_than or active not in self.windows(title):
+            return None
+        return active if self.has_frame(active) else None
 
     # Hands.
 
@@ -118,16 +132,20 @@ class WindowsDesk:
 
     def copy(self):
         """What the program copies: of a message box its texts, of a field what is selected."""
+        self.forget_copied()
+        return self.wait_until("the program copies", self.copied)
+
+    def forget_copied(self):
         subprocess.run(["xclip", "-selection", "clipboard"], env=self.desk.environment,
                        input=b"nothing copied", timeout=desks.PATIENCE, check=True)
 
-        def look():
-            self.desk.press("ctrl+c")
-            found = subprocess.run(
-                ["xclip", "-selection", "clipboard", "-o", "-t", "UTF8_STRING"], timeout=20,
-                env=self.desk.environment, capture_output=True, check=False).stdout.decode()
-            return found if found != "nothing copied" else None
-        return self.wait_until("the program copies", look).replace("\r", "")
+    def copied(self):
+        """What the keys to copy, pressed now, have copied so far; None for nothing."""
+        self.desk.press("ctrl+c")
+        found = subprocess.run(
+            ["xclip", "-selection", "clipboard", "-o", "-t", "UTF8_STRING"], timeout=20,
+            env=self.desk.environment, capture_output=True, check=False).stdout.decode()
+        return found.replace("\r", "") if found != "nothing copied" else None
 
     # Pages.
 
