@@ -101,7 +101,10 @@ class WindowsCase(unittest.TestCase):
         cls.scratch = tempfile.TemporaryDirectory(prefix="tarvix-windows-")
         cls.addClassCleanup(cls.scratch.cleanup)
         cls.place = pathlib.Path(cls.scratch.name)
-        cls.desk = windows_desk.WindowsDesk(cls.place, printers=cls.printers)
+        try:
+            cls.desk = windows_desk.WindowsDesk(cls.place, printers=cls.printers)
+        except windows_desk.CANNOT_RUN as reason:
+            raise unittest.SkipTest(str(reason)) from reason
         cls.addClassCleanup(cls.desk.stop)
 
     def setUp(self):
@@ -282,16 +285,11 @@ def main():
     program_folder, player, program_here, pictures = (pathlib.Path(argument).absolute()
                                                       for argument in sys.argv[1:5])
     pictures.mkdir(parents=True, exist_ok=True)
-    try:
-        with tempfile.TemporaryDirectory(prefix="tarvix-windows-") as folder, \
-                windows_desk.windows_desk(folder):
-            pass
-    except (windows_desk.desks.CannotRun, windows_desk.print_journey.CannotRun,
-            windows_desk.windows.CannotRun) as reason:
-        print(f"SKIPPED: the program under Wine: {reason}")
-        return SKIPPED
     result = unittest.main(argv=[sys.argv[0], *sys.argv[5:]], exit=False, verbosity=2,
                            warnings="ignore").result
+    if result.skipped:
+        print(f"SKIPPED: the program under Wine: {result.skipped[0][1]}")
+        return SKIPPED
     return 0 if result.wasSuccessful() else 1
 
 

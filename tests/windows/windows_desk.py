@@ -2,7 +2,6 @@
 them. Programs are driven by keys and seen from outside: their windows, the clipboard, the pages that
 reach the printer."""
 
-import contextlib
 import pathlib
 import re
 import subprocess
@@ -21,6 +20,9 @@ SOON = 10
 # What the script player calls keys, and what X calls them.
 KEYS = {"{Tab}": "Tab", "{Left}": "Left", "{Right}": "Right", "{Enter}": "Return",
         ",": "comma", ".": "period"}
+
+
+CANNOT_RUN = (desks.CannotRun, print_journey.CannotRun, windows.CannotRun)
 
 
 class WindowsDesk:
@@ -157,12 +159,3 @@ class WindowsDesk:
         file = self.pages / "page.pdf"
         file.write_bytes(data[data.index(b"%PDF"):])
         return file
-
-
-@contextlib.contextmanager
-def windows_desk(folder, **options):
-    desk = WindowsDesk(folder, **options)
-    try:
-        yield desk
-    finally:
-        desk.stop()

@@ -55,11 +55,7 @@ class Wine:
         self.set_locale("en_US")
         self.wine("wineboot", "-i")
         self.write_registry()
-        # Windows shuts down when its last program ends, and a program that starts meanwhile fails. So
-        # one program is always there: an interpreter that waits for a command.
-        self.first_program = subprocess.Popen(
-            [self.tool("wine"), "cmd"], env=self.environment, stdin=subprocess.PIPE,
-            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.first_program = self.keep_running()
 
     @staticmethod
     def tool(name):
@@ -76,6 +72,19 @@ class Wine:
         file = self.folder / "settings.reg"
         file.write_text("\r\n".join(lines), encoding="utf-16")
         self.wine("regedit", "/S", str(file))
+
+    def keep_running(self):
+        """Windows shuts down when its last program ends, and a program that starts meanwhile fails. So
+        one program is always there: an interpreter that waits for a command."""
+        interpreter = subprocess.Popen(
+            [self.tool("wine"), "cmd", "/q"], env=self.environment, stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        interpreter.stdin.write(b"echo is ready\r\n")
+        interpreter.stdin.flush()
+        for line in interpreter.stdout:
+            if b"is ready" in line:
+                return interpreter
+        raise CannotRun("wine cmd does not start")
 
     @property
     def home(self):
@@ -117,5 +126,4 @@ class Wine:
         for argument in ("-k", "-w"):
             subprocess.run([self.tool("wineserver"), argument], env=self.environment,
                            capture_output=True, timeout=PATIENCE, check=False)
-        self.first_program.stdin.close()
-        self.first_program.wait(PATIENCE)
+        self.first_program.communicate(timeout=PATIENCE)
