@@ -123,6 +123,9 @@ fail_build() {
 use_compiler_cache() {
     if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER+set}" ] && command -v ccache >/dev/null 2>&1; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+        # What one clone has compiled another one finds.
+        CCACHE_BASEDIR=$(project_root)
+        export CCACHE_BASEDIR CCACHE_NOHASHDIR=yes
     fi
 }
 
