@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMarginsF>
+#include <QPageLayout>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -50,6 +52,18 @@ TEST_F(ReportPrinterTest, WritesAPdfFile) {
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].width, 612);
     EXPECT_NEAR(pages[0].Word("Customer:").left, 36.72, 0.1);
+}
+
+// From where the paper begins, not where the printer can print: some print engines count from the
+// margins that are set, even where the page is the whole paper.
+TEST_F(ReportPrinterTest, LeavesThePrinterNoMarginsOfItsOwn) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File());
+    ASSERT_TRUE(printer.setPageMargins(QMarginsF(20, 20, 20, 20)));
+    EXPECT_EQ(PrintReportOn(printer, Page(), QImage()).status, PrintOutcome::Status::Printed);
+    EXPECT_EQ(printer.pageLayout().mode(), QPageLayout::FullPageMode);
+    EXPECT_EQ(printer.pageLayout().margins(), QMarginsF());
 }
 
 TEST_F(ReportPrinterTest, PdfSaysWhatItIs) {
