@@ -62,6 +62,9 @@ STEPS = {
         ("window_script", [sys.executable, "{tree}/tests/scenarios/run_scenarios.py",
                            "--fail-fast", "{binary}", "{tree}/tests/scenarios"]),
         ("locale_tests", gtest()),
+        ("system_locale_tests", ["env", "LC_ALL=", "LANGUAGE=", "LC_NUMERIC=", "LANG=de_DE.UTF-8",
+                                 "TARVIX_EXPECT_DECIMAL=,", "TARVIX_EXPECT_MILLION=1_234_567",
+                                 "TARVIX_EXPECT_GROUP=2E", *gtest()]),
         ("window_tests", gtest("--gtest_filter=Fonts/*")),
     ],
 }
