@@ -214,14 +214,27 @@ class Worker:
 
 class Verdicts:
     """What was found out about these very sources and tests, so that an interrupted run goes on
-    where it was."""
+    where it was. Where tests have only been added since, what the others killed stays killed:
+    `again` takes that over and leaves only the survivors to be judged."""
 
-    def __init__(self, folder, root, files):
+    def __init__(self, folder, root, files, again):
+        sources = self.digest(root / name for name in sorted(files))
+        tests = self.digest(sorted(root.glob("tests/**/*.*")))
+        self.path = folder / "verdicts" / f"{sources}-{tests}.json"
+        self.known = {}
+        for earlier in folder.glob(f"verdicts/{sources}-*.json") if again else []:
+            self.known |= {mutant: verdict for mutant, verdict
+                           in json.loads(earlier.read_text()).items() if verdict != "survived"}
+        if self.path.exists():
+            self.known |= json.loads(self.path.read_text())
+
+    @staticmethod
+    def digest(paths):
         digest = hashlib.sha256()
-        for path in sorted(root / name for name in files) + sorted(root.glob("tests/**/*.*")):
-            digest.update(path.read_bytes())
-        self.path = folder / "verdicts" / (digest.hexdigest()[:16] + ".json")
-        self.known = json.loads(self.path.read_text()) if self.path.exists() else {}
+        for path in paths:
+            if path.is_file():
+                digest.update(path.read_bytes())
+        return digest.hexdigest()[:16]
 
     def of(self, mutant):
         return self.known.get(mutant.key())
@@ -307,6 +320,8 @@ def main():
     parser.add_argument("--files", nargs="+", help="only these files, such as calc/orifice_gas.cpp")
     parser.add_argument("--cmake", nargs="+", default=[], metavar="NAME=VALUE",
                         help="settings of the build, such as CMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold")
+    parser.add_argument("--again", action="store_true",
+                        help="tests have been added: judge only what survived before")
     parser.add_argument("--list", action="store_true", help="print the mutants, run nothing")
     arguments = parser.parse_args()
 
@@ -321,7 +336,7 @@ def main():
         for mutant in chosen:
             print(mutant.key())
         return 0
-    verdicts = Verdicts(arguments.build, arguments.source, files)
+    verdicts = Verdicts(arguments.build, arguments.source, files, arguments.again)
     return report(run(arguments, files, chosen, spare, verdicts), files)
 
 
