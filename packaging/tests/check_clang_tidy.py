@@ -90,6 +90,8 @@ def sources_of(build):
     entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
     sources = {}
     for entry in entries:
+        if "/Unity/" in entry["file"]:
+            sys.exit(f"{build} compiles several sources at once, so they can't be read one by one")
         source = Source(entry, build, tool)
         if wanted.match(portable(source.path)):
             sources.setdefault(source.path, source)
