@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QFontInfo>
-#include <QLayout>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTest>
@@ -94,6 +93,37 @@ class SplashTest : public ::testing::Test {
                       {[this] { steps_ << (splash_.isVisible() ? "load" : "load without splash"); },
                        [this] { steps_ << (splash_.isVisible() ? "show on splash" : "show"); }}};
 };
+
+// The name in 3.2 times the desktop's size and bold, the version in 1.1 times and not.
+TEST_F(SplashTest, TheNameStandsOutFromTheVersion) {
+    const double usual = QFontInfo(QApplication::font()).pointSizeF();
+    EXPECT_TRUE(splash_.Label1->font().bold());
+    EXPECT_FALSE(splash_.Label2->font().bold());
+    EXPECT_NEAR(splash_.Label1->font().pointSizeF(), 3.2 * usual, 0.05);
+    EXPECT_NEAR(splash_.Label2->font().pointSizeF(), 1.1 * usual, 0.05);
+}
+
+// Two logos in boxes of the same size, one at the left and one at the right margin, above the texts
+// in the middle.
+TEST_F(SplashTest, IsACardWithItsLogosAtBothSides) {
+    splash_.show();  // by which a card on a small screen gets the room that its logos need
+    const QRect card = splash_.rect();
+    const QRect left = splash_.imgBrindleLogo->geometry();
+    const QRect right = splash_.imgVeltraneLogo->geometry();
+    EXPECT_EQ(left.size(), QSize(240, 60));
+    EXPECT_EQ(right.size(), left.size());
+    EXPECT_EQ(left.y(), right.y());
+    EXPECT_LT(left.right(), right.left());
+    EXPECT_EQ(left.x() - card.x(), card.right() - right.right());
+    for (const QLabel* label : {splash_.Label1, splash_.Label2}) {
+        EXPECT_NEAR(label->geometry().center().x(), card.center().x(), 1);
+        EXPECT_GT(label->y(), left.bottom());
+    }
+    EXPECT_EQ(splash_.palette().color(QPalette::Window), QColor(Qt::white));
+    EXPECT_EQ(splash_.windowTitle(), "Brindle Tarvix");
+    EXPECT_EQ(splash_.imgBrindleLogo->accessibleName(), "Brindle");
+    EXPECT_EQ(splash_.imgVeltraneLogo->accessibleName(), "Veltrane");
+}
 
 TEST_F(SplashTest, ShowsNameVersionAndLogos) {
     EXPECT_EQ(splash_.findChild<QLabel*>("Label1")->text(), "Tarvix");
