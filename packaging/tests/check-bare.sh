@@ -46,8 +46,8 @@ run_with_display() {
     # The files of the fonts that it shows are open in it.
     program=$(pgrep -x tarvix)
     fonts=$(grep -oE '/[^ ]*/fonts/[^ ]*' "/proc/$program/maps" | sort -u) || true
-    xdotool windowactivate --sync "$window" key alt+F4
-    wait $! || fail "./run ended with an error."
+    close_window "$window" 60
+    wait_for_end $! 60 || fail "./run ended with an error."
     stop_virtual_screen
     unset DISPLAY
     say "The window's fonts: $fonts"

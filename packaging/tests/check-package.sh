@@ -116,10 +116,8 @@ check_installed() {
     window=$(wait_for_main_window "$program_pid" "$seconds_to_wait")
     say "Started by '$command': its main window is there."
     import -window "$window" "$work/installed-window.png"
-    xdotool windowactivate --sync "$window" key alt+F4
-    timeout "$seconds_to_wait" tail --pid="$program_pid" -f /dev/null ||
-        fail "the program did not end when its window was closed."
-    wait "$program_pid" || status=$?
+    close_window "$window" "$seconds_to_wait"
+    wait_for_end "$program_pid" "$seconds_to_wait" || status=$?
     program_pid=""
     [ "$status" -eq 0 ] || fail "the program ended with status $status."
     [ -z "$(find "$home" -type f -not -path '*/.cache/*')" ] ||
