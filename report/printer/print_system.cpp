@@ -17,6 +17,16 @@ constexpr int kServiceUnavailable = 0x0502;
 
 }  // namespace
 
+std::optional<QString> RefusalOf(int status, const QString& words) {
+    if (status < kFirstErrorStatus) {
+        return std::nullopt;
+    }
+    if (status == kNotFound || status == kInternalError || status == kServiceUnavailable) {
+        return "The print system does not know this printer any more, or does not answer.";
+    }
+    return words;
+}
+
 // The toolkit's CUPS back end ignores what CUPS answers to a page. CUPS keeps its last answer for
 // each thread, and the library is in the process already when a page has been printed through it;
 // so it is asked where it is there, and is not needed where it isn't.
@@ -34,14 +44,7 @@ std::optional<QString> PrintSystemRefusal() {
     if (lastError == nullptr || lastErrorString == nullptr) {
         return std::nullopt;
     }
-    const int status = lastError();
-    if (status < kFirstErrorStatus) {
-        return std::nullopt;
-    }
-    if (status == kNotFound || status == kInternalError || status == kServiceUnavailable) {
-        return "The print system does not know this printer any more, or does not answer.";
-    }
-    return QString::fromUtf8(lastErrorString());
+    return RefusalOf(lastError(), QString::fromUtf8(lastErrorString()));
 #else
     return std::nullopt;
 #endif

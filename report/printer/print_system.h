@@ -12,4 +12,8 @@ namespace tarvix {
 // when it took the page, or on systems where the toolkit reports a refusal itself.
 std::optional<QString> PrintSystemRefusal();
 
+// What an answer of CUPS means: its status (RFC 8010) and the words that came with it. Nothing when
+// it is no refusal; a text of our own where those words would mislead.
+std::optional<QString> RefusalOf(int status, const QString& words);
+
 }  // namespace tarvix

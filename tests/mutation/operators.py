@@ -13,6 +13,7 @@ class Mutant:
     end: int
     replacement: str
     context: str  # the line it stands in
+    swaps_statements: bool = False
 
     def apply(self, text):
         return text[:self.start] + self.replacement + text[self.end:]
@@ -145,6 +146,24 @@ _STATEMENT = re.compile(r"^(?P<indent> +)(?P<statement>[A-Za-z_][\w.:\[\]>*-]*"
                         r"(?: [-+*/]?= [^;{}\n]+|\([^;{}\n]*\));)\n", re.M)
 
 
+_CALL = re.compile(r"(?P<receiver>[\w.>\[\]*-]*(?:->|\.))?(?P<function>\w+)\((?P<arguments>.*)\);")
+_ASSIGNMENT = re.compile(r"(?P<target>[\w.>\[\]*-]+) = (?P<value>.*);")
+
+
+def _are_independent(first, second):
+    """Whether the order of two statements in a row shows nowhere, as can be told from their form
+    alone: the same call for two subjects, or two assignments that do not read one another."""
+    assignments = [_ASSIGNMENT.fullmatch(statement) for statement in (first, second)]
+    if all(assignments):
+        (target, value), (other, other_value) = ((a["target"], a["value"]) for a in assignments)
+        return target != other and target not in other_value and other not in value
+    calls = [_CALL.fullmatch(statement) for statement in (first, second)]
+    if not all(calls) or calls[0]["function"] != calls[1]["function"]:
+        return False
+    subjects = [call["receiver"] or call["arguments"] for call in calls]
+    return subjects[0] != subjects[1] and bool(calls[0]["receiver"]) == bool(calls[1]["receiver"])
+
+
 def _statement_mutants(text):
     """Assignments and calls of one line left out, and two in a row swapped."""
     previous = None
@@ -154,7 +173,8 @@ def _statement_mutants(text):
             continue
         yield match.start("statement"), match.end("statement"), ""
         if previous and previous.end() == match.start() and \
-                previous.group("indent") == match.group("indent"):
+                previous.group("indent") == match.group("indent") and \
+                not _are_independent(previous.group("statement"), match.group("statement")):
             yield (previous.start("statement"), match.end("statement"),
                    f"{match.group('statement')}\n{match.group('indent')}"
                    f"{previous.group('statement')}")
@@ -189,6 +209,7 @@ def mutants_of(name, text):
             line_end = text.find("\n", start)
             line = " ".join(text[line_start:line_end].split())
             column = start - line_start
+            swaps = source is _statement_mutants and replacement != ""
             found[start, end, replacement] = Mutant(name, start, end, replacement,
-                                                    f"{line} [{column}]")
+                                                    f"{line} [{column}]", swaps)
     return list(found.values())
