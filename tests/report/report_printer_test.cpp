@@ -79,6 +79,17 @@ TEST_F(ReportPrinterTest, PdfSaysWhatItIs) {
     EXPECT_TRUE(about.contains("Creator:         Brindle Tarvix 3.0\n")) << about.toStdString();
 }
 
+// Of a path only what follows the last slash arrives at a printer.
+TEST_F(ReportPrinterTest, TheJobIsNamedAfterTheReport) {
+    module_.TagText = "FE-4102/B";
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File());
+    EXPECT_EQ(PrintReportOn(printer, Page(), QImage()).status, PrintOutcome::Status::Printed);
+    EXPECT_EQ(printer.docName(), "Orifice calculation FE-4102-B");
+    EXPECT_EQ(printer.creator(), "Brindle Tarvix 3.0");
+}
+
 TEST_F(ReportPrinterTest, ProposesAFileThatIsNotThere) {
     const auto proposed = [this] {
         return FreeFileName(folder_.path(), "Orifice calculation FE-4102/B");

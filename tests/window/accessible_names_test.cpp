@@ -383,6 +383,20 @@ TEST_F(AccessibleNamesTest, HelpersGoThroughAList) {
     EXPECT_EQ(list.indexOfChild(list.child(0)), 0);
 }
 
+TEST_F(AccessibleNamesTest, HelpersOpenAListAndCloseItAgain) {
+    player_.window().show();
+    QAccessibleInterface& list = Of(form().cboTimeUnit);
+    EXPECT_TRUE(list.state().expandable);
+    EXPECT_FALSE(list.state().expanded);
+    list.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(list.state().expanded);
+    EXPECT_EQ(list.child(0)->text(QAccessible::Name), "Flow Rate per time");
+    list.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_FALSE(list.state().expanded);
+    list.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(form().cboTimeUnit->hasFocus());
+}
+
 TEST_F(AccessibleNamesTest, HelpersPickNothingInADisabledList) {
     Play({"click optLiquid", "click optSgUser"});
     ASSERT_FALSE(form().IsEnabled(*form().cboDensityUnit));

@@ -1,5 +1,6 @@
 // What a screen reader is told to say when it happens elsewhere than at the focus: when a text
 // comes, and once.
+
 #include "tests/window/window_states.h"
 #include "ui/form/spoken_result.h"
 
@@ -79,6 +80,7 @@ TEST_F(AnnouncementsTest, TheResultIsSaidInAPauseAndNotAgainUntilItIsAnother) {
         const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&spoken);
         EXPECT_EQ(timers.size(), 1);
         for (const auto& timer : timers) {
+            EXPECT_EQ(timer.interval, 1000);
             QTimerEvent over(timer.timerId);
             QCoreApplication::sendEvent(&spoken, &over);
         }
