@@ -1,0 +1,43 @@
+// A picture against one that is kept.
+//
+// TARVIX_KEEP_PICTURES=1 makes the kept pictures anew. Look at them before they are committed.
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace tarvix::testing {
+
+// Dots whose grey differs by more than `shades`.
+inline int DotsThatDiffer(const QImage& one, const QImage& other, int shades) {
+    int dots = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            dots += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > shades ? 1 : 0;
+        }
+    }
+    return dots;
+}
+
+// Fails when more than `strayDots` differ, and leaves what was seen as NAME.png in the folder that
+// the test runs in.
+inline void ExpectKeptPicture(const QImage& seen, const QString& folder, const QString& name,
+                              int shades, int strayDots) {
+    const QString file = QString("%1/%2.png").arg(folder, name);
+    if (qEnvironmentVariableIsSet("TARVIX_KEEP_PICTURES")) {
+        ASSERT_TRUE(seen.save(file));
+    }
+    const QImage kept(file);
+    const bool sameSize = seen.size() == kept.size();
+    const int dots = sameSize ? DotsThatDiffer(seen, kept, shades) : strayDots + 1;
+    if (dots > strayDots) {
+        seen.save(name + ".png");
+        ADD_FAILURE() << (sameSize ? dots : -1)
+                      << " dots differ; what was seen: " << name.toStdString() << ".png";
+    }
+}
+
+}  // namespace tarvix::testing
