@@ -41,6 +41,57 @@ class NumericFieldTest : public ::testing::Test {
     std::unique_ptr<StatePlayer> player_ = std::make_unique<StatePlayer>();
 };
 
+// ---- Looks ----
+
+// The largest of 98, 96, ... 50 percent at which a long result fits, for fonts in points and in
+// pixels.
+TEST(LockedFieldTest, ALongResultIsWrittenSmaller) {
+    for (const bool inPixels : {false, true}) {
+        QFont whole("DejaVu Sans");
+        inPixels ? whole.setPixelSize(40) : whole.setPointSize(30);
+        const double size = inPixels ? 40 : 30;
+        QWidget parent;
+        parent.setFont(whole);
+        NumericField field(&parent);
+        field.resize(200, 60);
+        field.setText("123456789");
+        EXPECT_EQ(field.font().pointSizeF(), whole.pointSizeF()) << "an entry scrolls";
+        field.SetLocked(true);
+        const QFont chosen = field.font();
+        const double percent = 100 * (inPixels ? chosen.pixelSize() : chosen.pointSizeF()) / size;
+        EXPECT_TRUE(chosen.bold());
+        EXPECT_GT(percent, 50);
+        EXPECT_LT(percent, 98);
+        const auto widthAt = [&](double part) {
+            QFont font = whole;
+            font.setBold(true);
+            inPixels ? font.setPixelSize(static_cast<int>(size * part / 100))
+                     : font.setPointSizeF(size * part / 100);
+            return QFontMetrics(font).horizontalAdvance(field.text());
+        };
+        // Half of what a frame takes, twice two pixels, and the caret.
+        const int room = field.TextArea().width();
+        EXPECT_LT(room, 200 - 5);
+        EXPECT_GT(room, 200 - 20);
+        EXPECT_LE(widthAt(percent), room);
+        EXPECT_GT(widthAt(percent + 2 + (inPixels ? 2.5 : 0)), room);
+
+        field.setText(QString(40, '8'));
+        EXPECT_NEAR(inPixels ? field.font().pixelSize() : field.font().pointSizeF(), size / 2, 0.01)
+            << "no smaller";
+        field.setText("1");
+        EXPECT_EQ(field.font().pointSizeF(), whole.pointSizeF());
+        // Another font of the window is followed.
+        field.setText("12345");
+        EXPECT_EQ(field.font().pointSizeF(), whole.pointSizeF());
+        inPixels ? whole.setPixelSize(80) : whole.setPointSize(60);
+        parent.setFont(whole);
+        EXPECT_LE(QFontMetrics(field.font()).horizontalAdvance(field.text()), room);
+        field.SetLocked(false);
+        EXPECT_FALSE(field.font().bold());
+    }
+}
+
 // ---- Keys ----
 
 TEST_F(NumericFieldTest, LettersBlanksAndPunctuationAreSwallowed) {

@@ -1,0 +1,73 @@
+// How large the main window is and where it stands when it is loaded, on screens with and without
+// room for it.
+#include "app/window/frm_tarvix.h"
+#include "tests/core/locales.h"
+#include "tests/window/layout_fixtures.h"
+#include "tests/window_script/script_desk.h"
+#include "ui/windows/frm_splash.h"
+
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+#include <QWindow>
+
+#include <stdexcept>
+
+namespace tarvix::testing {
+namespace {
+
+// The points of a font on this screen, and what has no room with it.
+struct SizeCase {
+    int points;
+    bool wide;
+    bool high;
+};
+
+class WindowSizeTest : public LayoutTest, public ::testing::WithParamInterface<SizeCase> {
+  protected:
+    WindowSizeTest() { QApplication::setFont(QFont("DejaVu Sans", GetParam().points)); }
+
+    ScriptDesk desk_{[](int) { throw std::runtime_error("the program ended"); }};
+    Module1 module_{desk_, kUnitedStates};
+};
+
+INSTANTIATE_TEST_SUITE_P(Screens, WindowSizeTest,
+                         ::testing::Values(SizeCase{8, false, false}, SizeCase{10, true, false},
+                                           SizeCase{16, true, true}));
+
+TEST_P(WindowSizeTest, LeavesRoomForTheFrameAndForScrollBarsWhereTheyAreNeeded) {
+    module_.AppPath = AppPathOf(QCoreApplication::applicationDirPath());
+    frmTarvix window(module_, desk_);
+    window.Form_Load();
+    const MainForm& form = window.form();
+    const int menu = window.menuBar()->sizeHint().height();
+    const QSize whole(form.WholeSize().width(), form.WholeSize().height() + menu);
+    const QMargins frame = window.windowHandle()->frameMargins();
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const int roomWidth = screen.width() - frame.left() - frame.right();
+    const int roomHeight = screen.height() - frame.top() - frame.bottom();
+    ASSERT_EQ(whole.width() > roomWidth, GetParam().wide) << whole.width();
+    ASSERT_EQ(whole.height() > roomHeight, GetParam().high) << whole.height();
+
+    const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &window);
+    const int most = whole.width() + (GetParam().high ? bar : 0);
+    const int highest = whole.height() + (GetParam().wide ? bar : 0);
+    EXPECT_EQ(window.maximumWidth(), most);
+    EXPECT_EQ(window.maximumHeight(), highest);
+    EXPECT_EQ(window.width(), std::min(most, roomWidth));
+    EXPECT_EQ(window.height(), std::min(highest, roomHeight));
+    EXPECT_EQ(window.minimumWidth(), form.LeastSize().width() + bar);
+    EXPECT_EQ(window.minimumHeight(), form.LeastSize().height() + bar + menu);
+
+    // With its frame in the middle of the screen.
+    EXPECT_NEAR(window.x() + window.frameGeometry().width() / 2, screen.center().x(), 3);
+    EXPECT_EQ(window.geometry().x(),
+              screen.x() + (screen.width() - window.width() - frame.left() - frame.right()) / 2 +
+                  frame.left());
+    EXPECT_EQ(window.geometry().y(),
+              screen.y() + (screen.height() - window.height() - frame.top() - frame.bottom()) / 2 +
+                  frame.top());
+}
+
+}  // namespace
+}  // namespace tarvix::testing
