@@ -3,7 +3,7 @@
 wake there, and counts the mutants that no test notices.
 
 Works on copies of the tree below the build folder and never touches the work tree. A mutant that
-does not compile is replaced by another one. The sample depends on the seed and the sources alone.
+does not compile, or that the optimizing compiler makes the same code of, is replaced by another one. The sample depends on the seed and the sources alone.
 The part `core` is what knows no window toolkit, `window` the rest of the program.
 
     tests/mutation/mutate.py --build /tmp/mutation            # the usual run of the core
@@ -23,10 +23,12 @@ import os
 import queue
 import random
 import re
+import shlex
 import shutil
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 from pathlib import Path
 
@@ -174,11 +176,14 @@ class Worker:
                      "-DCMAKE_BUILD_TYPE=None",
                      "-DCMAKE_CXX_FLAGS=-O0 -Werror=double-promotion",
                      *CONFIGURATION[part], *[f"-D{setting}" for setting in configuration],
-                     "-DTARVIX_BUILD_BENCH=OFF",
+                     "-DTARVIX_BUILD_BENCH=OFF", "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON",
                      "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
         if shutil.which("ccache"):
             configure.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
         subprocess.run(configure, check=True, stdout=subprocess.DEVNULL)
+        self.commands = {entry["file"]: entry for entry in
+                         json.loads((self.build / "compile_commands.json").read_text())}
+        self.codes = {}
         self.patience = {}
         for target, command in self.steps:
             if not self._compiles(target):
@@ -216,8 +221,33 @@ class Worker:
         return self._run([part.format(**places) for part in command],
                          self.patience.get(tuple(command), BUILD_SECONDS)) == 0
 
+    def _code_of(self, file):
+        """The digest of what the optimizing compiler makes of a source; nothing of a header."""
+        entry = self.commands.get(str(self.tree / file))
+        if entry is None:
+            return None
+        with tempfile.NamedTemporaryFile(suffix=".o") as made:
+            words = shlex.split(entry["command"].replace(" -O0", " -O2"))
+            words[words.index("-o") + 1] = made.name
+            while not words[0].endswith("++"):
+                del words[0]  # the compiler's cache
+            done = subprocess.run(words, cwd=entry["directory"], stderr=subprocess.DEVNULL,
+                                  check=False)
+            return None if done.returncode else hashlib.sha256(made.read()).digest()
+
+    def _is_same_code(self, file, original):
+        """Whether the source, as it stands there spoiled, is another way to write the same."""
+        spoiled = self._code_of(file)
+        if file not in self.codes:
+            path = self.tree / file
+            text = path.read_text()
+            path.write_text(original)
+            self.codes[file] = self._code_of(file)
+            path.write_text(text)
+        return spoiled is not None and spoiled == self.codes[file]
+
     def judge(self, mutant):
-        """'killed', 'survived' or 'unbuildable'."""
+        """'killed', 'survived', 'unbuildable' or, of a survivor, 'same code'."""
         path = self.tree / mutant.file
         original = path.read_text()
         path.write_text(mutant.apply(original))
@@ -227,7 +257,7 @@ class Worker:
                     return "unbuildable"
                 if not self._passes(target, command):
                     return "killed"
-            return "survived"
+            return "same code" if self._is_same_code(mutant.file, original) else "survived"
         finally:
             path.write_text(original)
 
@@ -291,7 +321,7 @@ def run(arguments, files, chosen, spare, verdicts):
         finally:
             workers.put(worker)
 
-    results = {"killed": [], "survived": [], "unbuildable": []}
+    results = {"killed": [], "survived": [], "unbuildable": [], "same code": []}
     started = time.monotonic()
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
         pending = {pool.submit(judge, mutant) for mutant in chosen}
@@ -304,11 +334,10 @@ def run(arguments, files, chosen, spare, verdicts):
                 verdicts.add(mutant, verdict)
                 if verdict == "survived":
                     print(f"survived: {mutant.key()}", flush=True)
-                elif verdict == "unbuildable" and spare:
+                elif verdict != "killed" and spare:
                     pending.add(pool.submit(judge, spare.pop()))
-            if verdict != "unbuildable":
                 judged = len(results["killed"]) + len(results["survived"])
-                if judged % 25 == 0:
+                if verdict in ("killed", "survived") and judged % 25 == 0:
                     print(f"  {judged} judged after {time.monotonic() - started:.0f} s", flush=True)
     return results
 
@@ -323,7 +352,8 @@ def report(results, files):
             killed = sum(m.file == name for m in results["killed"])
             print(f"{name:32} {len(of_file):8} {killed:8}")
     print(f"{'all':32} {len(judged):8} {len(results['killed']):8}"
-          f"   (and {len(results['unbuildable'])} that did not compile)")
+          f"   (and {len(results['unbuildable'])} that did not compile,"
+          f" {len(results['same code'])} the same code)")
     unexplained = [m for m in results["survived"] if m.key() not in explained]
     print(f"survivors: {len(results['survived'])}, of them without an explanation:"
           f" {len(unexplained)}")

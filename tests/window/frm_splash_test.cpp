@@ -120,6 +120,7 @@ TEST_F(SplashTest, IsACardWithItsLogosAtBothSides) {
         EXPECT_GT(label->y(), left.bottom());
     }
     EXPECT_EQ(splash_.palette().color(QPalette::Window), QColor(Qt::white));
+    EXPECT_EQ(splash_.palette().color(QPalette::WindowText), QColor("#1F2A37"));
     EXPECT_EQ(splash_.windowTitle(), "Brindle Tarvix");
     EXPECT_EQ(splash_.imgBrindleLogo->accessibleName(), "Brindle");
     EXPECT_EQ(splash_.imgVeltraneLogo->accessibleName(), "Veltrane");
