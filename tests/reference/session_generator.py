@@ -128,15 +128,18 @@ class Generator:
         random = self.random
         self.do("click " + random.choice(FLUID_OPTIONS))
         self.do("click " + random.choice(MODE_OPTIONS))
-        for option in random.sample(self.usable(PROPERTY_OPTIONS),
-                                    min(2, len(self.usable(PROPERTY_OPTIONS)))):
+        properties = self.usable(PROPERTY_OPTIONS)
+        for option in random.sample(properties, min(2, len(properties))):
             self.do("click " + option)
         self.pick_pipe()
         fields = self.open_fields()
         random.shuffle(fields)
         for field in fields:
-            if field in self.open_fields() and field != "txtOriBoreDia":
-                self.do(f"paste {field} {self.plausible(field)}")
+            self.refill(field)
+
+    def refill(self, field):
+        if field in self.open_fields() and field != "txtOriBoreDia":
+            self.do(f"paste {field} {self.plausible(field)}")
 
     def complete(self):
         """Enters anew what keeps the equations from running."""
@@ -144,35 +147,31 @@ class Generator:
         for field in self.open_fields():
             missing = (not window.numeric(field) if field == "txtTf"
                        else window.value(field) <= 0.0)
-            if missing and field != "txtOriBoreDia" and field in self.open_fields():
-                self.do(f"paste {field} {self.plausible(field)}")
+            if missing:
+                self.refill(field)
 
     def round_trip(self):
         """Solves for one quantity, then for the two others from what came out."""
         for option in self.random.sample(MODE_OPTIONS, 3):
             self.do("click " + option)
 
-    def type_number(self):
+    def enter(self, verb, text_for):
         fields = self.open_fields()
         if fields:
             field = self.random.choice(fields)
-            self.do(f"type {field} {self.number(field)}")
+            self.do(f"{verb} {field} {text_for(field)}")
+
+    def type_number(self):
+        self.enter("type", self.number)
 
     def paste_number(self):
-        fields = self.open_fields()
-        if fields:
-            field = self.random.choice(fields)
-            self.do(f"paste {field} {self.number(field)}")
+        self.enter("paste", self.number)
 
     def paste_odd(self):
-        fields = self.open_fields()
-        if fields:
-            self.do(f"paste {self.random.choice(fields)} {self.random.choice(ODD_TEXTS)}")
+        self.enter("paste", lambda field: self.random.choice(ODD_TEXTS))
 
     def type_odd(self):
-        fields = self.open_fields()
-        if fields:
-            self.do(f"type {self.random.choice(fields)} {self.random.choice(ODD_TEXTS)[:20]}")
+        self.enter("type", lambda field: self.random.choice(ODD_TEXTS)[:20])
 
     def keys(self):
         window = self.model.window
@@ -253,8 +252,7 @@ class Generator:
             self.do("paste txtFlow " + self.localized("%.9g" % 10.0 ** exponent))
 
     def user_pipe(self):
-        count = len(self.model.window["cboPipeID"].items)
-        self.answered(f"choose cboPipeID #{count - 1}")
+        self.answered(f"choose cboPipeID #{len(self.model.window['cboPipeID'].items) - 1}")
 
     def click_property(self):
         options = self.usable(PROPERTY_OPTIONS)

@@ -103,6 +103,13 @@ LABELS = {
 BUTTONS = {"cmdPrint": "Print", "cmdExit": "Exit", "mnuFile": "&File", "mnuPrint": "&Print",
            "mnuExit": "E&xit", "mnuAbout": "&About"}
 
+# What the script player reports of each kind, beside whether it is visible and enabled.
+REPORTED = {
+    "frame": ("caption", "backcolor", "top", "width"), "label": ("caption", "backcolor"),
+    "field": ("text", "locked", "tabstop", "backcolor"), "list": ("index",), "mask": ("text",),
+    "option": ("value", "caption", "backcolor"), "button": ("caption",),
+}
+
 
 class Control:
     def __init__(self, kind, parent=None, caption=None):
@@ -134,24 +141,18 @@ class Controls:
     """All controls by name, and the events that writing to them raises."""
 
     def __init__(self):
-        self.all = {}
-        for name, (parent, caption) in FRAMES.items():
-            self.all[name] = Control("frame", parent, caption)
-        for name, parent in FIELDS.items():
-            self.all[name] = Control("field", parent)
-        for name, parent in LISTS.items():
-            self.all[name] = Control("list", parent)
-        for parent, options in OPTIONS.items():
-            for name, caption in options.items():
-                self.all[name] = Control("option", parent, caption)
+        self.all = {
+            **{name: Control("frame", *place) for name, place in FRAMES.items()},
+            **{name: Control("field", parent) for name, parent in FIELDS.items()},
+            **{name: Control("list", parent) for name, parent in LISTS.items()},
+            **{name: Control("option", parent, caption)
+               for parent, options in OPTIONS.items() for name, caption in options.items()},
+            **{name: Control("label", *place) for name, place in LABELS.items()},
+            **{name: Control("button", None, caption) for name, caption in BUTTONS.items()},
+            "tabOrifice": Control("frame", None, "&Measurement Orifice"),
+            "txtMaskNomSize": Control("mask", "fraPipe")}
         for name in SELECTED_AT_START:
             self.all[name].value = True
-        for name, (parent, caption) in LABELS.items():
-            self.all[name] = Control("label", parent, caption)
-        for name, caption in BUTTONS.items():
-            self.all[name] = Control("button", None, caption)
-        self.all["tabOrifice"] = Control("frame", None, "&Measurement Orifice")
-        self.all["txtMaskNomSize"] = Control("mask", "fraPipe")
         self.focus = None  # None: not known, the toolkit decides
 
     def __getitem__(self, name):
@@ -223,26 +224,11 @@ class Controls:
     def state_of(self, name):
         """What the script player reports of one control."""
         control = self.all[name]
-        report = {"visible": self.visible(name), "enabled": self.enabled(name)}
-        if control.kind == "field":
-            report.update(text=control.text, locked=control.locked, tabstop=control.tabstop,
-                          backcolor=control.backcolor)
-            if self.focus == name and not control.locked:
-                start, end = control.selection()
-                report.update(selstart=start, sellength=end - start)
-        elif control.kind == "list":
-            report.update(text=self.list_text(name), index=control.index,
-                          items=list(control.items))
-        elif control.kind == "option":
-            report.update(value=control.value, caption=control.caption,
-                          backcolor=control.backcolor)
-        elif control.kind == "frame":
-            report.update(caption=control.caption, backcolor=control.backcolor, top=control.top,
-                          width=control.width)
-        elif control.kind == "label":
-            report.update(caption=control.caption, backcolor=control.backcolor)
-        elif control.kind == "button":
-            report.update(caption=control.caption)
-        elif control.kind == "mask":
-            report.update(text=control.text)
+        report = {key: getattr(control, key) for key in REPORTED[control.kind]}
+        report.update(visible=self.visible(name), enabled=self.enabled(name))
+        if control.kind == "list":
+            report.update(text=self.list_text(name), items=list(control.items))
+        if control.kind == "field" and self.focus == name and not control.locked:
+            start, end = control.selection()
+            report.update(selstart=start, sellength=end - start)
         return {key: value for key, value in report.items() if value is not None}

@@ -76,34 +76,44 @@ def _checked_beta(beta):
     return beta, ""
 
 
+def _solve(meter, dp_factors, flow, dp, beta):
+    """Solves for the mode, unless a factor that counts is zero or an entered beta is too large."""
+    factors, solved = {
+        "FR": ((meter.beta, meter.pipe, meter.dp), flow),
+        "DP": (dp_factors, dp),
+        "BETA": ((meter.pipe, meter.flow, meter.dp), beta)}[meter.mode]
+    if _product(*factors) == 0.0:
+        return NOTHING
+    if meter.mode != "BETA" and meter.beta >= 1.0:
+        return BETA_NOT_BELOW_1
+    return solved()
+
+
 # --- liquid ---------------------------------------------------------------------------------------
 
 def solve_liquid(meter, flowing_sg, base_sg):
     beta, pipe = meter.beta, meter.pipe
-    if meter.mode == "FR":
-        if _product(beta, pipe, meter.dp) == 0.0:
-            return NOTHING
-        if beta >= 1.0:
-            return BETA_NOT_BELOW_1
+
+    def capacity():
+        return _approach(beta) * LIQUID_K * beta * beta * pipe * pipe
+
+    def flow():
         head = root(single(meter.dp * flowing_sg))
-        flow = _approach(beta) * LIQUID_K * beta * beta * pipe * pipe * head
-        return _checked_flow(single(quotient(flow, base_sg)))
-    if meter.mode == "DP":
-        if _product(beta, meter.flow, pipe) == 0.0:
-            return NOTHING
-        if beta >= 1.0:
-            return BETA_NOT_BELOW_1
-        ratio = quotient(single(base_sg * meter.flow),
-                         _approach(beta) * LIQUID_K * beta * beta * pipe * pipe)
-        dp = single(quotient(power(ratio, 2.0), flowing_sg))
-        return NOTHING if not _finite(dp) or dp > DP_LIMIT else (dp, "")
-    if _product(pipe, meter.flow, meter.dp) == 0.0:
-        return NOTHING
-    head = root(single(meter.dp * flowing_sg))
-    a = single(quotient(single(base_sg * meter.flow), pipe * LIQUID_K * pipe * head))
-    a_squared = power(a, 2.0)
-    solved = power(quotient(a_squared, a_squared + CD_SQUARED), 0.25)  # double
-    return _checked_beta(round_to_5(solved, True))
+        return _checked_flow(single(quotient(capacity() * head, base_sg)))
+
+    def dp():
+        ratio = quotient(single(base_sg * meter.flow), capacity())
+        solved = single(quotient(power(ratio, 2.0), flowing_sg))
+        return NOTHING if not _finite(solved) or solved > DP_LIMIT else (solved, "")
+
+    def solved_beta():
+        head = root(single(meter.dp * flowing_sg))
+        a = single(quotient(single(base_sg * meter.flow), pipe * LIQUID_K * pipe * head))
+        a_squared = power(a, 2.0)
+        solved = power(quotient(a_squared, a_squared + CD_SQUARED), 0.25)  # double
+        return _checked_beta(round_to_5(solved, True))
+
+    return _solve(meter, (beta, meter.flow, pipe), flow, dp, solved_beta)
 
 
 # --- gas and steam --------------------------------------------------------------------------------
@@ -112,6 +122,54 @@ def _expansion(beta, dp, pressure):
     """Y, the expansion factor."""
     return single(1.0 - (0.41 + 0.35 * power(beta, 4.0))
                   * quotient(dp, 27.707 * pressure) / 1.3)
+
+
+def _flow_of(constant, meter, pressure, *terms):
+    flow = constant * _approach(meter.beta) * _expansion(meter.beta, meter.dp, pressure) \
+        * power(meter.beta, 2.0) * power(meter.pipe, 2.0)  # double
+    for term in terms:
+        flow *= term
+    return single(flow)
+
+
+def _iterate(value, meter, squared_diameter, band, too_high, unresolved,
+             left_range=lambda value: None, looks=100):
+    """At most 100 steps from `value` on, until the diameter is the pipe's. `squared_diameter` gives
+    R and the factors in it; `left_range` says what comes of a value after one of so many steps."""
+    for step in range(1, 101):
+        r, *factors = squared_diameter(value)
+        if not _finite(r, *factors):
+            break
+        if r < 0.0:
+            return too_high
+        s = single(quotient(root(r), meter.pipe))
+        if not _finite(s):
+            break
+        if band[0] < s < band[1]:
+            return value, ""
+        value = single(value * s)
+        left = left_range(value)
+        if left and step <= looks:
+            return left
+    return None, unresolved
+
+
+def _iterate_dp(meter, pressure, diameter_squared, band, unresolved):
+    def squared_diameter(dp):
+        y = _expansion(meter.beta, dp, pressure)
+        return single(diameter_squared(y, dp)), y
+
+    return _iterate(50.0, meter, squared_diameter, band, DP_FLOW_TOO_HIGH, unresolved)
+
+
+def _iterate_beta(meter, pressure, target, divisor, band, unresolved, **range_check):
+    def squared_diameter(beta):
+        e, y = _approach(beta), _expansion(beta, meter.dp, pressure)
+        return single(quotient(target, divisor(e, y, beta))), e, y
+
+    beta, message = _iterate(0.5, meter, squared_diameter, band, BETA_FLOW_TOO_HIGH, unresolved,
+                             **range_check)
+    return (beta, message) if beta is None else _checked_beta(round_to_5(beta, False))
 
 
 @dataclass
@@ -142,141 +200,70 @@ def gas_state(kind, choice, pressure, base_pressure, temp_f, base_temp_f, gravit
     temperature = single(temp_f + 459.67)
     base_temperature = single(base_temp_f + 459.67)
     factor = zf if choice == "Zf" else 1.0
-    if choice == "Density":
-        factor = single(quotient(2.698825 * pressure * gravity, single(temperature * density)))
-        rho = density
-    else:
-        rho = single(quotient(2.698825 * pressure * gravity, single(temperature * factor)))
+    other = density if choice == "Density" else factor
+    solved = single(quotient(2.698825 * pressure * gravity, single(temperature * other)))
+    rho, factor = (density, solved) if choice == "Density" else (solved, factor)
     return Gas(kind, pressure, base_pressure, temperature, base_temperature, gravity, rho, factor)
 
 
 def solve_gas(meter, gas):
-    beta, pipe = meter.beta, meter.pipe
-    if meter.mode == "FR":
-        if _product(beta, pipe, meter.dp) == 0.0:
-            return NOTHING
-        if beta >= 1.0:
-            return BETA_NOT_BELOW_1
-        e, y = _approach(beta), _expansion(beta, meter.dp, gas.pressure)
-        if gas.kind == "M":
-            mass = single(MASS_K * e * y * power(beta, 2.0) * power(pipe, 2.0) * gas.head(meter.dp))
-            return _checked_flow(single(mass / (AIR_DENSITY_NUMERATOR / AIR_DENSITY_DENOMINATOR)))
-        return _checked_flow(single(VOLUME_K * e * y * power(beta, 2.0) * power(pipe, 2.0)
-                                    * gas.base_ratio() * gas.head(meter.dp)))
+    is_mass = gas.kind == "M"
     mass_flow = meter.flow * AIR_DENSITY_NUMERATOR / AIR_DENSITY_DENOMINATOR  # double
-    if meter.mode == "DP":
-        if _product(beta, pipe, meter.flow) == 0.0:
-            return NOTHING
-        if beta >= 1.0:
-            return BETA_NOT_BELOW_1
-        e, beta_squared = _approach(beta), power(beta, 2.0)
-        if gas.kind == "M":
-            target = single(quotient(mass_flow, MASS_K * e * beta_squared))
-        else:
-            target = single(quotient(meter.flow, VOLUME_K * e * beta_squared
-                                     * gas.base_temperature / gas.base_pressure))
+    band = single(0.999999), single(1.000001)
+
+    def flow():
+        if is_mass:
+            mass = _flow_of(MASS_K, meter, gas.pressure, gas.head(meter.dp))
+            return _checked_flow(single(mass / (AIR_DENSITY_NUMERATOR / AIR_DENSITY_DENOMINATOR)))
+        return _checked_flow(
+            _flow_of(VOLUME_K, meter, gas.pressure, gas.base_ratio(), gas.head(meter.dp)))
+
+    def dp():
+        e, beta_squared = _approach(meter.beta), power(meter.beta, 2.0)
+        target = single(
+            quotient(mass_flow, MASS_K * e * beta_squared) if is_mass else
+            quotient(meter.flow, VOLUME_K * e * beta_squared * gas.base_temperature
+                     / gas.base_pressure))
         return _iterate_dp(
-            meter, gas.pressure, lambda y, dp: quotient(target, y * gas.head(dp)),
-            (single(0.999999), single(1.000001)),
+            meter, gas.pressure, lambda y, dp: quotient(target, y * gas.head(dp)), band,
             "Unable to resolve differential pressure for conditions.")
-    if _product(pipe, meter.flow, meter.dp) == 0.0:
-        return NOTHING
-    if gas.kind == "M":
-        target = single(quotient(mass_flow, MASS_K * gas.head(meter.dp)))
-    else:
-        target = single(quotient(meter.flow, VOLUME_K * gas.base_ratio() * gas.head(meter.dp)))
-    return _iterate_gas_beta(meter, gas.pressure, target)
 
+    def beta():
+        head = gas.head(meter.dp)
+        target = single(quotient(mass_flow, MASS_K * head) if is_mass else
+                        quotient(meter.flow, VOLUME_K * gas.base_ratio() * head))
+        return _iterate_beta(
+            meter, gas.pressure, target, lambda e, y, beta: _product(y, e, beta, beta), band,
+            "Unable to resolve beta for conditions.",
+            left_range=lambda beta: (BETA_TOO_HIGH if beta >= 1.0 else
+                                     BETA_TOO_LOW if beta <= 0.0 else None))
 
-def _iterate_dp(meter, pressure, diameter_squared, band, unresolved):
-    dp = 50.0
-    for _ in range(100):
-        y = _expansion(meter.beta, dp, pressure)
-        r = single(diameter_squared(y, dp))
-        if not _finite(y, r):
-            break
-        if r < 0.0:
-            return DP_FLOW_TOO_HIGH
-        s = single(quotient(root(r), meter.pipe))
-        if not _finite(s):
-            break
-        if band[0] < s < band[1]:
-            return dp, ""
-        dp = single(dp * s)
-        if not _finite(dp):
-            break
-    return None, unresolved
-
-
-def _iterate_gas_beta(meter, pressure, target):
-    unresolved = None, "Unable to resolve beta for conditions."
-    beta = 0.5
-    for _ in range(100):
-        e, y = _approach(beta), _expansion(beta, meter.dp, pressure)
-        r = single(quotient(target, _product(y, e, beta, beta)))
-        if not _finite(e, y, r):
-            return unresolved
-        if r < 0.0:
-            return BETA_FLOW_TOO_HIGH
-        s = single(quotient(root(r), meter.pipe))
-        if not _finite(s):
-            return unresolved
-        if single(0.999999) < s < single(1.000001):
-            return _checked_beta(round_to_5(beta, False))
-        beta = single(beta * s)
-        if beta >= 1.0:
-            return BETA_TOO_HIGH
-        if beta <= 0.0:
-            return BETA_TOO_LOW
-    return unresolved
+    return _solve(meter, (meter.beta, meter.pipe, meter.flow), flow, dp, beta)
 
 
 def solve_steam(meter, pressure, density):
-    beta, pipe = meter.beta, meter.pipe
-    if meter.mode == "FR":
-        if _product(beta, pipe, meter.dp) == 0.0:
-            return NOTHING
-        if beta >= 1.0:
-            return BETA_NOT_BELOW_1
-        e, y = _approach(beta), _expansion(beta, meter.dp, pressure)
-        head = root(single(meter.dp * density))
-        return _checked_flow(
-            single(MASS_K * e * y * power(beta, 2.0) * power(pipe, 2.0) * head))
-    if meter.mode == "DP":
-        if _product(beta, pipe, meter.flow) == 0.0:
-            return NOTHING
-        if beta >= 1.0:
-            return BETA_NOT_BELOW_1
+    def head(dp):
+        return root(single(dp * density))
+
+    def flow():
+        return _checked_flow(_flow_of(MASS_K, meter, pressure, head(meter.dp)))
+
+    def dp():
         target = single(quotient(
-            meter.flow, MASS_K * _approach(beta) * power(beta, 2.0) * root(density)))
+            meter.flow, MASS_K * _approach(meter.beta) * power(meter.beta, 2.0) * root(density)))
         return _iterate_dp(
             meter, pressure, lambda y, dp: quotient(target, y * root(dp)),
             (0.9999999, 1.0000001), "Unable to resolve Differential Pressure for conditions.")
-    if _product(pipe, meter.flow, meter.dp) == 0.0:
-        return NOTHING
-    target = single(quotient(meter.flow, MASS_K * root(single(meter.dp * density))))
-    return _iterate_steam_beta(meter, pressure, target)
 
+    def beta():
+        # Beta is looked at before a step, so no more after the last.
+        return _iterate_beta(
+            meter, pressure, single(quotient(meter.flow, MASS_K * head(meter.dp))),
+            lambda e, y, beta: single(y * e) * power(beta, 2.0), (0.999999, 1.000001),
+            "Unable to resolve Beta Ratio for conditions.",
+            left_range=lambda beta: None if 0.0 < beta <= 1.0 else NOTHING, looks=99)
 
-def _iterate_steam_beta(meter, pressure, target):
-    unresolved = None, "Unable to resolve Beta Ratio for conditions."
-    beta = 0.5
-    for _ in range(100):
-        if not 0.0 < beta <= 1.0:
-            return NOTHING
-        e, y = _approach(beta), _expansion(beta, meter.dp, pressure)
-        r = single(quotient(target, single(y * e) * power(beta, 2.0)))
-        if not _finite(e, y, r):
-            return unresolved
-        if r < 0.0:
-            return BETA_FLOW_TOO_HIGH
-        s = single(quotient(root(r), meter.pipe))
-        if not _finite(s):
-            return unresolved
-        if 0.999999 < s < 1.000001:
-            return _checked_beta(round_to_5(beta, False))
-        beta = single(beta * s)
-    return unresolved
+    return _solve(meter, (meter.beta, meter.pipe, meter.flow), flow, dp, beta)
 
 
 # --- steam table ----------------------------------------------------------------------------------

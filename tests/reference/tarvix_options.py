@@ -5,6 +5,7 @@ from tarvix_controls import FIELD_GREY, GREEN, OPTION_GREY, RED, WINDOW_COLOUR, 
 from tarvix_numbers import local_decimal, read_single, single
 from tarvix_window import MainWindow
 
+STEAM_OPTIONS = ("optSaturated", "optSuperheated", "optSteamUser", "optSteamTbl", "lblSteamTbl")
 FLUID_OPTIONS = {"optLiquid": "L", "optGas": "G", "optSteam": "S"}
 
 
@@ -25,6 +26,12 @@ class Window(MainWindow):
                       "fraCompCorrection"):
             self[frame].visible = frame in shown
 
+    def _finish_fluid(self, focus=None):
+        self.suspended = False
+        self.DoOrificeCalculations()
+        if focus:
+            self.set_focus(focus)
+
     def _load_flow_lists(self):
         self.LoadcboFlowUnit()
         self.LoadcboTimeUnit()
@@ -34,26 +41,21 @@ class Window(MainWindow):
         self["fraDensity"].top = 1320
         self["fraDensity"].enabled = False
         self["lblSteamTbl"].visible = False
-        self._enable_density_options(False)
+        self._enable(STEAM_OPTIONS, False)
         self.DenEnableOff()
         self._load_flow_lists()
         self.select_option("optSgUser")
-        self.suspended = False
-        self.DoOrificeCalculations()
-        self.set_focus("txtSGf")
+        self._finish_fluid("txtSGf")
 
     def optGas_Click(self):
         self._start_fluid("optGas", ("fraTemp", "fraGasSG", "fraPress", "fraCompCorrection"))
         self["fraPress"].width = 6555
-        self["fraTemp"].enabled = True
-        self["txtTf"].enabled = self["lblTf"].enabled = True
-        self["txtTf"].backcolor = WINDOW_COLOUR
-        self["optDegF"].enabled = self["optDegC"].enabled = True
+        self._enable(("fraTemp", "lblTf", "optDegF", "optDegC"), True)
+        self._open("txtTf", True)
         self._open_pressure()
         self.CheckZfCompWarning()
         self._load_flow_lists()
-        self.suspended = False
-        self.DoOrificeCalculations()
+        self._finish_fluid()
 
     def optSteam_Click(self):
         self._start_fluid("optSteam", ("fraPress", "fraDensity"))
@@ -62,42 +64,40 @@ class Window(MainWindow):
         self["fraDensity"].enabled = True
         self["lblSteamTbl"].visible = True
         self.DenEnableOn()
-        self._enable_density_options(True)
+        self._enable(STEAM_OPTIONS, True)
         self.select_option("optSaturated")
         self.select_option("optSteamUser")
         self._load_flow_lists()
         self._open_pressure()
-        self.suspended = False
-        self.DoOrificeCalculations()
-        self.set_focus("txtDensity")
+        self._finish_fluid("txtDensity")
+
+    def _enable(self, names, enabled):
+        for name in names:
+            self[name].enabled = enabled
+
+    def _open(self, field, opened):
+        """Whether something can be entered, and the colour that says so."""
+        self[field].enabled = opened
+        self[field].backcolor = WINDOW_COLOUR if opened else FIELD_GREY
 
     def _open_pressure(self):
-        self["fraPress"].enabled = self["fraPress"].visible = True
-        self["cboPressUnit"].enabled = True
+        self["fraPress"].visible = True
+        self._enable(("fraPress", "cboPressUnit"), True)
 
     def DenEnableOn(self):
-        self["lblDensity"].enabled = True
+        self._enable(("lblDensity", "cboDensityUnit"), True)
         self["txtDensity"].backcolor = WINDOW_COLOUR
-        self["cboDensityUnit"].enabled = True
 
     def DenEnableOff(self):
         self.set_text("txtDensity", "")
-        self["lblDensity"].enabled = False
+        self._enable(("lblDensity", "cboDensityUnit"), False)
         self["txtDensity"].backcolor = FIELD_GREY
-        self["cboDensityUnit"].enabled = False
-
-    def _enable_density_options(self, enabled):
-        for name in ("optSaturated", "optSuperheated", "optSteamUser", "optSteamTbl",
-                     "lblSteamTbl"):
-            self[name].enabled = enabled
 
     # --- specific gravity, steam density, steam state --------------------------------------------
 
     def optSgCalc_Click(self):
-        self["txtSGf"].enabled = False
-        self["txtSGf"].backcolor = FIELD_GREY
-        self["fraDensity"].enabled = True
-        self["txtDensity"].enabled = True
+        self._open("txtSGf", False)
+        self._enable(("fraDensity", "txtDensity"), True)
         self.DenEnableOn()
         self.set_text("txtSGf", "")
         self.CalcSGf()
@@ -105,8 +105,7 @@ class Window(MainWindow):
         self.recalculate()
 
     def optSgUser_Click(self):
-        self["txtSGf"].enabled = True
-        self["txtSGf"].backcolor = WINDOW_COLOUR
+        self._open("txtSGf", True)
         self["fraDensity"].enabled = False
         self.DenEnableOff()
         self.set_text("txtSGf", "")
@@ -114,28 +113,24 @@ class Window(MainWindow):
         self.recalculate()
 
     def optSteamTbl_Click(self):
-        self["txtDensity"].enabled = False
-        self["txtDensity"].backcolor = FIELD_GREY
+        self._open("txtDensity", False)
         if self.CalcSteamDensity():
             self.recalculate()
         self.set_focus("txtPf")
 
     def optSteamUser_Click(self):
-        self["txtDensity"].enabled = True
-        self["txtDensity"].backcolor = WINDOW_COLOUR
+        self._open("txtDensity", True)
         self.set_text("txtDensity", "")
         self.set_focus("txtDensity")
         self.recalculate()
 
     def optSaturated_Click(self):
         self.select_option("optSteamUser")
-        self["optSteamTbl"].enabled = True
-        self["lblSteamTbl"].enabled = True
+        self._enable(("optSteamTbl", "lblSteamTbl"), True)
 
     def optSuperheated_Click(self):
         self.select_option("optSteamUser")
-        self["optSteamTbl"].enabled = False
-        self["lblSteamTbl"].enabled = False
+        self._enable(("optSteamTbl", "lblSteamTbl"), False)
         self.set_focus("txtDensity")
 
     # --- compressibility, temperature scale, pressure reference ----------------------------------
@@ -165,15 +160,12 @@ class Window(MainWindow):
         self.set_text("txtZf", "")
         self.CheckZfCompWarning()
 
-    def optDegC_Click(self):
-        self.recalculate()
-
-    optDegF_Click = optDegC_Click
+    optDegF_Click = optDegC_Click = MainWindow.recalculate
 
     def optPgauge_Click(self):
         self.txtPf_Change()
 
-    optPabsolute_Click = optPgauge_Click
+    optPabsolute_Click = cboPressUnit_Click = optPgauge_Click
 
     # --- warnings --------------------------------------------------------------------------------
 
@@ -201,23 +193,18 @@ class Window(MainWindow):
 
     # --- numeric fields --------------------------------------------------------------------------
 
-    def txtTf_Change(self):
-        self.recalculate()
-
-    txtSGb_Change = txtGasSGb_Change = txtZf_Change = txtTf_Change
+    txtTf_Change = txtSGb_Change = txtGasSGb_Change = txtZf_Change = MainWindow.recalculate
 
     def txtFlow_Change(self):
         if not self.on("optCalcFR"):
             self.recalculate()
-        if self.text("txtFlow") == "":
-            self.enable_printing(False)
+        self.no_page_without("txtFlow")
 
     def txtDeltaP_Change(self):
         if not self.on("optCalcDP"):
             self.recalculate()
         self.CheckPlateThicknessWarning()
-        if self.text("txtDeltaP") == "":
-            self.enable_printing(False)
+        self.no_page_without("txtDeltaP")
 
     def txtSGf_Change(self):
         if self.enabled("txtSGf"):

@@ -57,10 +57,10 @@ class MainWindow(Calculator):
     def Form_Load(self):
         self.suspended = True
         self.fluid = "G"
-        self._load_units("cboPipeIDUnit", LENGTH_UNITS, "cboOriBoreUnit")
-        self._load_units("cboPressUnit", PRESSURE_UNITS)
-        self._load_units("cboDeltaPunit", DELTA_P_UNITS)
-        self._load_units("cboDensityUnit", DENSITY_UNITS, "cboZfDensityUnit")
+        self._load_units(LENGTH_UNITS, "cboPipeIDUnit", "cboOriBoreUnit")
+        self._load_units(PRESSURE_UNITS, "cboPressUnit")
+        self._load_units(DELTA_P_UNITS, "cboDeltaPunit")
+        self._load_units(DENSITY_UNITS, "cboDensityUnit", "cboZfDensityUnit")
         self.LoadcboNomSize()
         self.LoadcboPipeID()
         self["fraPlateThicknessWarning"].backcolor = YELLOW
@@ -71,24 +71,25 @@ class MainWindow(Calculator):
         if self.suspended:
             self.select_option("optGas")
 
-    def _load_units(self, name, units, twin=None):
-        for box in (name, twin) if twin else (name,):
-            self.fill_list(box, [text for text, _ in units])
-            self.tables[box] = [factor for _, factor in units]
-        for box in (name, twin) if twin else (name,):
-            self.select_item(box, 0)
+    def _load(self, name, shown, table):
+        self.fill_list(name, shown)
+        self.tables[name] = table
+
+    def _load_units(self, units, *names):
+        for name in names:
+            self._load(name, [text for text, _ in units], [factor for _, factor in units])
+        for name in names:
+            self.select_item(name, 0)
 
     def LoadcboFlowUnit(self):
         units = FLOW_UNITS[self.fluid]
         names = [text for text, _, _ in units]
-        self.fill_list("cboFlowUnit", names)
-        self.tables["cboFlowUnit"] = [(kind, factor) for _, kind, factor in units]
+        self._load("cboFlowUnit", names, [(kind, factor) for _, kind, factor in units])
         self.select_item("cboFlowUnit", names.index(FLUID_DEFAULTS[self.fluid][0]))
 
     def LoadcboTimeUnit(self):
         names = [text for text, _ in TIME_UNITS]
-        self.fill_list("cboTimeUnit", names)
-        self.tables["cboTimeUnit"] = [factor for _, factor in TIME_UNITS]
+        self._load("cboTimeUnit", names, [factor for _, factor in TIME_UNITS])
         self.select_item("cboTimeUnit", names.index(FLUID_DEFAULTS[self.fluid][1]))
 
     # --- modes -----------------------------------------------------------------------------------
@@ -126,9 +127,6 @@ class MainWindow(Calculator):
 
     # --- unit lists ------------------------------------------------------------------------------
 
-    def cboPressUnit_Click(self):
-        self.txtPf_Change()
-
     def cboDeltaPunit_Click(self):
         self.recalculate()
         self.CheckPlateThicknessWarning()
@@ -140,9 +138,6 @@ class MainWindow(Calculator):
             return
         self.recalculate()
 
-    def cboZfDensityUnit_Click(self):
-        self.recalculate()
-
     def cboFlowUnit_Click(self):
         mass = self.flow_kind() == "M"
         if self.fluid == "L":
@@ -152,8 +147,7 @@ class MainWindow(Calculator):
             self["fraGasSG"].visible = not (self.on("optCompDensity") and mass)
         self.recalculate()
 
-    def cboTimeUnit_Click(self):
-        self.recalculate()
+    cboTimeUnit_Click = cboZfDensityUnit_Click = recalculate
 
     # --- pipe ------------------------------------------------------------------------------------
 
@@ -171,8 +165,7 @@ class MainWindow(Calculator):
         if factor != 1.0:
             shown = [format_number(single(read_single(value, self.locale) / factor), 1,
                                    self.locale, False) for value in values]
-        self.fill_list("cboNomSize", shown)
-        self.tables["cboNomSize"] = values
+        self._load("cboNomSize", shown, values)
         self.select_item("cboNomSize", values.index(wanted) if wanted in values else 0)
 
     def cboNomSize_Click(self):
@@ -198,8 +191,7 @@ class MainWindow(Calculator):
             diameters.append(diameter)
         shown.append("Other (User Entered)")
         diameters.append("0")
-        self.fill_list("cboPipeID", shown)
-        self.tables["cboPipeID"] = diameters
+        self._load("cboPipeID", shown, diameters)
         chosen = max((i for i, text in enumerate(diameters) if text == remembered), default=0)
         self.select_item("cboPipeID", chosen)
 
@@ -258,7 +250,10 @@ class MainWindow(Calculator):
                 self._bore_from_beta()
         if not self.on("optCalcBeta"):
             self.recalculate()
-        if self.text("txtBeta") == "":
+        self.no_page_without("txtBeta")
+
+    def no_page_without(self, field):
+        if self.text(field) == "":
             self.enable_printing(False)
 
     def _refuse_beta(self):

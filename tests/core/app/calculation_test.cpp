@@ -16,9 +16,9 @@ using namespace testing;
 class CalculationTest : public SheetTest {
   protected:
     template <typename Action>
-    std::string FatalTextOf(Action action) {
+    void ExpectFatal(const char* cause, Action action) {
         module.MsgText = "";
-        return FatalBoxOf(platform, action).text;
+        EXPECT_EQ(FatalBoxOf(platform, action).text, FatalText(cause));
     }
 
     // Checks and solves a sheet that must be good.
@@ -26,7 +26,20 @@ class CalculationTest : public SheetTest {
         EXPECT_EQ(CheckAndKeep(sheet, module), kDataGood) << module.MsgText;
         return Solved(sheet, module);
     }
+    void ExpectResult(const InputSheet& sheet, const std::string& text,
+                      const std::string& message = "") {
+        const CalculationResult result = Solve(sheet);
+        EXPECT_EQ(result.text, text);
+        EXPECT_EQ(result.message, message);
+    }
+    void ExpectBad(const InputSheet& sheet, const std::string& message) {
+        EXPECT_EQ(CheckAndKeep(sheet, module), kDataBad);
+        EXPECT_EQ(module.MsgText, message);
+    }
 };
+
+constexpr auto kFluidSheets = {LiquidSheet, SteamSheet, GasSheet};
+constexpr auto kModes = {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta};
 
 // Results in every mode ---------------------------------------------------------------------------
 
@@ -38,14 +51,7 @@ struct ResultRow : NamedRow {
     const char* beta;
 };
 
-class CalculationRow : public CalculationTest, public ::testing::WithParamInterface<ResultRow> {
-  protected:
-    CalculationResult ResultIn(SolveFor mode) {
-        InputSheet sheet = GetParam().sheet(mode);
-        GetParam().change(sheet);
-        return Solve(sheet);
-    }
-};
+class CalculationRow : public CalculationTest, public ::testing::WithParamInterface<ResultRow> {};
 
 TEST(InputSheetTest, AUnitThatIsNotSelectedConvertsNothing) {
     const InputSheet sheet;
@@ -60,14 +66,10 @@ TEST_P(CalculationRow, GivesTheTextOfEachResult) {
     for (const auto& [mode, text] : {std::pair{SolveFor::FlowRate, GetParam().flow},
                                      std::pair{SolveFor::DiffPressure, GetParam().deltaP},
                                      std::pair{SolveFor::Beta, GetParam().beta}}) {
-        const CalculationResult result = ResultIn(mode);
-        EXPECT_EQ(result.text, text);
-        EXPECT_EQ(result.message, "");
+        InputSheet sheet = GetParam().sheet(mode);
+        GetParam().change(sheet);
+        ExpectResult(sheet, text);
     }
-}
-
-void TwoInchPipe(InputSheet& sheet) {
-    sheet.pipeDiameter = "2.067";
 }
 
 // clang-format off
@@ -100,7 +102,7 @@ const ResultRow kResultRows[] = {
      "4,451", "4.936", "0.24059"},
     // Air at 60 deg F and 100 psi gauge.
     {"GasTwoInchesThereAndBack", GasSheet,
-     [](InputSheet& s) { TwoInchPipe(s); s.flow = "570,361"; }, "570,361", "100.00", "0.50000"},
+     [](InputSheet& s) { s.pipeDiameter = "2.067"; s.flow = "570,361"; }, "570,361", "100.00", "0.50000"},
     {"GasCubicMetersPerHourMercury", GasSheet,
      [](InputSheet& s) {
          SelectFlow(s, "Standard Cubic Meters", "Hour"); s.flow = "2000";
@@ -161,37 +163,31 @@ TEST_F(CalculationTest, NumbersAreReadAndWrittenInTheLocale) {
 TEST_F(CalculationTest, ALiquidFlowTooHighForThePipe) {
     InputSheet sheet = LiquidSheet(SolveFor::Beta);
     sheet.flow = "100000";
-    const CalculationResult result = Solve(sheet);
-    EXPECT_EQ(result.text, "");
-    EXPECT_EQ(result.message,
-              "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.");
+    ExpectResult(sheet, "",
+                 "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.");
     sheet.flow = "0.00000000001";
-    EXPECT_EQ(Solve(sheet).message, "Flow rate is out of range (beta <= 0.0).");
+    ExpectResult(sheet, "", "Flow rate is out of range (beta <= 0.0).");
 }
 
 TEST_F(CalculationTest, APipeWithoutDiameterGivesNothing) {
-    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
-        for (const SolveFor mode : {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta}) {
+    for (const auto sheetOf : kFluidSheets) {
+        for (const SolveFor mode : kModes) {
             for (const char* diameter : {"0", "0.000", ""}) {
                 InputSheet sheet = sheetOf(mode);
                 sheet.pipeDiameter = diameter;
-                const CalculationResult result = Solve(sheet);
-                EXPECT_EQ(result.text, "");
-                EXPECT_EQ(result.message, "");
+                ExpectResult(sheet, "");
             }
         }
     }
 }
 
 TEST_F(CalculationTest, AMissingCalculatedGravityGivesNothing) {
-    for (const SolveFor mode : {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta}) {
+    for (const SolveFor mode : kModes) {
         InputSheet sheet = LiquidSheet(mode);
         sheet.sgCalculated = true;
         sheet.density = "60";
         sheet.sgf = "";
-        const CalculationResult result = Solve(sheet);
-        EXPECT_EQ(result.text, "");
-        EXPECT_EQ(result.message, "");
+        ExpectResult(sheet, "");
     }
 }
 
@@ -200,30 +196,25 @@ TEST_F(CalculationTest, AMissingCalculatedGravityGivesNothing) {
 TEST_F(CalculationTest, EachFluidHasItsOwnCheck) {
     InputSheet sheet = LiquidSheet();
     sheet.sgf = "";
-    EXPECT_EQ(CheckAndKeep(sheet, module), kDataBad);
-    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Flowing Specific Gravity).");
+    ExpectBad(sheet, "Incomplete fluid data (Flowing Specific Gravity).");
     sheet = SteamSheet();
     sheet.pf = "";
-    EXPECT_EQ(CheckAndKeep(sheet, module), kDataBad);
-    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Operating Pressure).");
+    ExpectBad(sheet, "Incomplete fluid data (Operating Pressure).");
     sheet = GasSheet();
     sheet.pf = "";
-    EXPECT_EQ(CheckAndKeep(sheet, module), kDataBad);
-    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Op. Pressure).");
+    ExpectBad(sheet, "Incomplete fluid data (Op. Pressure).");
 }
 
 TEST_F(CalculationTest, TheOrificeCheckFollowsAGoodFluidCheckOnly) {
-    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
+    for (const auto sheetOf : kFluidSheets) {
         InputSheet sheet = sheetOf(SolveFor::FlowRate);
         sheet.deltaP = "";
-        EXPECT_EQ(CheckAndKeep(sheet, module), kDataBad);
-        EXPECT_EQ(module.MsgText, "Incomplete or Non-Numeric fluid data (Differential Pressure).");
+        ExpectBad(sheet, "Incomplete or Non-Numeric fluid data (Differential Pressure).");
     }
     InputSheet sheet = LiquidSheet();
     sheet.sgf = "";
     sheet.deltaP = "";
-    EXPECT_EQ(CheckAndKeep(sheet, module), kDataBad);
-    EXPECT_EQ(module.MsgText, "Incomplete fluid data (Flowing Specific Gravity).");
+    ExpectBad(sheet, "Incomplete fluid data (Flowing Specific Gravity).");
 }
 
 // Internal inconsistencies ------------------------------------------------------------------------
@@ -231,38 +222,33 @@ TEST_F(CalculationTest, TheOrificeCheckFollowsAGoodFluidCheckOnly) {
 TEST_F(CalculationTest, AnUnknownFluidEndsTheProgram) {
     for (const char* fluid : {"", "X", "l", "s", "g", "LS"}) {
         module.FluidType = fluid;
-        EXPECT_EQ(FatalTextOf([&] { module.CurrentFluid(); }),
-                  FatalText("Orifice type not specified"));
-        EXPECT_EQ(FatalTextOf([&] { module.CurrentFluid("Orifice flow type not specified."); }),
-                  FatalText("Orifice flow type not specified."));
+        ExpectFatal("Orifice type not specified", [&] { module.CurrentFluid(); });
+        constexpr const char* kCause = "Orifice flow type not specified.";
+        ExpectFatal(kCause, [&] { module.CurrentFluid(kCause); });
     }
-    const std::pair<const char*, Fluid> known[] = {
-        {"L", Fluid::Liquid}, {"G", Fluid::Gas}, {"S", Fluid::Steam}};
-    for (const auto& [code, fluid] : known) {
+    for (const auto& [code, fluid] : {std::pair{"L", Fluid::Liquid}, std::pair{"G", Fluid::Gas},
+                                      std::pair{"S", Fluid::Steam}}) {
         module.FluidType = code;
         EXPECT_EQ(module.CurrentFluid(), fluid);
     }
 }
 
 TEST_F(CalculationTest, WithoutAModeTheProgramEnds) {
-    for (const auto sheetOf : {LiquidSheet, SteamSheet, GasSheet}) {
+    for (const auto sheetOf : kFluidSheets) {
         InputSheet sheet = sheetOf(SolveFor::FlowRate);
         sheet.mode.reset();
-        EXPECT_EQ(CheckAndKeep(sheet, module), kDataGood);
-        EXPECT_EQ(FatalTextOf([&] { Solved(sheet, module); }),
-                  FatalText("No variable to calculate has been selected."));
+        ExpectFatal("No variable to calculate has been selected.", [&] { Solve(sheet); });
     }
 }
 
 TEST_F(CalculationTest, AGasFlowOfUnknownKindEndsTheProgram) {
+    constexpr const char* kCause = "Mass or Volumetric flow type not specified.";
     InputSheet sheet = GasSheet();
     sheet.flowKind.reset();
-    EXPECT_EQ(FatalTextOf([&] { Solved(sheet, module); }),
-              FatalText("Mass or Volumetric flow type not specified."));
+    ExpectFatal(kCause, [&] { Solved(sheet, module); });
     // It is found before the missing mode is.
     sheet.mode.reset();
-    EXPECT_EQ(FatalTextOf([&] { Solved(sheet, module); }),
-              FatalText("Mass or Volumetric flow type not specified."));
+    ExpectFatal(kCause, [&] { Solved(sheet, module); });
 }
 
 }  // namespace

@@ -274,33 +274,23 @@ INSTANTIATE_TEST_SUITE_P(DataChecks, GaugePressure, ::testing::ValuesIn(kPressur
 class DataChecksTest : public SheetTest {};
 
 TEST_F(DataChecksTest, AnAbsolutePressureIsAboveZero) {
-    for (const char* pressure : {"0", "-5", "-14"}) {
-        InputSheet steam = SteamSheet();
-        InputSheet gas = GasSheet();
-        steam.absolutePressure = gas.absolutePressure = true;
-        steam.pf = gas.pf = pressure;
-        EXPECT_EQ(MessageOf(DataChkSteam, steam), "Operating Pressure must be greater than 0.");
-        EXPECT_EQ(MessageOf(DataChkGas, gas), "Op. Pressure must be greater than 0.");
-        // Without a full stop while it is being edited.
-        steam.activeField = gas.activeField = Field::Pf;
-        EXPECT_EQ(MessageOf(DataChkSteam, steam), "Operating Pressure must be greater than 0");
-        EXPECT_EQ(MessageOf(DataChkGas, gas), "Op. Pressure must be greater than 0");
-        steam.pf = gas.pf = "1e-40";
-        EXPECT_EQ(MessageOf(DataChkSteam, steam), "");
-        EXPECT_EQ(MessageOf(DataChkGas, gas), "");
+    for (InputSheet sheet : {SteamSheet(), GasSheet()}) {
+        const Check check = sheet.fluid == Fluid::Steam ? DataChkSteam : DataChkGas;
+        const std::string tooSmall =
+            std::string(sheet.fluid == Fluid::Steam ? "Operating" : "Op.") +
+            " Pressure must be greater than 0";
+        sheet.absolutePressure = true;
+        for (const char* pressure : {"0", "-5", "-14"}) {
+            sheet.pf = pressure;
+            sheet.activeField = Field::None;
+            EXPECT_EQ(MessageOf(check, sheet), tooSmall + ".");
+            // Without a full stop while it is being edited.
+            sheet.activeField = Field::Pf;
+            EXPECT_EQ(MessageOf(check, sheet), tooSmall);
+        }
+        sheet.pf = "1e-40";
+        EXPECT_EQ(MessageOf(check, sheet), "");
     }
-}
-
-TEST_F(DataChecksTest, ThePressureLimitComesBeforeWhatIsTooSmall) {
-    InputSheet steam = SteamSheet();
-    steam.pf = "-20";
-    steam.density = "0";
-    EXPECT_EQ(MessageOf(DataChkSteam, steam),
-              "Operating Pressure must be greater than -14.7000 PSI.");
-    InputSheet gas = GasSheet();
-    gas.pf = "-20";
-    gas.gasSGb = "0";
-    EXPECT_EQ(MessageOf(DataChkGas, gas), "Op. Pressure must be greater than -14.7000 PSI.");
 }
 
 TEST_F(DataChecksTest, TheLimitIsWrittenInTheLocale) {
@@ -313,27 +303,43 @@ TEST_F(DataChecksTest, TheLimitIsWrittenInTheLocale) {
               "Operating Pressure must be greater than -101.353,0000 Pa.");
 }
 
-// Calculated entries ------------------------------------------------------------------------------
+// What is particular to one check -----------------------------------------------------------------
+
+InputSheet SteamWith(const char* pressure, const char* density) {
+    InputSheet sheet = SteamSheet();
+    sheet.pf = pressure;
+    sheet.density = density;
+    return sheet;
+}
+
+InputSheet SteamFromTable(const char* pressure, const char* density, Field active = Field::None) {
+    InputSheet sheet = SteamWith(pressure, density);
+    sheet.steamFromTable = true;
+    sheet.activeField = active;
+    return sheet;
+}
+
+TEST_F(DataChecksTest, ThePressureLimitComesBeforeWhatIsTooSmall) {
+    EXPECT_EQ(MessageOf(DataChkSteam, SteamWith("-20", "0")),
+              "Operating Pressure must be greater than -14.7000 PSI.");
+    InputSheet gas = GasSheet();
+    gas.pf = "-20";
+    gas.gasSGb = "0";
+    EXPECT_EQ(MessageOf(DataChkGas, gas), "Op. Pressure must be greater than -14.7000 PSI.");
+}
 
 // A density from the table is not required, but must be there.
 TEST_F(DataChecksTest, ADensityFromTheTable) {
-    InputSheet sheet = SteamSheet();
-    sheet.steamFromTable = true;
-    sheet.density = "0";
-    EXPECT_EQ(MessageOf(DataChkSteam, sheet), "");
-    sheet.density = "";
-    EXPECT_EQ(MessageOf(DataChkSteam, sheet),
+    EXPECT_EQ(MessageOf(DataChkSteam, SteamFromTable("100", "0")), "");
+    EXPECT_EQ(MessageOf(DataChkSteam, SteamFromTable("100", "")),
               "The Operating Density [from Op. Pressure] must not exceed steam table limits.");
-    sheet.pf = "";
-    EXPECT_EQ(MessageOf(DataChkSteam, sheet), "Incomplete fluid data (Operating Pressure).");
+    EXPECT_EQ(MessageOf(DataChkSteam, SteamFromTable("", "")),
+              "Incomplete fluid data (Operating Pressure).");
 }
 
 TEST_F(DataChecksTest, ACalculatedEntryBeingEditedIsCalledSo) {
-    InputSheet steam = SteamSheet();
-    steam.steamFromTable = true;
-    steam.activeField = Field::Density;
-    steam.density = "x";
-    EXPECT_EQ(MessageOf(DataChkSteam, steam), "Non-Numeric Operating Density [from Op. Pressure]");
+    EXPECT_EQ(MessageOf(DataChkSteam, SteamFromTable("100", "x", Field::Density)),
+              "Non-Numeric Operating Density [from Op. Pressure]");
     InputSheet liquid = LiquidSheet();
     liquid.sgCalculated = true;
     liquid.activeField = Field::SGf;
@@ -342,15 +348,12 @@ TEST_F(DataChecksTest, ACalculatedEntryBeingEditedIsCalledSo) {
               "Non-Numeric Flowing Specific Gravity [from Density]");
 }
 
-TEST_F(DataChecksTest, BetaHasNoUpperBoundHere) {
+// A beta of 1 or more and a temperature below absolute zero are for the equation to refuse.
+TEST_F(DataChecksTest, BetaAndTemperatureHaveNoOtherBounds) {
     InputSheet sheet = LiquidSheet();
     sheet.beta = "1.5";
     EXPECT_EQ(MessageOf(kOrificeCheck, sheet), "");
-}
-
-// A temperature below absolute zero is for the equation to refuse.
-TEST_F(DataChecksTest, ATemperatureMayBeAnyNumber) {
-    InputSheet sheet = GasSheet();
+    sheet = GasSheet();
     sheet.tf = "-1000";
     EXPECT_EQ(MessageOf(DataChkGas, sheet), "");
 }
