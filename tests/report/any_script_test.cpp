@@ -52,7 +52,7 @@ TEST_F(AnyScriptTest, GreekAndCyrillicStandInTheCellsOfTheReportsFont) {
         const PdfPage page = PageWith(text);
         const PdfWord& word = page.Word(QString::fromUtf8(text));
         EXPECT_NEAR(ColumnOf(word), 10, 0.02);
-        EXPECT_NEAR((word.right - word.left) / kCharacter12,
+        EXPECT_NEAR(word.Width() / kCharacter12,
                     static_cast<double>(QString::fromUtf8(text).size()), 0.03);
         EXPECT_EQ(FontsOf(File()).size(), 3);
     }
@@ -135,8 +135,7 @@ TEST_F(AnyScriptTest, LongJapaneseLineIsNarrowedAndCutAsOthers) {
     SKIP_WITHOUT_FONT("流");
     module_.CustLine1 = QString::fromUtf8("流").repeated(40).toStdString();  // 80 cells
     PdfPage page = PageOf(LiquidSheet(), QPageSize::A4);
-    const double tag = page.Word("FE-4102").right - page.Word("FE-4102").left;
-    EXPECT_NEAR(tag / 7, kCharacter12 * 62 / 80, 0.03);
+    EXPECT_NEAR(page.Word("FE-4102").Width() / 7, kCharacter12 * 62 / 80, 0.03);
     module_.CustLine1 =
         QString::fromUtf8("流").repeated(52).toStdString();  // 104 cells: one too many
     page = PageOf(LiquidSheet(), QPageSize::A4);

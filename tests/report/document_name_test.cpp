@@ -6,13 +6,10 @@
 namespace tarvix::testing {
 namespace {
 
-TEST(DocumentName, CarriesTheTag) {
+TEST(DocumentName, CarriesTheTagWhereThereIsOne) {
     EXPECT_EQ(DocumentName("FE-4102"), "Orifice calculation FE-4102");
     EXPECT_EQ(DocumentName("  FE 4102 "), "Orifice calculation FE 4102");
     EXPECT_EQ(DocumentName("FE\r\n4102\t/B"), "Orifice calculation FE 4102 /B");
-}
-
-TEST(DocumentName, WithoutATagIsThatOfAllReports) {
     EXPECT_EQ(DocumentName(""), "Orifice calculation");
     EXPECT_EQ(DocumentName("   "), "Orifice calculation");
 }

@@ -1,64 +1,57 @@
 // The page on paper: painted into PDF files and read back with poppler's tools.
 #include "report/printer/page_painter.h"
 
+#include "tests/core/named_row.h"
 #include "tests/report/painted_page.h"
 
 #include <gtest/gtest.h>
-#include <ostream>
 
 namespace tarvix::testing {
 namespace {
 
 // The papers that the page is made for, with the margins in points: 6% of the width and 4.5% of the
 // height of 12240 x 15840 and 11906 x 16838 twips.
-struct PaperCase {
-    const char* name;
-    QPageSize::PageSizeId paper;
-    double width;
-    double height;
-    double leftMargin;
-    double topMargin;
+struct Paper : NamedRow {
+    QPageSize::PageSizeId size;
+    double width, height;
+    double left, top;
 };
 
-std::ostream& operator<<(std::ostream& out, const PaperCase& test) {
-    return out << test.name << ", " << test.width << " x " << test.height << ", margins "
-               << test.leftMargin << " and " << test.topMargin;
-}
-
-class PaperTest : public PagePainterTest, public ::testing::WithParamInterface<PaperCase> {};
+class PaperTest : public PagePainterTest, public ::testing::WithParamInterface<Paper> {
+  protected:
+    const Paper& paper_ = GetParam();
+};
 
 INSTANTIATE_TEST_SUITE_P(
     Papers, PaperTest,
-    ::testing::Values(PaperCase{"Letter", QPageSize::Letter, 612, 792, 36.72, 35.64},
-                      PaperCase{"A4", QPageSize::A4, 595, 842, 35.718, 37.8855}),
-    [](const auto& test) { return std::string(test.param.name); });
+    ::testing::Values(Paper{{"Letter"}, QPageSize::Letter, 612, 792, 36.72, 35.64},
+                      Paper{{"A4"}, QPageSize::A4, 595, 842, 35.718, 37.8855}),
+    kRowName);
 
 TEST_P(PaperTest, FullestPageStaysInsideTheMargins) {
-    const PdfPage page = PageOf(FullestSheet(), GetParam().paper);
-    EXPECT_NEAR(page.width, GetParam().width, 0.5);
-    EXPECT_NEAR(page.height, GetParam().height, 0.5);
+    const PdfPage page = PageOf(FullestSheet(), paper_.size);
+    EXPECT_NEAR(page.width, paper_.width, 0.5);
+    EXPECT_NEAR(page.height, paper_.height, 0.5);
     ASSERT_GT(page.words.size(), 150U);
     for (const PdfWord& word : page.words) {
-        EXPECT_GE(word.left, GetParam().leftMargin - 0.1) << word.text.toStdString();
-        EXPECT_GE(word.top, GetParam().topMargin - 0.1) << word.text.toStdString();
-        EXPECT_LE(word.right, GetParam().width - GetParam().leftMargin + 0.1)
-            << word.text.toStdString();
-        EXPECT_LE(word.bottom, GetParam().height - GetParam().topMargin + 0.1)
-            << word.text.toStdString();
+        EXPECT_GE(word.left, paper_.left - 0.1) << word.text.toStdString();
+        EXPECT_GE(word.top, paper_.top - 0.1) << word.text.toStdString();
+        EXPECT_LE(word.right, paper_.width - paper_.left + 0.1) << word.text.toStdString();
+        EXPECT_LE(word.bottom, paper_.height - paper_.top + 0.1) << word.text.toStdString();
     }
 }
 
 TEST_P(PaperTest, TitleStandsBelowThreeLinesAtTheLeftMargin) {
-    const PdfPage page = PageOf(GasSheet(), GetParam().paper);
+    const PdfPage page = PageOf(GasSheet(), paper_.size);
     const PdfWord& title = page.Word("Orifice");
-    EXPECT_NEAR(title.left, GetParam().leftMargin, 0.1);
-    EXPECT_NEAR(title.top, GetParam().topMargin + 3 * 12 * 1.1328125, 0.5);
+    EXPECT_NEAR(title.left, paper_.left, 0.1);
+    EXPECT_NEAR(title.top, paper_.top + 3 * 12 * 1.1328125, 0.5);
     EXPECT_EQ(page.LineOf(title), "Orifice calculation for Bore size - Flange Taps - Gas");
 }
 
 TEST_P(PaperTest, ValuesEndInColumn40) {
-    const PdfPage page = PageOf(GasSheet(), GetParam().paper);
-    const double column40 = GetParam().leftMargin + 40 * kCharacter12;
+    const PdfPage page = PageOf(GasSheet(), paper_.size);
+    const double column40 = paper_.left + 40 * kCharacter12;
     for (const char* value :
          {"25,000.00", "50.25", "(20.00)", "150.00", "0.60", "1.00000", "2.067", "0.517"}) {
         EXPECT_NEAR(page.Word(value).right, column40, 0.2) << value;
@@ -69,35 +62,34 @@ TEST_P(PaperTest, ValuesEndInColumn40) {
 }
 
 TEST_P(PaperTest, NotesStartAtTheSameHeightOnEveryPage) {
-    const double empty = PageOf(LiquidSheet(), GetParam().paper).Word("Note:").top;
-    const double full = PageOf(FullestSheet(), GetParam().paper).Word("Note:").top;
+    const double empty = PageOf(LiquidSheet(), paper_.size).Word("Note:").top;
+    const double full = PageOf(FullestSheet(), paper_.size).Word("Note:").top;
     EXPECT_EQ(empty, full);
-    EXPECT_NEAR(full, GetParam().topMargin + 400, 0.5);  // 8000 twips
+    EXPECT_NEAR(full, paper_.top + 400, 0.5);  // 8000 twips
 }
 
 TEST_P(PaperTest, FooterColumnsStandBelowEachOther) {
-    const PdfPage page = PageOf(GasSheet(), GetParam().paper);
+    const PdfPage page = PageOf(GasSheet(), paper_.size);
     const double column = 28 * 8 * 1229.0 / 2048.0;
-    EXPECT_NEAR(page.Word("Brindle", 1).left, GetParam().leftMargin, 0.1);
-    EXPECT_NEAR(page.Word("Marlow").left, GetParam().leftMargin, 0.1);
-    int number = 0;
+    EXPECT_NEAR(page.Word("Brindle", 1).left, paper_.left, 0.1);
+    EXPECT_NEAR(page.Word("Marlow").left, paper_.left, 0.1);
+    int office = 0;
     for (const char* city : {"Port", "Kestrel", "Fenwick"}) {
-        ++number;
-        EXPECT_NEAR(page.Word(city).left, GetParam().leftMargin + number * column, 0.2);
+        EXPECT_NEAR(page.Word(city).left, paper_.left + (office + 1) * column, 0.2);
         // The headquarters' own telephone number comes after those of the offices.
-        EXPECT_NEAR(page.Word("Tel.", number - 1).left, page.Word(city).left, 0.2);
-        EXPECT_NEAR(page.Word("Fax", number - 1).left, page.Word(city).left, 0.2);
+        EXPECT_NEAR(page.Word("Tel.", office).left, page.Word(city).left, 0.2);
+        EXPECT_NEAR(page.Word("Fax", office++).left, page.Word(city).left, 0.2);
     }
 }
 
 TEST_P(PaperTest, FontsAreCourierNewOrItsEqualAndEmbedded) {
-    ASSERT_TRUE(Paint(GasSheet(), GetParam().paper));
+    ASSERT_TRUE(Paint(GasSheet(), paper_.size));
     const QStringList fonts = FontsOf(File());
     EXPECT_EQ(fonts.size(), 3);  // bold, italic, regular
     for (const QString& font : fonts) {
-        const bool courier = font.startsWith("CourierNew") || font.startsWith("LiberationMono") ||
-                             font.startsWith("Cousine");
-        EXPECT_TRUE(courier) << font.toStdString();
+        EXPECT_TRUE(font.startsWith("CourierNew") || font.startsWith("LiberationMono") ||
+                    font.startsWith("Cousine"))
+            << font.toStdString();
         EXPECT_FALSE(font.contains("not embedded")) << font.toStdString();
     }
     EXPECT_EQ(fonts.filter("Bold").size(), 1);
@@ -105,9 +97,9 @@ TEST_P(PaperTest, FontsAreCourierNewOrItsEqualAndEmbedded) {
 }
 
 TEST_P(PaperTest, PrinterThatCannotReachThePapersEdge) {
-    const PdfPage page = PageOf(GasSheet(), GetParam().paper, QMarginsF(18, 12, 18, 12));
-    EXPECT_NEAR(page.Word("Orifice").left, GetParam().leftMargin, 0.1);
-    EXPECT_NEAR(page.Word("Note:").top, GetParam().topMargin + 400, 0.5);
+    const PdfPage page = PageOf(GasSheet(), paper_.size, QMarginsF(18, 12, 18, 12));
+    EXPECT_NEAR(page.Word("Orifice").left, paper_.left, 0.1);
+    EXPECT_NEAR(page.Word("Note:").top, paper_.top + 400, 0.5);
 }
 
 TEST_F(PagePainterTest, LogoStandsAtTheCornerAtItsOwnSize) {
@@ -188,15 +180,13 @@ TEST_F(PagePainterTest, SmallPaperGetsTheWholePageSmaller) {
         EXPECT_LE(word.right, page.width * 0.94 + 0.2) << word.text.toStdString();
         EXPECT_LE(word.bottom, page.height * 0.955 + 0.2) << word.text.toStdString();
     }
-    const double scale = page.Word("Customer:").right - page.Word("Customer:").left;
-    EXPECT_LT(scale, 0.8 * 9 * kCharacter12);
-    EXPECT_GT(scale, 0.6 * 9 * kCharacter12);
+    EXPECT_LT(page.Word("Customer:").Width(), 0.8 * 9 * kCharacter12);
+    EXPECT_GT(page.Word("Customer:").Width(), 0.6 * 9 * kCharacter12);
 }
 
 TEST_F(PagePainterTest, LargePaperKeepsTheSize) {
     const PdfPage page = PageOf(FullestSheet(), QPageSize::A3);
-    const PdfWord& label = page.Word("Customer:");
-    EXPECT_NEAR(label.right - label.left, 9 * kCharacter12, 0.1);
+    EXPECT_NEAR(page.Word("Customer:").Width(), 9 * kCharacter12, 0.1);
 }
 
 TEST_F(PagePainterTest, DeviceThatCannotBePaintedOn) {

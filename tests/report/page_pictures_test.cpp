@@ -2,13 +2,13 @@
 // line lower, or in another letter is seen, wherever it is.
 //
 // TARVIX_KEEP_PICTURES=1 makes the kept pictures anew. Look at them before they are committed.
+#include "tests/core/named_row.h"
 #include "tests/report/painted_page.h"
 
 #include <QFile>
 #include <QFontInfo>
 
 #include <cstdlib>
-#include <ostream>
 
 namespace tarvix::testing {
 namespace {
@@ -20,15 +20,10 @@ constexpr int kDotsPerInch = 72;
 constexpr int kShades = 64;
 constexpr int kStrayDots = 8;
 
-struct PictureCase {
-    const char* name;
+struct PictureCase : NamedRow {
     ReportSheet (*sheet)();
     QPageSize::PageSizeId paper;
 };
-
-std::ostream& operator<<(std::ostream& out, const PictureCase& test) {
-    return out << test.name;
-}
 
 ReportSheet LiquidFromDensity() {
     ReportSheet sheet = LiquidSheet();
@@ -78,13 +73,13 @@ class PagePictureTest : public PagePainterTest, public ::testing::WithParamInter
 
 INSTANTIATE_TEST_SUITE_P(
     Pages, PagePictureTest,
-    ::testing::Values(PictureCase{"liquid_letter", LiquidFromDensity, QPageSize::Letter},
-                      PictureCase{"liquid_a4", LiquidFromDensity, QPageSize::A4},
-                      PictureCase{"gas_letter", FullestSheet, QPageSize::Letter},
-                      PictureCase{"gas_a4", FullestSheet, QPageSize::A4},
-                      PictureCase{"steam_letter", SteamFromTable, QPageSize::Letter},
-                      PictureCase{"steam_a4", SteamFromTable, QPageSize::A4}),
-    [](const auto& test) { return std::string(test.param.name); });
+    ::testing::Values(PictureCase{{"liquid_letter"}, LiquidFromDensity, QPageSize::Letter},
+                      PictureCase{{"liquid_a4"}, LiquidFromDensity, QPageSize::A4},
+                      PictureCase{{"gas_letter"}, FullestSheet, QPageSize::Letter},
+                      PictureCase{{"gas_a4"}, FullestSheet, QPageSize::A4},
+                      PictureCase{{"steam_letter"}, SteamFromTable, QPageSize::Letter},
+                      PictureCase{{"steam_a4"}, SteamFromTable, QPageSize::A4}),
+    kRowName);
 
 TEST_P(PagePictureTest, IsTheOneThatIsKept) {
     const QImage printed = Printed(GetParam().sheet());

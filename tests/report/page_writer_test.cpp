@@ -1,32 +1,28 @@
 #include "report/page/page_writer.h"
 
+#include "tests/report/page_rows.h"
+
 #include <gtest/gtest.h>
 #include <string>
 
 namespace tarvix::testing {
 namespace {
 
-TEST(ValueLineTest, ValueEndsInColumn40) {
-    const std::string line = ValueLine("Flow Rate", "1,234.50");
-    EXPECT_EQ(line, "Flow Rate" + std::string(23, ' ') + "1,234.50");
-    EXPECT_EQ(line.size(), 40U);
+std::string Ones(std::size_t count) {
+    return std::string(count, '1');
 }
 
-TEST(ValueLineTest, LabelAndValueThatJustFillTheColumns) {
-    EXPECT_EQ(ValueLine(std::string(20, 'L'), std::string(19, '1')),
-              std::string(20, 'L') + " " + std::string(19, '1'));
-    EXPECT_EQ(ValueLine(std::string(20, 'L'), std::string(20, '1')),
-              std::string(20, 'L') + std::string(20, '1'));
+TEST(ValueLineTest, ValueEndsInColumn40) {
+    EXPECT_EQ(ValueLine("Flow Rate", "1,234.50"), "Flow Rate" + std::string(23, ' ') + "1,234.50");
+    EXPECT_EQ(ValueLine("Beta", ""), "Beta" + std::string(36, ' '));
 }
 
 TEST(ValueLineTest, TooLongIsJoinedByOneBlank) {
-    EXPECT_EQ(ValueLine(std::string(20, 'L'), std::string(21, '1')),
-              std::string(20, 'L') + " " + std::string(21, '1'));
-    EXPECT_EQ(ValueLine("L", std::string(60, '1')), "L " + std::string(60, '1'));
-}
-
-TEST(ValueLineTest, EmptyValueKeepsTheColumn) {
-    EXPECT_EQ(ValueLine("Beta", ""), "Beta" + std::string(36, ' '));
+    const std::string label(20, 'L');
+    EXPECT_EQ(ValueLine(label, Ones(19)), label + " " + Ones(19)) << "just fills the columns";
+    EXPECT_EQ(ValueLine(label, Ones(20)), label + Ones(20)) << "just fills the columns";
+    EXPECT_EQ(ValueLine(label, Ones(21)), label + " " + Ones(21));
+    EXPECT_EQ(ValueLine("L", Ones(60)), "L " + Ones(60));
 }
 
 TEST(ValueLineTest, CountsCharactersNotBytes) {
@@ -67,8 +63,7 @@ TEST(PageWriterTest, GoesOnBelowAndBeside) {
     writer.PrintPiece("e");
 
     EXPECT_EQ(PrintedLines(writer.Page()), (std::vector<std::string>{"", "", "abc", "", "d", "e"}));
-    std::vector<ReportLine> lines = writer.Page().lines;
-    std::erase_if(lines, [](const ReportLine& line) { return line.text.empty(); });
+    const std::vector<ReportLine> lines = LinesFrom(writer.Page(), 0);
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(lines[0].text, "ab");
     EXPECT_EQ(lines[0].xTwips, 0);

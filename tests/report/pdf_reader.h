@@ -17,6 +17,8 @@ struct PdfWord {
     double top;
     double right;
     double bottom;
+
+    double Width() const { return right - left; }
 };
 
 struct PdfPage {

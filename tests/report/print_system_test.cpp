@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarvix {
+namespace tarvix::testing {
 namespace {
 
 const QString kWords = "Too many jobs";
@@ -52,4 +52,4 @@ TEST(PrintSystemTest, TheLastAnswerIsAskedFor) {
 }
 
 }  // namespace
-}  // namespace tarvix
+}  // namespace tarvix::testing

@@ -13,12 +13,29 @@ constexpr double kFooterTop = kNotesTop + 19 * kHeight10;
 using ReportNotesTest = ReportPageTest;
 using ReportFooterTest = ReportPageTest;
 
+struct Piece {
+    int row;  // below `top`, in lines of `height`
+    std::string text;
+    bool bold = false;
+    int column = 0;
+};
+
+void ExpectPieces(const std::vector<ReportLine>& lines, const std::vector<Piece>& expected,
+                  double top, double height, int sizePt, bool italic) {
+    ASSERT_GT(lines.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(lines[i].text, expected[i].text);
+        EXPECT_NEAR(lines[i].yTwips, top + expected[i].row * height, 0.01);
+        // 20 twips a point, 1229/2048 of that a character
+        EXPECT_DOUBLE_EQ(lines[i].xTwips, expected[i].column * sizePt * 20 * 0.60009765625);
+        EXPECT_EQ(lines[i].font.sizePt, sizePt);
+        EXPECT_EQ(lines[i].font.bold, expected[i].bold);
+        EXPECT_EQ(lines[i].font.italic, italic);
+    }
+}
+
 TEST_F(ReportNotesTest, TextsAndPlaces) {
-    struct Note {
-        int row;
-        std::string text;
-    };
-    const std::vector<Note> expected{
+    const std::vector<Piece> expected{
         {0, "Note: Values for the beta ratio are approximate, typically within"},
         {1, "            2% - 5% for gases and steam"},
         {2, "            1% for liquids"},
@@ -37,16 +54,8 @@ TEST_F(ReportNotesTest, TextsAndPlaces) {
         {17, "      assistance"},
     };
     const std::vector<ReportLine> lines = LinesFrom(Page(LiquidSheet()), kNotesTop);
-    ASSERT_GT(lines.size(), expected.size());
-    EXPECT_GE(lines[expected.size()].yTwips, kFooterTop) << "the lines between are empty";
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_EQ(lines[i].text, expected[i].text);
-        EXPECT_NEAR(lines[i].yTwips, kNotesTop + expected[i].row * kHeight10, 0.01);
-        EXPECT_EQ(lines[i].xTwips, 0);
-        EXPECT_EQ(lines[i].font.sizePt, 10);
-        EXPECT_FALSE(lines[i].font.bold);
-        EXPECT_TRUE(lines[i].font.italic);
-    }
+    ExpectPieces(lines, expected, kNotesTop, kHeight10, 10, true);
+    EXPECT_GE(lines.at(expected.size()).yTwips, kFooterTop) << "the lines between are empty";
 }
 
 TEST_F(ReportNotesTest, SameHeightWhateverStandsAbove) {
@@ -58,39 +67,23 @@ TEST_F(ReportNotesTest, SameHeightWhateverStandsAbove) {
     }
 }
 
-struct Piece {
-    double row;  // below the start of the footer, in lines of 8 points
-    std::string text;
-    bool bold;
-    int column;
-};
-
 TEST_F(ReportFooterTest, FourColumnsOnFourLines) {
-    const std::vector<Piece> expected{
-        {1,
-         "Brindle Headquarters        Port Alder, TX              Kestrel Bay, CA             "
-         "Fenwick Mills, NJ",
-         true, 0},
-        {2, "Marlow Falls, OH            ", true, 0},
-        {2, "Tel. (555) 555-0110         Tel. (555) 555-0120         Tel. (555) 555-0130", false,
-         28},
-        {3,
-         "Tel. (555) 555-0100         Fax  (555) 555-0111         Fax  (555) 555-0121         "
-         "Fax  (555) 555-0131",
-         false, 0},
-        {4, "Fax  (555) 555-0101", false, 0},
-    };
     const std::vector<ReportLine> lines = LinesFrom(Page(GasSheet()), kFooterTop);
-    ASSERT_EQ(lines.size(), expected.size() + 1);
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_EQ(lines[i].text, expected[i].text);
-        EXPECT_NEAR(lines[i].yTwips, kFooterTop + expected[i].row * kHeight8, 0.01);
-        // 8 points, 20 twips each, 1229/2048 of that a character
-        EXPECT_NEAR(lines[i].xTwips, expected[i].column * 96.015625, 0.01);
-        EXPECT_EQ(lines[i].font.sizePt, 8);
-        EXPECT_EQ(lines[i].font.bold, expected[i].bold);
-        EXPECT_FALSE(lines[i].font.italic);
-    }
+    ASSERT_EQ(lines.size(), 6U);
+    ExpectPieces(
+        lines,
+        {{1,
+          "Brindle Headquarters        Port Alder, TX              Kestrel Bay, CA             "
+          "Fenwick Mills, NJ",
+          true},
+         {2, "Marlow Falls, OH            ", true},
+         {2, "Tel. (555) 555-0110         Tel. (555) 555-0120         Tel. (555) 555-0130", false,
+          28},
+         {3,
+          "Tel. (555) 555-0100         Fax  (555) 555-0111         Fax  (555) 555-0121         "
+          "Fax  (555) 555-0131"},
+         {4, "Fax  (555) 555-0101"}},
+        kFooterTop, kHeight8, 8, false);
 }
 
 TEST_F(ReportFooterTest, DateAndWebSite) {

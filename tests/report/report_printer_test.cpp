@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace tarvix::testing {
@@ -25,26 +26,28 @@ namespace {
 
 class ReportPrinterTest : public ::testing::Test {
   protected:
-    void SetUp() override { ASSERT_TRUE(folder_.isValid()); }
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        printer_.setOutputFormat(QPrinter::PdfFormat);
+        printer_.setOutputFileName(File());
+        printer_.setPageSize(QPageSize(QPageSize::Letter));
+    }
 
     QString File() const { return folder_.filePath("page.pdf"); }
     ReportPage Page() { return ComposeReport(GasSheet(), module_); }
 
-    PrintOutcome PrintTo(const QString& file) {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(file);
-        printer.setPageSize(QPageSize(QPageSize::Letter));
-        return PrintReportOn(printer, Page(), QImage());
+    bool Print() {
+        return PrintReportOn(printer_, Page(), QImage()).status == PrintOutcome::Status::Printed;
     }
 
     QTemporaryDir folder_;
     RecordingPlatform platform_;
     Module1 module_{platform_, kUnitedStates};
+    QPrinter printer_{QPrinter::HighResolution};  // into File()
 };
 
 TEST_F(ReportPrinterTest, WritesAPdfFile) {
-    EXPECT_EQ(PrintTo(File()).status, PrintOutcome::Status::Printed);
+    EXPECT_TRUE(Print());
     if (!CanReadPdf()) {
         GTEST_SKIP() << "poppler-utils is not installed";
     }
@@ -57,13 +60,10 @@ TEST_F(ReportPrinterTest, WritesAPdfFile) {
 // From where the paper begins, not where the printer can print: some print engines count from the
 // margins that are set, even where the page is the whole paper.
 TEST_F(ReportPrinterTest, LeavesThePrinterNoMarginsOfItsOwn) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(File());
-    ASSERT_TRUE(printer.setPageMargins(QMarginsF(20, 20, 20, 20)));
-    EXPECT_EQ(PrintReportOn(printer, Page(), QImage()).status, PrintOutcome::Status::Printed);
-    EXPECT_EQ(printer.pageLayout().mode(), QPageLayout::FullPageMode);
-    EXPECT_EQ(printer.pageLayout().margins(), QMarginsF());
+    ASSERT_TRUE(printer_.setPageMargins(QMarginsF(20, 20, 20, 20)));
+    EXPECT_TRUE(Print());
+    EXPECT_EQ(printer_.pageLayout().mode(), QPageLayout::FullPageMode);
+    EXPECT_EQ(printer_.pageLayout().margins(), QMarginsF());
 }
 
 TEST_F(ReportPrinterTest, PdfSaysWhatItIs) {
@@ -71,7 +71,7 @@ TEST_F(ReportPrinterTest, PdfSaysWhatItIs) {
         GTEST_SKIP() << "poppler-utils is not installed";
     }
     module_.TagText = " FE-4102/B \xC3\x96st ";
-    ASSERT_EQ(PrintTo(File()).status, PrintOutcome::Status::Printed);
+    ASSERT_TRUE(Print());
     const QString about = AboutPdf(File());
     EXPECT_TRUE(
         about.contains(QString::fromUtf8("Title:           Orifice calculation FE-4102/B Öst\n")))
@@ -82,12 +82,9 @@ TEST_F(ReportPrinterTest, PdfSaysWhatItIs) {
 // Of a path only what follows the last slash arrives at a printer.
 TEST_F(ReportPrinterTest, TheJobIsNamedAfterTheReport) {
     module_.TagText = "FE-4102/B";
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(File());
-    EXPECT_EQ(PrintReportOn(printer, Page(), QImage()).status, PrintOutcome::Status::Printed);
-    EXPECT_EQ(printer.docName(), "Orifice calculation FE-4102-B");
-    EXPECT_EQ(printer.creator(), "Brindle Tarvix 3.0");
+    EXPECT_TRUE(Print());
+    EXPECT_EQ(printer_.docName(), "Orifice calculation FE-4102-B");
+    EXPECT_EQ(printer_.creator(), "Brindle Tarvix 3.0");
 }
 
 TEST_F(ReportPrinterTest, ProposesAFileThatIsNotThere) {
@@ -108,16 +105,14 @@ TEST_F(ReportPrinterTest, ReplacesAFileThatIsThere) {
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write(QByteArray(1000000, 'x'));
     old.close();
-    EXPECT_EQ(PrintTo(File()).status, PrintOutcome::Status::Printed);
+    EXPECT_TRUE(Print());
     EXPECT_LT(QFile(File()).size(), 500000);
 }
 
 TEST_F(ReportPrinterTest, FailureBoxOfAFileSpeaksOfAFile) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName("/reports/page.pdf");
+    printer_.setOutputFileName("/reports/page.pdf");
     const MessageBoxRequest box =
-        PrintOutcomeBox(printer, {PrintOutcome::Status::Failed, "Permission denied"});
+        PrintOutcomeBox(printer_, {PrintOutcome::Status::Failed, "Permission denied"});
     EXPECT_EQ(box.title, "Brindle Tarvix");
     EXPECT_EQ(box.style, BoxStyle::Exclamation);
     EXPECT_EQ(box.buttons, BoxButtons::Ok);
@@ -126,7 +121,7 @@ TEST_F(ReportPrinterTest, FailureBoxOfAFileSpeaksOfAFile) {
               "The report could not be written.\n\nFile: " + name +
                   "\nReason: Permission denied\n\nThe calculation and the customer lines are kept. "
                   "Choose another file, then print again.");
-    const MessageBoxRequest unknown = PrintOutcomeBox(printer, {PrintOutcome::Status::Failed, {}});
+    const MessageBoxRequest unknown = PrintOutcomeBox(printer_, {PrintOutcome::Status::Failed, {}});
     EXPECT_EQ(unknown.text.find("Reason"), std::string::npos) << unknown.text;
 }
 
@@ -139,6 +134,16 @@ class NoPrinterTest : public ReportPrinterTest {
             << "a printer is there: " << QPrinterInfo::defaultPrinterName().toStdString();
     }
 
+    // Prints; `use` is what the user does in the dialog and in its field for the file.
+    void PrintWith(const std::function<void(QPrintDialog&, QLineEdit&)>& use) {
+        const ModalDriver<QPrintDialog> user(
+            [&](QPrintDialog& dialog) { use(dialog, *dialog.findChild<QLineEdit*>("filename")); });
+        QWidget owner;
+        PrintReport(owner, platform_, Page(), QImage());
+        EXPECT_TRUE(user.done());
+        EXPECT_TRUE(platform_.boxes.empty());
+    }
+
     static void PressDefaultButton(const QPrintDialog& dialog) {
         for (auto* button : dialog.findChildren<QPushButton*>()) {
             if (button->isDefault()) {
@@ -146,18 +151,13 @@ class NoPrinterTest : public ReportPrinterTest {
             }
         }
     }
-
-    QWidget owner_;
 };
 
 TEST_F(NoPrinterTest, CancelledDialogPrintsNothing) {
-    const ModalDriver<QPrintDialog> user([this](QPrintDialog& dialog) {
-        dialog.findChild<QLineEdit*>("filename")->setText(File());
+    PrintWith([this](QPrintDialog& dialog, QLineEdit& file) {
+        file.setText(File());
         dialog.reject();
     });
-    PrintReport(owner_, platform_, Page(), QImage());
-    EXPECT_TRUE(user.done());
-    EXPECT_TRUE(platform_.boxes.empty());
     EXPECT_FALSE(QFile::exists(File()));
 }
 
@@ -169,15 +169,12 @@ TEST_F(NoPrinterTest, DialogProposesAFileOfItsOwnForEachReport) {
     module_.TagText = "FE-4102";
     QStringList proposed;
     for (int report = 0; report < 3; ++report) {
-        const ModalDriver<QPrintDialog> user([&proposed](QPrintDialog& dialog) {
-            proposed << dialog.findChild<QLineEdit*>("filename")->text();
+        PrintWith([&](const QPrintDialog& dialog, const QLineEdit& file) {
+            proposed << file.text();
             PressDefaultButton(dialog);
         });
-        PrintReport(owner_, platform_, Page(), QImage());
-        EXPECT_TRUE(user.done());
     }
     qputenv("HOME", home);
-    EXPECT_TRUE(platform_.boxes.empty());
     const QStringList names{"Orifice calculation FE-4102.pdf",
                             "Orifice calculation FE-4102 (2).pdf",
                             "Orifice calculation FE-4102 (3).pdf"};
@@ -189,13 +186,10 @@ TEST_F(NoPrinterTest, DialogProposesAFileOfItsOwnForEachReport) {
 }
 
 TEST_F(NoPrinterTest, DialogPrintsIntoAPdfFile) {
-    const ModalDriver<QPrintDialog> user([this](QPrintDialog& dialog) {
-        dialog.findChild<QLineEdit*>("filename")->setText(File());
+    PrintWith([this](const QPrintDialog& dialog, QLineEdit& file) {
+        file.setText(File());
         PressDefaultButton(dialog);
     });
-    PrintReport(owner_, platform_, Page(), QImage());
-    EXPECT_TRUE(user.done());
-    EXPECT_TRUE(platform_.boxes.empty());
     ASSERT_TRUE(QFile::exists(File()));
     if (CanReadPdf()) {
         const std::vector<PdfPage> pages = ReadPdf(File());

@@ -4,18 +4,25 @@ namespace tarvix::testing {
 
 namespace {
 
-ReportSheet TwoInchPipe() {
+// Solved for the bore of a plate in a 2 inch pipe, all units but those of the flow American.
+ReportSheet TwoInchPipe(Fluid fluid, const char* flow, const SelectedUnit& flowUnit,
+                        const SelectedUnit& timeUnit, const char* deltaP, const char* beta,
+                        const char* bore) {
     ReportSheet sheet;
+    sheet.inputs.fluid = fluid;
     sheet.inputs.mode = SolveFor::Beta;
-    sheet.inputs.pipeDiameter = "2.067";
-    sheet.pipeIdText = "2.067\"  Sch 40, STD, Sch 40S";
-    sheet.pipeIdUnit = "Inches";
-    sheet.oriBoreUnit = "Inches";
+    sheet.inputs.flow = flow;
+    sheet.inputs.flowUnit = flowUnit;
+    sheet.inputs.timeUnit = timeUnit;
+    sheet.inputs.deltaP = deltaP;
     sheet.inputs.deltaPUnit = {"Inches Water", 1};
+    sheet.inputs.beta = beta;
+    sheet.inputs.pipeDiameter = "2.067";
     sheet.inputs.pressUnit = {"PSI", 1};
-    sheet.inputs.densityUnit = {"lb/cubic foot", 1};
-    sheet.inputs.zfDensityUnit = {"lb/cubic foot", 1};
-    sheet.inputs.timeUnit = {"Minute", 1};
+    sheet.inputs.densityUnit = sheet.inputs.zfDensityUnit = {"lb/cubic foot", 1};
+    sheet.pipeIdText = "2.067\"  Sch 40, STD, Sch 40S";
+    sheet.pipeIdUnit = sheet.oriBoreUnit = "Inches";
+    sheet.oriBoreDia = bore;
     sheet.date = "05 Mar 2024";
     return sheet;
 }
@@ -23,46 +30,29 @@ ReportSheet TwoInchPipe() {
 }  // namespace
 
 ReportSheet LiquidSheet() {
-    ReportSheet sheet = TwoInchPipe();
-    sheet.inputs.fluid = Fluid::Liquid;
-    sheet.inputs.flow = "1234.5";
-    sheet.inputs.flowUnit = {"Gallons", 1};
-    sheet.inputs.deltaP = "100";
-    sheet.inputs.beta = "0.53123";
+    ReportSheet sheet = TwoInchPipe(Fluid::Liquid, "1234.5", {"Gallons", 1}, {"Minute", 1}, "100",
+                                    "0.53123", "1.098");
     sheet.inputs.sgb = "1";
     sheet.inputs.sgf = "0.985";
-    sheet.oriBoreDia = "1.098";
     return sheet;
 }
 
 ReportSheet GasSheet() {
-    ReportSheet sheet = TwoInchPipe();
-    sheet.inputs.fluid = Fluid::Gas;
-    sheet.inputs.flow = "25000";
-    sheet.inputs.flowUnit = {"Standard Cubic Feet", 1};
-    sheet.inputs.timeUnit = {"Day", 1440};
-    sheet.inputs.deltaP = "50.25";
-    sheet.inputs.beta = "0.25";
+    ReportSheet sheet = TwoInchPipe(Fluid::Gas, "25000", {"Standard Cubic Feet", 1}, {"Day", 1440},
+                                    "50.25", "0.25", "0.517");
     sheet.inputs.tf = "-20";
     sheet.inputs.pf = "150";
     sheet.inputs.gasSGb = "0.6";
     sheet.inputs.gasSGbVisible = true;
-    sheet.oriBoreDia = "0.517";
     return sheet;
 }
 
 ReportSheet SteamSheet() {
-    ReportSheet sheet = TwoInchPipe();
-    sheet.inputs.fluid = Fluid::Steam;
-    sheet.inputs.flow = "5000";
-    sheet.inputs.flowUnit = {"Pounds", 1};
-    sheet.inputs.timeUnit = {"Hour", 60};
-    sheet.inputs.deltaP = "100";
-    sheet.inputs.beta = "0.6";
+    ReportSheet sheet =
+        TwoInchPipe(Fluid::Steam, "5000", {"Pounds", 1}, {"Hour", 60}, "100", "0.6", "1.24");
     sheet.inputs.density = "0.25683";
     sheet.inputs.pf = "100";
     sheet.saturated = true;
-    sheet.oriBoreDia = "1.24";
     return sheet;
 }
 

@@ -8,11 +8,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 class DensitiesTest : public SheetTest {
   protected:
@@ -226,5 +223,4 @@ TEST(PlateThicknessTest, WithoutANumberThereIsNoWarning) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

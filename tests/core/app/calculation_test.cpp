@@ -7,11 +7,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 class CalculationTest : public SheetTest {
   protected:
@@ -252,5 +249,4 @@ TEST_F(CalculationTest, AGasFlowOfUnknownKindEndsTheProgram) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

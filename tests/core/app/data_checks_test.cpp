@@ -10,11 +10,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 using Check =
     std::function<CheckResult(const InputSheet&, const WorkingValues& before, Module1& module)>;
@@ -275,10 +272,10 @@ class DataChecksTest : public SheetTest {};
 
 TEST_F(DataChecksTest, AnAbsolutePressureIsAboveZero) {
     for (InputSheet sheet : {SteamSheet(), GasSheet()}) {
-        const Check check = sheet.fluid == Fluid::Steam ? DataChkSteam : DataChkGas;
+        const bool steam = sheet.fluid == Fluid::Steam;
+        const Check check = steam ? Check(DataChkSteam) : Check(DataChkGas);
         const std::string tooSmall =
-            std::string(sheet.fluid == Fluid::Steam ? "Operating" : "Op.") +
-            " Pressure must be greater than 0";
+            std::string(steam ? "Operating" : "Op.") + " Pressure must be greater than 0";
         sheet.absolutePressure = true;
         for (const char* pressure : {"0", "-5", "-14"}) {
             sheet.pf = pressure;
@@ -359,5 +356,4 @@ TEST_F(DataChecksTest, BetaAndTemperatureHaveNoOtherBounds) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

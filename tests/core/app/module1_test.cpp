@@ -11,11 +11,8 @@
 #include <limits>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 class Module1Test : public ::testing::Test {
   protected:
@@ -293,5 +290,4 @@ TEST_F(Module1Test, CancelInTheExitConfirmationLeavesTheProgramRunning) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

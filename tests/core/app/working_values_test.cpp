@@ -6,11 +6,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 constexpr WorkingValues kBefore{1, 2, 3, 4, 5, 6, 7, 8};
 
@@ -173,5 +170,4 @@ TEST(BetaRangeTest, WhatIsNoNumberIsNotOutside) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

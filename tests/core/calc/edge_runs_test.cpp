@@ -7,11 +7,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 constexpr float kMax = std::numeric_limits<float>::max();
 
@@ -263,5 +260,4 @@ TEST(EdgeRunOfSteam, ABetaOfExactlyOneOnTheWayIsUnresolved) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

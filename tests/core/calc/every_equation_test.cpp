@@ -7,11 +7,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 struct RunRow : NamedRow {
     Equation solve;
@@ -164,5 +161,4 @@ const RunRow kRuns[] = {
 INSTANTIATE_TEST_SUITE_P(Equations, EveryEquation, ::testing::ValuesIn(kRuns), kRowName);
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

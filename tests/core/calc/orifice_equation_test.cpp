@@ -6,11 +6,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
@@ -141,5 +138,4 @@ TEST(OrificeEquationTest, AnOutcomeHasAValueOrAMessageOrNeither) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

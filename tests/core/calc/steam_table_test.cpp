@@ -10,11 +10,8 @@
 #include <limits>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 float DensityAt(float pressurePsig) {
     const SteamDensity steam = SaturatedSteamDensity(pressurePsig);
@@ -111,5 +108,4 @@ TEST(SteamTableTest, OneSingleOutsideIsOutside) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

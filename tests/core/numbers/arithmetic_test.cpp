@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
 
 // (1 + 2^-12)^2 is 1 + 2^-11 + 2^-24, halfway between two singles, and rounds to the even one,
@@ -26,5 +25,4 @@ TEST(ArithmeticTest, DoubleProductIsRoundedBeforeItIsAddedTo) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

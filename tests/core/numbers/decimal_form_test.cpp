@@ -13,11 +13,8 @@
 #include <limits>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 // The digits ------------------------------------------------------------------------------------
 
@@ -157,5 +154,4 @@ TEST(DecimalFormRound, InfinitiesAndNaNComeBack) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

@@ -10,11 +10,8 @@
 #include <string>
 #include <variant>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 // Values ------------------------------------------------------------------------------------------
 
@@ -202,5 +199,4 @@ TEST(NumberTextFormat, EveryLocaleReadsWhatItWrites) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

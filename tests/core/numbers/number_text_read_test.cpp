@@ -7,11 +7,8 @@
 #include <optional>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 const std::string kFourHundredDigits(400, '7');
 
@@ -173,5 +170,4 @@ TEST(NumberTextRead, ATextWithoutGroupsIsReadInEveryLocale) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

@@ -8,11 +8,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 constexpr float kMax = std::numeric_limits<float>::max();
 
@@ -80,5 +77,4 @@ TEST(BoreAndBetaTest, OverflowGivesNothing) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

@@ -7,11 +7,8 @@
 #include <set>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 TEST(NominalSizesTest, AreTheListedOnesEntryByEntry) {
     const auto rows = ReadDataFile("nominal_sizes.tsv");
@@ -61,5 +58,4 @@ TEST(PipeSchedulesTest, NoSizeIsFoundByAnythingButItsValueText) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

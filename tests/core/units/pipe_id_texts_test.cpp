@@ -6,11 +6,8 @@
 
 #include <gtest/gtest.h>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 const Unit& kInch = kLengthUnits[0];
 const Unit& kMillimeter = kLengthUnits[1];
@@ -171,5 +168,4 @@ TEST(PipeIdTextsTest, ThePipeDiameterInAnyOtherUnitIsNotKnown) {
 }
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing

@@ -11,11 +11,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-namespace tarvix {
-
+namespace tarvix::testing {
 namespace {
-
-using namespace testing;
 
 std::string KindOf(const Unit& /*unit*/) {
     return "";
@@ -118,5 +115,4 @@ const QuotientRow kQuotientRows[] = {
 INSTANTIATE_TEST_SUITE_P(UnitTables, ComputedFactor, ::testing::ValuesIn(kQuotientRows), kRowName);
 
 }  // namespace
-
-}  // namespace tarvix
+}  // namespace tarvix::testing
