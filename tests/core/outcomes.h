@@ -4,7 +4,7 @@
 #include "calc/equation_terms.h"
 
 #include <gtest/gtest.h>
-#include <string>
+#include <string_view>
 
 namespace tarvix::testing {
 
@@ -14,7 +14,7 @@ inline void ExpectValue(const Outcome& outcome, float value) {
     EXPECT_EQ(outcome.message, "");
 }
 
-inline void ExpectMessage(const Outcome& outcome, const std::string& message) {
+inline void ExpectMessage(const Outcome& outcome, std::string_view message) {
     EXPECT_EQ(outcome.value, std::nullopt);
     EXPECT_EQ(outcome.message, message);
 }

@@ -14,6 +14,7 @@ std::string Ones(std::size_t count) {
 
 TEST(ValueLineTest, ValueEndsInColumn40) {
     EXPECT_EQ(ValueLine("Flow Rate", "1,234.50"), "Flow Rate" + std::string(23, ' ') + "1,234.50");
+    EXPECT_EQ(ValueLine("Flow Rate", "1,234.50").size(), 40U);
     EXPECT_EQ(ValueLine("Beta", ""), "Beta" + std::string(36, ' '));
 }
 

@@ -26,8 +26,8 @@ void ExpectPieces(const std::vector<ReportLine>& lines, const std::vector<Piece>
     for (std::size_t i = 0; i < expected.size(); ++i) {
         EXPECT_EQ(lines[i].text, expected[i].text);
         EXPECT_NEAR(lines[i].yTwips, top + expected[i].row * height, 0.01);
-        // 20 twips a point, 1229/2048 of that a character
-        EXPECT_DOUBLE_EQ(lines[i].xTwips, expected[i].column * sizePt * 20 * 0.60009765625);
+        // 8 points, 20 twips each, 1229/2048 of that a character
+        EXPECT_DOUBLE_EQ(lines[i].xTwips, expected[i].column * 96.015625 * sizePt / 8);
         EXPECT_EQ(lines[i].font.sizePt, sizePt);
         EXPECT_EQ(lines[i].font.bold, expected[i].bold);
         EXPECT_EQ(lines[i].font.italic, italic);

@@ -30,12 +30,11 @@ TEST_F(DensitiesTest, TheGravityOfADensity) {
     EXPECT_EQ(FlowingGravityText("62.366", kPound, kUnitedStates), "1.0000");
     EXPECT_EQ(FlowingGravityText("50", kPound, kUnitedStates), "0.8017");
     EXPECT_EQ(FlowingGravityText("124.732", kPound, kUnitedStates), "2.0000");
-    EXPECT_EQ(FlowingGravityText("1000", kKilogram, kUnitedStates),
-              "1.0010");  // 62.42798 / 62.366 = 1.00099
-    EXPECT_EQ(FlowingGravityText("850", kKilogram, kUnitedStates),
-              "0.8508");  // 53.06378 / 62.366 = 0.850845
     EXPECT_EQ(FlowingGravityText("100000", kPound, kUnitedStates), "1,603.4380");
     EXPECT_EQ(FlowingGravityText("0.000001", kPound, kUnitedStates), "0.0000");
+    // 62.42798 / 62.366 = 1.00099, 53.06378 / 62.366 = 0.850845
+    EXPECT_EQ(FlowingGravityText("1000", kKilogram, kUnitedStates), "1.0010");
+    EXPECT_EQ(FlowingGravityText("850", kKilogram, kUnitedStates), "0.8508");
 }
 
 TEST_F(DensitiesTest, WithoutAPositiveDensityThereIsNoGravity) {
@@ -46,8 +45,8 @@ TEST_F(DensitiesTest, WithoutAPositiveDensityThereIsNoGravity) {
 
 TEST_F(DensitiesTest, TheGravityIsWrittenInTheLocale) {
     EXPECT_EQ(FlowingGravityText({"62,366", kGermany}, kPound, kGermany), "1,0000");
-    EXPECT_EQ(FlowingGravityText({"62.366", kGermany}, kPound, kGermany),
-              "1.000,0000");  // sixty-two thousand
+    // Sixty-two thousand.
+    EXPECT_EQ(FlowingGravityText({"62.366", kGermany}, kPound, kGermany), "1.000,0000");
 }
 
 // The factor is the double of its text, not the single: 0.06242798 x 8.4e10 / 62.366.
@@ -91,14 +90,12 @@ TEST_P(SteamDensityOf, IsWrittenOrRefused) {
 
 constexpr const char* kLb = "lb/cubic foot";
 constexpr const char* kKg = "kg/cubic meter";
-constexpr const char* kBelow = "The Op. Pressure is below the steam table mimimum: ";
-constexpr const char* kAbove = "The Op. Pressure exceeds the steam table maximum: ";
 
-std::string Below(const char* limit) {
-    return std::string(kBelow) + limit;
+std::string Below(const std::string& limit) {
+    return "The Op. Pressure is below the steam table mimimum: " + limit;
 }
-std::string Above(const char* limit) {
-    return std::string(kAbove) + limit;
+std::string Above(const std::string& limit) {
+    return "The Op. Pressure exceeds the steam table maximum: " + limit;
 }
 
 // clang-format off
@@ -199,13 +196,14 @@ INSTANTIATE_TEST_SUITE_P(Warnings, ZfCompWarning, ::testing::ValuesIn(kWarningRo
 
 // CheckPlateThickness -----------------------------------------------------------------------------
 
+const SelectedUnit kInchesOfWater = kDeltaPUnits[0];
+
 TEST(PlateThicknessTest, FromEightInchesAnd150InchesOfWaterOn) {
-    const SelectedUnit& inches = kDeltaPUnits[0];
-    EXPECT_TRUE(CheckPlateThickness("8", "150", inches));
-    EXPECT_TRUE(CheckPlateThickness("42", "1000", inches));
-    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", inches));
-    EXPECT_FALSE(CheckPlateThickness("7.9999995", "150", inches));
-    EXPECT_FALSE(CheckPlateThickness("6", "1000000", inches));
+    EXPECT_TRUE(CheckPlateThickness("8", "150", kInchesOfWater));
+    EXPECT_TRUE(CheckPlateThickness("42", "1000", kInchesOfWater));
+    EXPECT_FALSE(CheckPlateThickness("8", "149.99998", kInchesOfWater));
+    EXPECT_FALSE(CheckPlateThickness("7.9999995", "150", kInchesOfWater));
+    EXPECT_FALSE(CheckPlateThickness("6", "1000000", kInchesOfWater));
     // Other units are converted first.
     const SelectedUnit psi = UnitNamed(kDeltaPUnits, "PSI");
     EXPECT_FALSE(CheckPlateThickness("8", "5.41", psi));  // 149.86
@@ -213,13 +211,12 @@ TEST(PlateThicknessTest, FromEightInchesAnd150InchesOfWaterOn) {
 }
 
 TEST(PlateThicknessTest, WithoutANumberThereIsNoWarning) {
-    const SelectedUnit& inches = kDeltaPUnits[0];
     for (const char* deltaP : {"", "abc", "150,0", "-200", "1e39"}) {
-        EXPECT_FALSE(CheckPlateThickness("8", deltaP, inches)) << deltaP;
+        EXPECT_FALSE(CheckPlateThickness("8", deltaP, kInchesOfWater)) << deltaP;
     }
-    EXPECT_FALSE(CheckPlateThickness("", "200", inches));
-    EXPECT_TRUE(CheckPlateThickness("8", {"150,5", kGermany}, inches));
-    EXPECT_TRUE(CheckPlateThickness({"8,0", kGermany}, "150", inches));
+    EXPECT_FALSE(CheckPlateThickness("", "200", kInchesOfWater));
+    EXPECT_TRUE(CheckPlateThickness("8", {"150,5", kGermany}, kInchesOfWater));
+    EXPECT_TRUE(CheckPlateThickness({"8,0", kGermany}, "150", kInchesOfWater));
 }
 
 }  // namespace

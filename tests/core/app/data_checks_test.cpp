@@ -274,8 +274,8 @@ TEST_F(DataChecksTest, AnAbsolutePressureIsAboveZero) {
     for (InputSheet sheet : {SteamSheet(), GasSheet()}) {
         const bool steam = sheet.fluid == Fluid::Steam;
         const Check check = steam ? Check(DataChkSteam) : Check(DataChkGas);
-        const std::string tooSmall =
-            std::string(steam ? "Operating" : "Op.") + " Pressure must be greater than 0";
+        const std::string tooSmall = steam ? "Operating Pressure must be greater than 0"
+                                           : "Op. Pressure must be greater than 0";
         sheet.absolutePressure = true;
         for (const char* pressure : {"0", "-5", "-14"}) {
             sheet.pf = pressure;

@@ -31,15 +31,9 @@ class EveryEquation : public ::testing::TestWithParam<RunRow> {
     }
 
     static float MeteringRun::*Unknown(SolveFor solveFor) {
-        switch (solveFor) {
-            case SolveFor::FlowRate:
-                return &MeteringRun::flow;
-            case SolveFor::DiffPressure:
-                return &MeteringRun::diffPressInH2O;
-            case SolveFor::Beta:
-                break;
-        }
-        return &MeteringRun::beta;
+        return solveFor == SolveFor::FlowRate       ? &MeteringRun::flow
+               : solveFor == SolveFor::DiffPressure ? &MeteringRun::diffPressInH2O
+                                                    : &MeteringRun::beta;
     }
 
     // The value is the expected one to the last bit, and that is near the exact one.

@@ -97,14 +97,13 @@ TEST(SteamTableTest, BothEndsAreInTheTable) {
 }
 
 TEST(SteamTableTest, OneSingleOutsideIsOutside) {
-    EXPECT_EQ(SaturatedSteamDensity(std::nextafter(0.0F, -1.0F)).range, SteamRange::BelowTable);
-    EXPECT_EQ(SaturatedSteamDensity(std::nextafter(3000.0F, 4000.0F)).range,
-              SteamRange::AboveTable);
-    EXPECT_EQ(SaturatedSteamDensity(-14.7F).range, SteamRange::BelowTable);
-    EXPECT_EQ(SaturatedSteamDensity(3001.0F).range, SteamRange::AboveTable);
     constexpr float kInfinity = std::numeric_limits<float>::infinity();
-    EXPECT_EQ(SaturatedSteamDensity(kInfinity).range, SteamRange::AboveTable);
-    EXPECT_EQ(SaturatedSteamDensity(-kInfinity).range, SteamRange::BelowTable);
+    for (const float below : {std::nextafter(0.0F, -1.0F), -14.7F, -kInfinity}) {
+        EXPECT_EQ(SaturatedSteamDensity(below).range, SteamRange::BelowTable) << below;
+    }
+    for (const float above : {std::nextafter(3000.0F, 4000.0F), 3001.0F, kInfinity}) {
+        EXPECT_EQ(SaturatedSteamDensity(above).range, SteamRange::AboveTable) << above;
+    }
 }
 
 }  // namespace
