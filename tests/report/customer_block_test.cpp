@@ -19,12 +19,13 @@ class CustomerBlockTest : public PagePainterTest {
 constexpr double kLeft = 595 * 0.06;  // of A4, in points
 constexpr double kFirstColumn = kLeft + 10 * kCharacter12;
 
+// `count` letters.
 std::string Letters(char letter, std::size_t count) {
     return std::string(count, letter);
 }
 
 double WidthOfCharacter(const PdfWord& word) {
-    return word.Width() / static_cast<double>(word.text.size());
+    return (word.right - word.left) / static_cast<double>(word.text.size());
 }
 
 TEST_F(CustomerBlockTest, SixtyTwoCharactersStandAtFullWidth) {
