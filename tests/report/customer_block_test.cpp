@@ -58,6 +58,15 @@ TEST_F(CustomerBlockTest, OneLongLineNarrowsAllThreeAlike) {
     }
 }
 
+TEST_F(CustomerBlockTest, EachOfTheThreeLinesCountsForTheWidth) {
+    const std::string longest = Letters('M', 80);
+    for (int line = 0; line < 3; ++line) {
+        const PdfPage page = PageFor(line == 0 ? longest : "Refinery", line == 1 ? longest : "Unit",
+                                     line == 2 ? longest : "FE-4102");
+        EXPECT_NEAR(WidthOfCharacter(page.Word(longest.c_str())), kCharacter12 * 62 / 80, 0.02);
+    }
+}
+
 // 0.6 of the width is the narrowest: 103 characters. What is longer is cut there.
 TEST_F(CustomerBlockTest, LongestLineIsCutAtTheNarrowestWidth) {
     const PdfPage page = PageFor(Letters('F', 104), Letters('S', 103), "FE-4102");
@@ -94,6 +103,13 @@ TEST_F(CustomerBlockTest, FitSaysWhatThePageWillDo) {
     const CustomerFit cut = FitCustomerLines({Letters('F', 104), "S", Letters('T', 5000)});
     EXPECT_EQ(cut.narrowed, 0.6);
     EXPECT_EQ(cut.cut, (std::array<bool, 3>{true, false, true}));
+    EXPECT_NEAR(FitCustomerLines({Letters('F', 63), "", ""}).narrowed, 62.0 / 63, 1e-3);
+    // The last code that there is is in no font.
+    for (std::size_t line = 0; line < 3; ++line) {
+        CustomerLines lines{"x", "y", "z"};
+        lines[line] = "\xF4\x8F\xBF\xBD";
+        EXPECT_TRUE(FitCustomerLines(lines).missingCharacters) << line;
+    }
     // Blanks at the end are not printed.
     EXPECT_EQ(FitCustomerLines({"x" + Letters(' ', 500), "", ""}).narrowed, 1);
 }

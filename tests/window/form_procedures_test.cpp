@@ -1,16 +1,23 @@
 // The form's procedures called directly: those that nothing in the program calls yet, and states
 // that no user can bring about.
+#include "app/dispatch/do_orifice_calculations.h"
 #include "app/window/frm_tarvix.h"
 #include "tests/window_script/script_desk.h"
+#include "ui/handlers/flow_unit_boxes.h"
 #include "ui/handlers/fluid_options.h"
 #include "ui/handlers/numeric_fields.h"
+#include "ui/handlers/pipe_boxes.h"
+#include "ui/handlers/unit_boxes.h"
 #include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace tarvix {
 namespace {
@@ -85,6 +92,56 @@ TEST_F(FormProceduresTest, PressureOfAnUnknownFluidEndsTheProgram) {
         boxes[0].text,
         "Fatal Error Encountered: \n\r\n\rOrifice type not specified\n\r\n\rThis Program will "
         "now terminate.");
+}
+
+// What is solved is emptied; while no mode is chosen, whatever could be.
+TEST_F(FormProceduresTest, AResultIsCleared) {
+    state_.SuspendCalc = true;
+    const std::pair<OptionButton*, std::vector<NumericField*>> modes[] = {
+        {nullptr, {form_.txtFlow, form_.txtDeltaP, form_.txtBeta}},
+        {form_.optCalcFR, {form_.txtFlow}},
+        {form_.optCalcDP, {form_.txtDeltaP}},
+        {form_.optCalcBeta, {form_.txtBeta}}};
+    for (const auto& [mode, cleared] : modes) {
+        if (mode != nullptr) {
+            mode->setChecked(true);
+        }
+        for (NumericField* field : {form_.txtFlow, form_.txtDeltaP, form_.txtBeta}) {
+            field->setText("0.5");
+        }
+        ClearResult(context_);
+        for (NumericField* field : {form_.txtFlow, form_.txtDeltaP, form_.txtBeta}) {
+            EXPECT_EQ(field->text().isEmpty(), std::ranges::count(cleared, field) > 0)
+                << field->objectName().toStdString();
+        }
+    }
+}
+
+// The message of a calculation is kept beside the line that shows it.
+TEST_F(FormProceduresTest, AMessageIsKept) {
+    const auto messageAfter = [this](const char* flow) {
+        form_.txtFlow->setText(flow);
+        module_.MsgText = "an older one";
+        DoOrificeCalculations(context_);
+        EXPECT_EQ(module_.MsgText, form_.lblMsg->text().toStdString());
+        return module_.MsgText;
+    };
+    module_.FluidType = "L";
+    form_.optCalcBeta->setChecked(true);
+    state_.SuspendCalc = true;
+    LoadcboPipeIDUnit(context_);
+    LoadcboNomSize(context_);
+    LoadcboPipeID(context_);
+    LoadcboDeltaPUnit(context_);
+    LoadcboFlowUnit(context_);
+    LoadcboTimeUnit(context_);
+    for (NumericField* field : {form_.txtSGf, form_.txtSGb, form_.txtDeltaP}) {
+        field->setText("1");
+    }
+    EXPECT_EQ(messageAfter("0"), "Fluid data (Flow Rate) must be greater than 0.");
+    EXPECT_NE(messageAfter("99999999"), "");
+    EXPECT_EQ(form_.lblMsg->palette().color(QPalette::Window), QColor(Qt::red));
+    EXPECT_EQ(messageAfter("2"), "");
 }
 
 // Looks at the main window's mouse pointer while its other windows are open.

@@ -3,8 +3,11 @@
 
 #include "tests/core/recording_platform.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 #include <ostream>
+#include <vector>
 
 namespace tarvix::testing {
 namespace {
@@ -49,6 +52,27 @@ TEST_P(LogoPictureTest, IsAsSharpAsTheScreen) {
     }
     EXPECT_GT(between, 0);
     EXPECT_LT(between, 36);
+}
+
+// Whatever is darker than the white of the picture is drawing, in the outermost rows and columns,
+// too.
+TEST(LogoDrawingTest, IsCutOutToTheDot) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("logo.png");
+    const auto sizeWith = [&](const std::vector<QPoint>& ink, int grey) {
+        QImage picture(40, 20, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        for (const QPoint& dot : ink) {
+            picture.setPixelColor(dot, QColor(grey, grey, grey));
+        }
+        EXPECT_TRUE(picture.save(file));
+        RecordingPlatform platform;
+        return Logo(file.toStdString(), platform).Pixmap(picture.size(), 1).size();
+    };
+    EXPECT_EQ(sizeWith({{0, 0}, {39, 19}}, 0), QSize(40, 20));
+    EXPECT_EQ(sizeWith({{0, 5}, {7, 0}}, 239), QSize(8, 6));
+    EXPECT_EQ(sizeWith({{39, 19}}, 239), QSize(1, 1));
+    EXPECT_EQ(sizeWith({{3, 4}, {0, 0}}, 240), QSize(40, 20)) << "all white, and shown as it is";
 }
 
 }  // namespace

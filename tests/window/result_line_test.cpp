@@ -119,6 +119,19 @@ TEST_F(ResultLineTest, LeavesTheUserWhereHeScrolled) {
     EXPECT_FALSE(View().Shows(*Player().form().optCalcFR));
 }
 
+// However long the line and the message are, the window may be as small as it may.
+TEST_F(ResultLineTest, AskForNoWidth) {
+    SolveAt(QSize(800, 600), kFlowOfWater);
+    ScrollTo(0);
+    ASSERT_TRUE(Line().isVisible());
+    const int before = View().footer().minimumSizeHint().width();
+    Line().setText(QString(300, 'm'));
+    Player().form().lblMsg->setText(QString(300, 'm'));
+    Settle();
+    EXPECT_EQ(View().footer().minimumSizeHint().width(), before);
+    EXPECT_LT(before, 100);
+}
+
 TEST_F(ResultLineTest, IsNoControlOfTheForm) {
     EXPECT_EQ(Player().form().Find("resultLine"), nullptr);
     const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&Line());

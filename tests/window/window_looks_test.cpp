@@ -95,6 +95,23 @@ TEST_F(WindowLooksTest, AMessageOnALargerFont) {
     Expect(Player().window(), "message_large");
 }
 
+// As the Tab key brings it; a click shows no ring.
+TEST_F(WindowLooksTest, OptionsThatHaveTheFocus) {
+    Play({"", kGas});
+    Player().form().optCalcFR->setFocus();
+    const auto press = [this](int tabs) {
+        for (int i = 0; i < tabs; ++i) {
+            QTest::keyClick(Player().window().focusWidget(), Qt::Key_Tab);
+        }
+    };
+    press(1);
+    EXPECT_TRUE(Player().form().optGas->hasFocus());
+    Expect(Player().window(), "focus_on_bar");
+    press(2);
+    EXPECT_TRUE(Player().form().optDegF->hasFocus());
+    Expect(Player().window(), "focus_on_option");
+}
+
 TEST_F(WindowLooksTest, AFontInPixelsAndALongResult) {
     QFont font("DejaVu Sans");
     font.setPixelSize(13);
