@@ -333,8 +333,11 @@ TEST_F(FieldMouseTest, AHandThatTremblesKeepsTheSelection) {
     QTest::mousePress(&field, Qt::LeftButton, {}, at);
     QTest::mouseMove(&field, at + QPoint(1, 1));
     QTest::mouseMove(&field, at + QPoint(-1, 0));
-    QTest::mouseRelease(&field, Qt::LeftButton, {}, at + QPoint(-1, 0));
+    QTest::mouseMove(&field, at + QPoint(1 - QApplication::startDragDistance(), 0));
     EXPECT_EQ(field.selectedText(), "12345");
+    QTest::mouseMove(&field, at + QPoint(-QApplication::startDragDistance(), 0));
+    EXPECT_NE(field.selectedText(), "12345") << "that far is a drag";
+    QTest::mouseRelease(&field, Qt::LeftButton, {}, at);
 }
 
 TEST_F(FieldMouseTest, ADragOfTheFirstClickSelectsWhatItPasses) {
@@ -345,6 +348,19 @@ TEST_F(FieldMouseTest, ADragOfTheFirstClickSelectsWhatItPasses) {
     Drag(field, end);
     QTest::mouseRelease(&field, Qt::LeftButton, {}, end);
     EXPECT_EQ(field.selectedText(), "123");
+}
+
+TEST_F(FieldMouseTest, ADragOfTheSecondClickSelectsFromItsFirstPixel) {
+    NumericField& field = Show("12345");
+    const QPoint at = SecondDigitFromTheRight(field);
+    QTest::mouseClick(&field, Qt::LeftButton, {}, at);
+    EXPECT_EQ(field.selectedText(), "12345");
+    QTest::mousePress(&field, Qt::LeftButton, {}, at);
+    const int digit = field.fontMetrics().horizontalAdvance('4');
+    ASSERT_LT(digit, QApplication::startDragDistance());
+    Drag(field, at - QPoint(digit, 0));
+    QTest::mouseRelease(&field, Qt::LeftButton, {}, at - QPoint(digit, 0));
+    EXPECT_EQ(field.selectedText().size(), 1);
 }
 
 TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {

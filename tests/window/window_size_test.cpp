@@ -56,8 +56,13 @@ TEST_P(WindowSizeTest, LeavesRoomForTheFrameAndForScrollBarsWhereTheyAreNeeded) 
     EXPECT_EQ(window.maximumHeight(), highest);
     EXPECT_EQ(window.width(), std::min(most, roomWidth));
     EXPECT_EQ(window.height(), std::min(highest, roomHeight));
-    EXPECT_EQ(window.minimumWidth(), form.LeastSize().width() + bar);
-    EXPECT_EQ(window.minimumHeight(), form.LeastSize().height() + bar + menu);
+    // A frame whole, with what surrounds it, a line more, and what stands below the form.
+    const QWidget& options = *form.fraCalcOptions;
+    constexpr int kMayBeLost = 3;  // of the canvas, before it scrolls
+    const int footer = form.WholeSize().height() - form.canvas().minimumHeight() - kMayBeLost;
+    EXPECT_EQ(window.minimumWidth(), form.fraBeta->width() + 2 * options.x() + bar);
+    EXPECT_EQ(window.minimumHeight(), options.height() + 2 * options.y() + footer +
+                                          window.fontMetrics().lineSpacing() + bar + menu);
 
     // With its frame in the middle of the screen.
     EXPECT_NEAR(window.x() + window.frameGeometry().width() / 2, screen.center().x(), 3);
