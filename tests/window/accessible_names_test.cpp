@@ -304,21 +304,54 @@ TEST_F(AccessibleNamesTest, TheTextOfAFieldIsReadByCharacters) {
     QAccessibleTextInterface& text = *Of(form().txtPf).textInterface();
     EXPECT_EQ(text.characterCount(), 5);
     EXPECT_EQ(text.text(1, 4), "42.");
-    text.setSelection(0, 1, 3);
     int start = -1;
     int end = -1;
-    text.selection(0, &start, &end);
-    EXPECT_EQ(start, 1);
-    EXPECT_EQ(end, 3);
+    EXPECT_EQ(text.attributes(2, &start, &end), "");
+    EXPECT_EQ(std::pair(start, end), std::pair(0, 5));
+    const NumericField& field = *form().txtPf;
+    const QRect place = Of(form().txtPf).rect();
+    for (int i = 0; i < 5; ++i) {
+        const QRect character = text.characterRect(i);
+        EXPECT_TRUE(place.contains(character)) << i;
+        EXPECT_EQ(character.height(), place.height()) << i;
+        EXPECT_NEAR(character.width(), field.fontMetrics().horizontalAdvance(field.text().at(i)),
+                    1);
+        EXPECT_EQ(text.offsetAtPoint(character.center() - QPoint(1, 0)), i);
+        EXPECT_TRUE(i == 0 || character.left() == text.characterRect(i - 1).right() + 1) << i;
+    }
+    EXPECT_EQ(text.characterRect(5), QRect());
+    EXPECT_EQ(text.characterRect(-1), QRect());
+    // The last one ends where the text of a field ends.
+    EXPECT_EQ(text.characterRect(4).right(), field.mapToGlobal(field.TextArea().bottomRight()).x());
+}
+
+TEST_F(AccessibleNamesTest, TheSelectionOfAFieldIsReadAndSet) {
+    Play({"click optGas", "type txtPf 142.3"});
+    QAccessibleTextInterface& text = *Of(form().txtPf).textInterface();
+    const auto selection = [&text](int index) {
+        int start = -1;
+        int end = -1;
+        text.selection(index, &start, &end);
+        return std::pair(start, end);
+    };
+    text.setCursorPosition(2);
+    EXPECT_EQ(text.cursorPosition(), 2);
+    EXPECT_EQ(text.selectionCount(), 0);
+    EXPECT_EQ(selection(0), std::pair(0, 0));
+    text.setSelection(0, 1, 3);
+    EXPECT_EQ(text.selectionCount(), 1);
+    EXPECT_EQ(selection(0), std::pair(1, 3));
+    EXPECT_EQ(selection(1), std::pair(0, 0)) << "there is one at the most";
     EXPECT_EQ(text.cursorPosition(), 3);
+    text.setSelection(1, 0, 5);
+    text.removeSelection(1);
+    EXPECT_EQ(selection(0), std::pair(1, 3));
+    text.addSelection(2, 5);
+    EXPECT_EQ(selection(0), std::pair(2, 5));
     text.removeSelection(0);
     EXPECT_EQ(text.selectionCount(), 0);
-    // The characters stand in their order, within the field.
-    const QRect first = text.characterRect(0);
-    const QRect last = text.characterRect(4);
-    EXPECT_LT(first.left(), last.left());
-    EXPECT_TRUE(Of(form().txtPf).rect().contains(last));
-    EXPECT_EQ(text.characterRect(5), QRect());
+    text.scrollToSubstring(1, 4);
+    EXPECT_EQ(text.cursorPosition(), 1);
 }
 
 TEST_F(AccessibleNamesTest, ACoveredListIsOutOfReach) {
