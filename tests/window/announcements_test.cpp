@@ -91,6 +91,11 @@ TEST_F(AnnouncementsTest, TheResultIsSaidInAPauseAndNotAgainUntilItIsAnother) {
     EXPECT_EQ(saidAfter({"keys {End}1{Backspace}"}), QStringList()) << "the same as before";
     EXPECT_EQ(saidAfter({"type txtBeta 0"}), QStringList()) << "there is no value";
     EXPECT_EQ(saidAfter({"type txtBeta 0.5"}), flow);
+    // The same run the other ways round.
+    EXPECT_EQ(saidAfter({"click optCalcDP", "type txtFlow 142.287"}),
+              QStringList("Differential Pressure 100.0 Inches Water"));
+    EXPECT_EQ(saidAfter({"click optCalcBeta", "type txtDeltaP 100"}),
+              QStringList("Beta Ratio 0.50000, Orifice Bore Diameter 2.013 Inches"));
 }
 
 }  // namespace
