@@ -155,6 +155,9 @@ class NoPrinterTest : public ReportPrinterTest {
 
 TEST_F(NoPrinterTest, CancelledDialogPrintsNothing) {
     PrintWith([this](QPrintDialog& dialog, QLineEdit& file) {
+        // There is one page.
+        EXPECT_FALSE(dialog.testOption(QAbstractPrintDialog::PrintPageRange));
+        EXPECT_FALSE(dialog.testOption(QAbstractPrintDialog::PrintCollateCopies));
         file.setText(File());
         dialog.reject();
     });

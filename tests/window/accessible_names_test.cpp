@@ -7,6 +7,7 @@
 #include <QTabBar>
 
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -390,6 +391,17 @@ TEST_F(AccessibleNamesTest, HelpersClickOptions) {
     EXPECT_TRUE(option.state().checked);
     EXPECT_TRUE(form().txtFlow->Locked()) << "the click's handler has run";
     EXPECT_EQ(player_.window().calculationRuns(), before + 1);
+}
+
+TEST_F(AccessibleNamesTest, HelpersMoveTheFocus) {
+    for (QWidget* control : std::initializer_list<QWidget*>{form().optSteam, form().cboTimeUnit,
+                                                            form().optGas, form().cboPressUnit}) {
+        QAccessibleActionInterface& actions = *Of(control).actionInterface();
+        EXPECT_TRUE(actions.actionNames().contains(QAccessibleActionInterface::setFocusAction()));
+        actions.doAction(QAccessibleActionInterface::setFocusAction());
+        EXPECT_TRUE(control->hasFocus()) << control->objectName().toStdString();
+    }
+    EXPECT_TRUE(form().optGas->Value()) << "the focus selects nothing";
 }
 
 TEST_F(AccessibleNamesTest, HelpersGoThroughAList) {

@@ -94,6 +94,36 @@ TEST_F(FormProceduresTest, PressureOfAnUnknownFluidEndsTheProgram) {
         "now terminate.");
 }
 
+// A length that no table has: for the diameters of the lists, and for the user's own.
+TEST_F(FormProceduresTest, AnUnknownUnitOfThePipeEndsTheProgram) {
+    static constexpr Unit kFurlongs[] = {{"Furlongs", 7920.0F}};
+    state_.SuspendCalc = true;
+    LoadcboPipeIDUnit(context_);
+    LoadcboNomSize(context_);
+    LoadcboPipeID(context_);
+    const std::string fatal =
+        "Fatal Error Encountered: \n\r\n\rUnrecognized pipe ID unit for 'User Entered' pipe "
+        "ID\n\r\n\rThis Program will now terminate.";
+    // The question for the diameter comes before the last box.
+    const auto expectEnd = [&](auto call) {
+        desk_.TakeBoxes();
+        EXPECT_EQ(ExitStatusOf(call), 1);
+        const auto boxes = desk_.TakeBoxes();
+        ASSERT_FALSE(boxes.empty());
+        EXPECT_EQ(boxes.back().text, fatal);
+        EXPECT_EQ(boxes.back().title, "Fatal Error");
+    };
+    form_.cboPipeIDUnit->setCurrentIndex(0);
+    state_.PipeIDUnitTable = kFurlongs;
+    expectEnd([this] { LoadcboPipeID(context_); });
+    state_.PipeIDUnitTable = kLengthUnits;
+    LoadcboPipeID(context_);
+    state_.PipeIDUnitTable = kFurlongs;
+    desk_.QueueAnswer({.ok = true, .text = "4"});
+    form_.cboPipeID->setCurrentIndex(form_.cboPipeID->count() - 1);
+    expectEnd([this] { cboPipeID_Click(context_); });
+}
+
 // What is solved is emptied; while no mode is chosen, whatever could be.
 TEST_F(FormProceduresTest, AResultIsCleared) {
     state_.SuspendCalc = true;

@@ -233,6 +233,7 @@ TEST_F(SplashTest, MissingLogoEndsTheProgram) {
     ASSERT_TRUE(QFile::remove(folder_.filePath("BrindleLogo.jpg")));
     const auto box = FatalBoxOf(clock_, [this] { splash_.Form_Activate(); });
     EXPECT_EQ(box.style, BoxStyle::Critical);
+    EXPECT_EQ(box.buttons, BoxButtons::Ok);
     EXPECT_EQ(box.title, "Brindle Tarvix");
     EXPECT_EQ(box.text, "Run-time error: File not found: " + module_.AppPath + "BrindleLogo.jpg");
     EXPECT_EQ(clock_.looks, 0);
