@@ -1,7 +1,6 @@
 // The decimal digits of binary numbers, and rounding them.
 #include "numbers/decimal_form.h"
 
-#include "named_row.h"
 #include "tests/core/numbers/infinities.h"
 
 #include <algorithm>
@@ -101,44 +100,35 @@ TEST(PlainToDoubleTest, TakesWhatADoubleHolds) {
 
 // Round -------------------------------------------------------------------------------------------
 
-struct RoundRow : NamedRow {
-    float value;
-    int decimals;
-    double rounded;
-};
-
-class RoundedSingle : public ::testing::TestWithParam<RoundRow> {};
-
-TEST_P(RoundedSingle, TakesHalvesToEven) {
-    const auto& row = GetParam();
-    EXPECT_EQ(Round(row.value, row.decimals), row.rounded);
-}
-
-// clang-format off
-const RoundRow kRoundRows[] = {
-    {"HalfToEvenDown",       0.123445F,  5, 0.12344},
-    {"HalfToEvenUp",         0.123455F,  5, 0.12346},
-    {"MinusHalfToEvenDown",  -0.123445F, 5, -0.12344},
-    {"MinusHalfToEvenUp",    -0.123455F, 5, -0.12346},
-    {"JustAboveTheHalf",     0.1234451F, 5, 0.12345},
-    {"JustBelowTheHalf",     0.1234549F, 5, 0.12345},
-    {"HalfWithZeroBefore",   0.000005F,  5, 0.0},
-    {"HalfWithOneBefore",    0.000015F,  5, 0.00002},
-    {"AboveHalfOfTheLast",   0.0000051F, 5, 0.00001},
-    {"HalfOfOneToZero",      0.5F,       0, 0.0},
-    {"OneAndAHalf",          1.5F,       0, 2.0},
-    {"TwoAndAHalf",          2.5F,       0, 2.0},
-    {"NinesAndAHalf",        0.999995F,  5, 1.0},
-    {"NothingToRound",       0.95F,      5, 0.95},
-    {"Zero",                 0.0F,       5, 0.0},
-    {"FarTooSmall",          1e-20F,     5, 0.0},
-    {"LargeIsKept",          12345678.0F, 5, 12345678.0},
-};
-// clang-format on
-
-INSTANTIATE_TEST_SUITE_P(DecimalForm, RoundedSingle, ::testing::ValuesIn(kRoundRows), kRowName);
-
-TEST(DecimalFormRound, DoublesAreRoundedFromFifteenDigits) {
+TEST(DecimalFormRound, TakesHalvesToEven) {
+    struct Row {
+        const char* name;
+        float value;
+        int decimals;
+        double rounded;
+    };
+    for (const auto& [name, value, decimals, rounded] : {
+             Row{"HalfToEvenDown", 0.123445F, 5, 0.12344},
+             Row{"HalfToEvenUp", 0.123455F, 5, 0.12346},
+             Row{"MinusHalfToEvenDown", -0.123445F, 5, -0.12344},
+             Row{"MinusHalfToEvenUp", -0.123455F, 5, -0.12346},
+             Row{"JustAboveTheHalf", 0.1234451F, 5, 0.12345},
+             Row{"JustBelowTheHalf", 0.1234549F, 5, 0.12345},
+             Row{"HalfWithZeroBefore", 0.000005F, 5, 0.0},
+             Row{"HalfWithOneBefore", 0.000015F, 5, 0.00002},
+             Row{"AboveHalfOfTheLast", 0.0000051F, 5, 0.00001},
+             Row{"HalfOfOneToZero", 0.5F, 0, 0.0},
+             Row{"OneAndAHalf", 1.5F, 0, 2.0},
+             Row{"TwoAndAHalf", 2.5F, 0, 2.0},
+             Row{"NinesAndAHalf", 0.999995F, 5, 1.0},
+             Row{"NothingToRound", 0.95F, 5, 0.95},
+             Row{"Zero", 0.0F, 5, 0.0},
+             Row{"FarTooSmall", 1e-20F, 5, 0.0},
+             Row{"LargeIsKept", 12345678.0F, 5, 12345678.0},
+         }) {
+        EXPECT_EQ(Round(value, decimals), rounded) << name;
+    }
+    // Doubles are rounded from fifteen digits.
     EXPECT_EQ(Round(0.123445, 5), 0.12344);
     EXPECT_EQ(Round(0.12344500000001, 5), 0.12345);
     EXPECT_EQ(Round(0.123455, 5), 0.12346);

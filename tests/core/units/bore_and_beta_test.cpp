@@ -13,21 +13,18 @@ namespace {
 
 constexpr float kMax = std::numeric_limits<float>::max();
 
-std::string ThreeDecimals(std::optional<float> bore) {
-    return bore ? FormatNumber(*bore, 3, kUnitedStates, Grouping::Off) : "none";
-}
-std::string FiveDecimals(std::optional<float> beta) {
-    return beta ? FormatNumber(*beta, 5, kUnitedStates, Grouping::Off) : "none";
+std::string Rounded(std::optional<float> value, int decimals) {
+    return value ? FormatNumber(*value, decimals, kUnitedStates, Grouping::Off) : "none";
 }
 
 TEST(BoreAndBetaTest, OneFollowsTheOther) {
-    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 4.026F, 1.0F)), "2.013");
-    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 2.067F, kLengthUnits[1].factor)), "26.251");
-    EXPECT_EQ(ThreeDecimals(BoreFromBeta(0.5F, 2.067F, kLengthUnits[2].factor)), "2.625");
-    EXPECT_EQ(FiveDecimals(BetaFromBore(1.0F, 2.067F, 1.0F)), "0.48379");
+    EXPECT_EQ(Rounded(BoreFromBeta(0.5F, 4.026F, 1.0F), 3), "2.013");
+    EXPECT_EQ(Rounded(BoreFromBeta(0.5F, 2.067F, kLengthUnits[1].factor), 3), "26.251");
+    EXPECT_EQ(Rounded(BoreFromBeta(0.5F, 2.067F, kLengthUnits[2].factor), 3), "2.625");
+    EXPECT_EQ(Rounded(BetaFromBore(1.0F, 2.067F, 1.0F), 5), "0.48379");
     // 26.251 x 0.03937008 / 2.067 = 0.500002
-    EXPECT_EQ(FiveDecimals(BetaFromBore(26.251F, 2.067F, kLengthUnits[1].factor)), "0.50000");
-    EXPECT_EQ(FiveDecimals(BetaFromBore(40.0F, 2.067F, kLengthUnits[1].factor)), "0.76188");
+    EXPECT_EQ(Rounded(BetaFromBore(26.251F, 2.067F, kLengthUnits[1].factor), 5), "0.50000");
+    EXPECT_EQ(Rounded(BetaFromBore(40.0F, 2.067F, kLengthUnits[1].factor), 5), "0.76188");
 }
 
 TEST(BoreAndBetaTest, EachStepIsSingle) {
@@ -59,9 +56,7 @@ TEST(BoreAndBetaTest, AnyNumberInAnyPipeHasItsOther) {
     EXPECT_EQ(BetaFromBore(-1.0F, 2.0F, 1.0F), -0.5F);
     EXPECT_EQ(BetaFromBore(0.0F, 2.0F, 1.0F), 0.0F);
     EXPECT_EQ(BetaFromBore(0.5F, 1.0F, 1.0F), 0.5F);
-}
-
-TEST(BoreAndBetaTest, APipeWithoutDiameterHasNoBeta) {
+    // But for a pipe without diameter, which has no beta.
     EXPECT_EQ(BetaFromBore(1.0F, 0.0F, 1.0F), std::nullopt);
     EXPECT_EQ(BetaFromBore(0.0F, 0.0F, 1.0F), std::nullopt);
     EXPECT_EQ(BetaFromBore(1.0F, -0.0F, 1.0F), std::nullopt);

@@ -17,35 +17,27 @@ const Unit kLowerCase{"millimeters", 0.03937008F};
 
 // Nominal sizes -----------------------------------------------------------------------------------
 
-struct SizeRow : NamedRow {
-    const char* shown;
-    float inches;
-    const char* millimeters;
-    const char* centimeters;
-};
-
-class NominalSizeShown : public ::testing::TestWithParam<SizeRow> {};
-
-TEST_P(NominalSizeShown, InEveryUnit) {
-    const auto& row = GetParam();
-    EXPECT_EQ(NominalSizeText(row.shown, row.inches, kInch, kUnitedStates), row.shown);
-    EXPECT_EQ(NominalSizeText(row.shown, row.inches, kMillimeter, kUnitedStates), row.millimeters);
-    EXPECT_EQ(NominalSizeText(row.shown, row.inches, kCentimeter, kUnitedStates), row.centimeters);
-}
-
 // Sizes divided by the factors, whose seven digits show: 2.5 inches are 6.349999 cm, not 6.35.
-// clang-format off
-const SizeRow kSizeRows[] = {
-    {"Half",             "1/2",   0.5F,  "12.7",   "1.3"},
-    {"ThreeQuarters",    "3/4",   0.75F, "19.1",   "1.9"},
-    {"One",              "1",     1.0F,  "25.4",   "2.5"},
-    {"TwoAndAHalf",      "2-1/2", 2.5F,  "63.5",   "6.3"},
-    {"Ten",              "10",    10.0F, "254.0",  "25.4"},
-    {"FortyTwo",         "42",    42.0F, "1066.8", "106.7"},
-};
-// clang-format on
-
-INSTANTIATE_TEST_SUITE_P(PipeIdTexts, NominalSizeShown, ::testing::ValuesIn(kSizeRows), kRowName);
+TEST(PipeIdTextsTest, ANominalSizeInEveryUnit) {
+    struct Size {
+        const char* shown;
+        float inches;
+        const char* millimeters;
+        const char* centimeters;
+    };
+    for (const auto& [shown, inches, millimeters, centimeters] : {
+             Size{"1/2", 0.5F, "12.7", "1.3"},
+             Size{"3/4", 0.75F, "19.1", "1.9"},
+             Size{"1", 1.0F, "25.4", "2.5"},
+             Size{"2-1/2", 2.5F, "63.5", "6.3"},
+             Size{"10", 10.0F, "254.0", "25.4"},
+             Size{"42", 42.0F, "1066.8", "106.7"},
+         }) {
+        EXPECT_EQ(NominalSizeText(shown, inches, kInch, kUnitedStates), shown);
+        EXPECT_EQ(NominalSizeText(shown, inches, kMillimeter, kUnitedStates), millimeters);
+        EXPECT_EQ(NominalSizeText(shown, inches, kCentimeter, kUnitedStates), centimeters);
+    }
+}
 
 TEST(PipeIdTextsTest, NominalSizesFollowTheLocaleAndAreNotGrouped) {
     EXPECT_EQ(NominalSizeText("1/2", 0.5F, kMillimeter, kGermany), "12,7");
@@ -54,30 +46,24 @@ TEST(PipeIdTextsTest, NominalSizesFollowTheLocaleAndAreNotGrouped) {
 
 // Schedules ---------------------------------------------------------------------------------------
 
-TEST(PipeIdTextsTest, AScheduleInInches) {
-    EXPECT_EQ(ScheduleText("2.067", "Sch 40, STD, Sch 40S", kInch, kUnitedStates),
-              "2.067\"  Sch 40, STD, Sch 40S");
-    EXPECT_EQ(ScheduleText("0.710", "XXS", kInch, kUnitedStates), "0.710\"  XXS");
-}
-
-TEST(PipeIdTextsTest, AScheduleInMillimetersAndCentimeters) {
-    EXPECT_EQ(ScheduleText("2.067", "Sch 40, STD, Sch 40S", kMillimeter, kUnitedStates),
-              "2.067\"  (52.50 mm)  Sch 40, STD, Sch 40S");
-    EXPECT_EQ(ScheduleText("2.067", "Sch 40, STD, Sch 40S", kCentimeter, kUnitedStates),
-              "2.067\"  (5.25 cm)  Sch 40, STD, Sch 40S");
-    EXPECT_EQ(ScheduleText("41.250", "STD", kMillimeter, kUnitedStates),
-              "41.250\"  (1047.75 mm)  STD");
+TEST(PipeIdTextsTest, AScheduleInEveryUnit) {
+    const auto american = [](const char* diameter, const char* name, const Unit& unit) {
+        return ScheduleText(diameter, name, unit, kUnitedStates);
+    };
+    const char* const name = "Sch 40, STD, Sch 40S";
+    EXPECT_EQ(american("2.067", name, kInch), "2.067\"  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(american("0.710", "XXS", kInch), "0.710\"  XXS");
+    EXPECT_EQ(american("2.067", name, kMillimeter), "2.067\"  (52.50 mm)  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(american("2.067", name, kCentimeter), "2.067\"  (5.25 cm)  Sch 40, STD, Sch 40S");
+    EXPECT_EQ(american("41.250", "STD", kMillimeter), "41.250\"  (1047.75 mm)  STD");
+    EXPECT_EQ(american("2.067", "XXS", kFoot), std::nullopt);
+    EXPECT_EQ(american("2.067", "XXS", kLowerCase), std::nullopt);
 }
 
 TEST(PipeIdTextsTest, AScheduleFollowsTheLocale) {
     EXPECT_EQ(ScheduleText("2,067", "XXS", kInch, kGermany), "2,067\"  XXS");
     EXPECT_EQ(ScheduleText("2,067", "XXS", kMillimeter, kGermany), "2,067\"  (52,50 mm)  XXS");
     EXPECT_EQ(ScheduleText("41,250", "STD", kMillimeter, kGermany), "41,250\"  (1047,75 mm)  STD");
-}
-
-TEST(PipeIdTextsTest, AScheduleInAnyOtherUnitHasNoText) {
-    EXPECT_EQ(ScheduleText("2.067", "XXS", kFoot, kUnitedStates), std::nullopt);
-    EXPECT_EQ(ScheduleText("2.067", "XXS", kLowerCase, kUnitedStates), std::nullopt);
 }
 
 // Of the pipes with the longest name only one is 10 inches or wider; of the nominal sizes only 42
@@ -145,24 +131,20 @@ TEST(PipeIdTextsTest, ThePipeDiameterInInchesIsThatOfTheTable) {
     EXPECT_EQ(PipeDiameterInUnit(kInches, "5,500", "5,500\" (User Entered)"), "5,500");
 }
 
-TEST(PipeIdTextsTest, ThePipeDiameterInAMetricUnitStandsInTheListsText) {
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", "2.067\"  (52.50 mm)  XXS"), "52.50");
+// An entry without one has no text, and an unknown unit none at all.
+TEST(PipeIdTextsTest, ThePipeDiameterInAnotherUnitStandsInTheListsText) {
+    const auto inMillimeters = [](const char* shown) {
+        return PipeDiameterInUnit(kMillimeters, "2.067", shown);
+    };
+    EXPECT_EQ(inMillimeters("2.067\"  (52.50 mm)  XXS"), "52.50");
+    EXPECT_EQ(inMillimeters("2.000\"  (50.80 mm)   (User Entered)"), "50.80");
+    EXPECT_EQ(inMillimeters("2,067\"  (1052,50 mm)  XXS"), "1052,50");
+    for (const char* shown : {"Other (User Entered)", "2.067\"  (5.25 cm)  XXS",
+                              "no parenthesis 5 mm", " mm before (5", ""}) {
+        EXPECT_EQ(inMillimeters(shown), "") << shown;
+    }
     EXPECT_EQ(PipeDiameterInUnit(kCentimeters, "2.067", "2.067\"  (5.25 cm)  XXS"), "5.25");
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.000", "2.000\"  (50.80 mm)   (User Entered)"),
-              "50.80");
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2,067", "2,067\"  (1052,50 mm)  XXS"), "1052,50");
-}
-
-TEST(PipeIdTextsTest, ThePipeDiameterOfAnEntryWithoutOneIsEmpty) {
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "0", "Other (User Entered)"), "");
     EXPECT_EQ(PipeDiameterInUnit(kCentimeters, "0", "Other (User Entered)"), "");
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", "2.067\"  (5.25 cm)  XXS"), "");
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", "no parenthesis 5 mm"), "");
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", " mm before (5"), "");
-    EXPECT_EQ(PipeDiameterInUnit(kMillimeters, "2.067", ""), "");
-}
-
-TEST(PipeIdTextsTest, ThePipeDiameterInAnyOtherUnitIsNotKnown) {
     EXPECT_EQ(PipeDiameterInUnit("Feet", "2.067", "2.067\"  XXS"), std::nullopt);
     EXPECT_EQ(PipeDiameterInUnit("", "2.067", "2.067\"  XXS"), std::nullopt);
 }

@@ -3,13 +3,13 @@
 #include "units/unit_tables.h"
 
 #include "data_file.h"
-#include "named_row.h"
 #include "units/flow_units.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace tarvix::testing {
 namespace {
@@ -69,50 +69,39 @@ TEST(UnitTablesTest, LengthUnitNamesAreThoseOfTheTable) {
     EXPECT_EQ(kLengthUnits[2].text, kCentimeters);
 }
 
-// Quotients ---------------------------------------------------------------------------------------
-
-struct QuotientRow : NamedRow {
-    const char* list;
-    const char* text;
-    float quotient;
-};
-
-class ComputedFactor : public ::testing::TestWithParam<QuotientRow> {};
-
-TEST_P(ComputedFactor, IsTheSingleQuotientWithSevenDigits) {
-    const auto& row = GetParam();
-    char sevenDigits[32];
-    std::snprintf(sevenDigits, sizeof sevenDigits, "%.7g", double{row.quotient});
-    int found = 0;
-    for (const auto& unit : RowsOf(ReadDataFile("units.tsv"), row.list)) {
-        if (unit[2] == row.text) {
-            EXPECT_EQ(unit[4], sevenDigits);
-            ++found;
+TEST(UnitTablesTest, AQuotientIsTheSingleOneWithSevenDigits) {
+    // Operands and results are singles, step by step.
+    const float poundProduct = 2.698825F * 14.696F;
+    const float poundSum = 459.67F + 60.0F;
+    const float poundQuotient = poundProduct / poundSum;
+    struct Quotient {
+        const char* list;
+        const char* unit;
+        float factor;
+    };
+    for (const auto& [list, unit, factor] : {
+             Quotient{"press", "kg/cm2", 10000.0F / 703.0696F},
+             Quotient{"press", "kPa", 1.0F / 6.894757F},
+             Quotient{"press", "Pa", 1.0F / 6894.757F},
+             Quotient{"density", "kg/cubic meter", 1.0F / 16.01846F},
+             Quotient{"length", "Millimeters", 1.0F / 25.4F},
+             Quotient{"length", "Centimeters", 1.0F / 2.54F},
+             Quotient{"flow G", "Pounds", 1.0F / poundQuotient},
+             Quotient{"flow G", "Kilograms", 13.1F / 0.4535924F},
+             Quotient{"flow G", "Standard Cubic Meters", 1.0F / 0.02831685F},
+         }) {
+        SCOPED_TRACE(std::string(list) + " " + unit);
+        char sevenDigits[32];
+        std::snprintf(sevenDigits, sizeof sevenDigits, "%.7g", double{factor});
+        std::vector<std::string> found;
+        for (const auto& row : RowsOf(ReadDataFile("units.tsv"), list)) {
+            if (row[2] == unit) {
+                found.push_back(row[4]);
+            }
         }
+        EXPECT_EQ(found, std::vector<std::string>{sevenDigits});
     }
-    EXPECT_EQ(found, 1);
 }
-
-// Operands and results are singles, step by step.
-const float kPoundProduct = 2.698825F * 14.696F;
-const float kPoundSum = 459.67F + 60.0F;
-const float kPoundQuotient = kPoundProduct / kPoundSum;
-
-// clang-format off
-const QuotientRow kQuotientRows[] = {
-    {"KgPerCm2",             "press",   "kg/cm2",         10000.0F / 703.0696F},
-    {"Kilopascal",           "press",   "kPa",            1.0F / 6.894757F},
-    {"Pascal",               "press",   "Pa",             1.0F / 6894.757F},
-    {"KgPerCubicMeter",      "density", "kg/cubic meter", 1.0F / 16.01846F},
-    {"Millimeter",           "length",  "Millimeters",    1.0F / 25.4F},
-    {"Centimeter",           "length",  "Centimeters",    1.0F / 2.54F},
-    {"PoundOfAir",           "flow G",  "Pounds",         1.0F / kPoundQuotient},
-    {"KilogramOfAir",        "flow G",  "Kilograms",      13.1F / 0.4535924F},
-    {"StandardCubicMeter",   "flow G",  "Standard Cubic Meters", 1.0F / 0.02831685F},
-};
-// clang-format on
-
-INSTANTIATE_TEST_SUITE_P(UnitTables, ComputedFactor, ::testing::ValuesIn(kQuotientRows), kRowName);
 
 }  // namespace
 }  // namespace tarvix::testing
