@@ -11,11 +11,14 @@ namespace {
 
 class DoubleSolver : public ::testing::Test {
   protected:
-    static InputSheet SheetOf(tarvix::Fluid fluid, SolveFor mode) {
+    static InputSheet SheetOf(tarvix::Fluid fluid, FlowKind kind, const char* flowUnit,
+                              const char* timeUnit) {
         InputSheet sheet;
         sheet.fluid = fluid;
-        sheet.mode = mode;
-        sheet.flowKind = FlowKind::Volume;
+        sheet.mode = SolveFor::FlowRate;
+        sheet.flowKind = kind;
+        sheet.flowUnit = {flowUnit, 0};
+        sheet.timeUnit = {timeUnit, 0};
         sheet.deltaPUnit = {"Inches Water", 0};  // the solver takes no factor from the sheet
         sheet.pressUnit = {"PSI", 0};
         sheet.densityUnit = {"lb/cubic foot", 0};
@@ -31,9 +34,7 @@ class DoubleSolver : public ::testing::Test {
 }  // namespace
 
 TEST_F(DoubleSolver, LiquidExample) {
-    InputSheet sheet = SheetOf(tarvix::Fluid::Liquid, SolveFor::FlowRate);
-    sheet.flowUnit = {"Gallons", 0};
-    sheet.timeUnit = {"Minute", 0};
+    InputSheet sheet = SheetOf(tarvix::Fluid::Liquid, FlowKind::Volume, "Gallons", "Minute");
     sheet.sgf = "1";
     sheet.sgb = "1";
     EXPECT_NEAR(ExactResult(sheet, units_), 142.2869, 5e-5);
@@ -45,9 +46,7 @@ TEST_F(DoubleSolver, LiquidExample) {
 }
 
 TEST_F(DoubleSolver, GasExample) {
-    InputSheet sheet = SheetOf(tarvix::Fluid::Gas, SolveFor::FlowRate);
-    sheet.flowUnit = {"Standard Cubic Feet", 0};
-    sheet.timeUnit = {"Day", 0};
+    InputSheet sheet = SheetOf(tarvix::Fluid::Gas, FlowKind::Volume, "Standard Cubic Feet", "Day");
     sheet.pipeDiameter = "2.067";
     sheet.pf = "100";
     sheet.tf = "60";
@@ -61,10 +60,7 @@ TEST_F(DoubleSolver, GasExample) {
 }
 
 TEST_F(DoubleSolver, SteamExample) {
-    InputSheet sheet = SheetOf(tarvix::Fluid::Steam, SolveFor::FlowRate);
-    sheet.flowKind = FlowKind::Mass;
-    sheet.flowUnit = {"Pounds", 0};
-    sheet.timeUnit = {"Hour", 0};
+    InputSheet sheet = SheetOf(tarvix::Fluid::Steam, FlowKind::Mass, "Pounds", "Hour");
     sheet.pf = "100";
     sheet.density = "0.25704";
     EXPECT_NEAR(ExactResult(sheet, units_), 4521.639, 5e-4);

@@ -27,21 +27,6 @@ constexpr const char* kMethod = "method.md";
 // What single precision may add to a figure worked out in doubles, step after step.
 constexpr double kSingleRounding = 1.2e-7;
 
-class MethodExamples : public ::testing::Test {
-  protected:
-    double Constant(std::string_view name) const { return constants_.Number(name); }
-
-    double VelocityTerm(double beta) const {
-        return Constant("Cd") / std::sqrt(1 - std::pow(beta, 4));
-    }
-    double Expansion(double beta, double h, double p) const {
-        return 1 - (Constant("a") + Constant("b") * std::pow(beta, 4)) *
-                       (h / (Constant("KY") * p)) / Constant("κ");
-    }
-
-    FigureTable constants_ = ReadFigures(kMethod, "constants");
-};
-
 // The text of a result field for these inputs, as the window gets it; fails on any message.
 std::string Shown(const InputSheet& sheet) {
     testing::RecordingPlatform platform;
@@ -75,6 +60,35 @@ void ExpectStep(const FigureTable& steps, int n, std::initializer_list<double> v
     }
 }
 
+constexpr float kGasPsia = 114.7F;
+constexpr float kGasR = 519.67F;
+
+class MethodExamples : public ::testing::Test {
+  protected:
+    double Constant(std::string_view name) const { return constants_.Number(name); }
+
+    double VelocityTerm(double beta) const {
+        return Constant("Cd") / std::sqrt(1 - std::pow(beta, 4));
+    }
+    double Expansion(double beta, double h, double p) const {
+        return 1 - (Constant("a") + Constant("b") * std::pow(beta, 4)) *
+                       (h / (Constant("KY") * p)) / Constant("κ");
+    }
+
+    // What gas and steam have in common at beta 0.5 and 100 inches of water.
+    void ExpectExpansion(const FigureTable& table, double p) const {
+        const double beta = table.Number("β");
+        const double h = table.Number("h");
+        ExpectFigure(table, "P", p, kGasPsia);
+        ExpectFigure(table, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
+        ExpectFigure(table, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
+        ExpectFigure(table, "h/(KY P)", h / (Constant("KY") * p));
+        ExpectFigure(table, "Y", Expansion(beta, h, p), ExpansionFactor(0.5F, 100.0F, kGasPsia));
+    }
+
+    FigureTable constants_ = ReadFigures(kMethod, "constants");
+};
+
 InputSheet GasSheet(SolveFor mode) {
     InputSheet sheet = testing::GasSheet(mode);
     sheet.pipeDiameter = "2.067";
@@ -89,9 +103,6 @@ InputSheet SteamSheet(SolveFor mode) {
     sheet.density = {SteamDensityTextOf(sheet, module).density, module.locale()};
     return sheet;
 }
-
-constexpr float kGasPsia = 114.7F;
-constexpr float kGasR = 519.67F;
 
 GasProperties AirExample() {
     GasProperties gas;
@@ -121,9 +132,7 @@ TEST_F(MethodExamples, Liquid) {
     ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
     ExpectFigure(t, "√(h Gf)", root);
     ExpectFigure(t, "Q", q, solved.value);
-
-    InputSheet sheet = testing::LiquidSheet(SolveFor::FlowRate);
-    EXPECT_EQ(t.Text("shown"), Shown(sheet));
+    EXPECT_EQ(t.Text("shown"), Shown(testing::LiquidSheet(SolveFor::FlowRate)));
 }
 
 TEST_F(MethodExamples, LiquidBack) {
@@ -173,22 +182,16 @@ TEST_F(MethodExamples, Gas) {
     const MeteringRun run{SolveFor::FlowRate, 2.067F, 0.0F, 100.0F, 0.5F};
     const Outcome solved = SolveGas(run, AirExample());
 
-    ExpectFigure(t, "P", p, kGasPsia);
+    ExpectExpansion(t, p);
     ExpectFigure(t, "Tf", tempR, kGasR);
     ExpectFigure(t, "Tb", tempR, kGasR);
     ExpectFigure(t, "Pb", Constant("Pb"), kAtmosphericPressurePsi);
     ExpectFigure(t, "Ff", 60.0 / 1440);
-    ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
-    ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
-    ExpectFigure(t, "h/(KY P)", h / (Constant("KY") * p));
-    ExpectFigure(t, "Y", y, ExpansionFactor(0.5F, 100.0F, kGasPsia));
     ExpectFigure(t, "Tb/Pb", tempR / Constant("Pb"));
     ExpectFigure(t, "h P/(Tf G Zf)", radicand);
     ExpectFigure(t, "Q", q, solved.value);
     ExpectFigure(t, "Q/Ff", q / (60.0 / 1440));
-
-    InputSheet sheet = GasSheet(SolveFor::FlowRate);
-    EXPECT_EQ(t.Text("shown"), Shown(sheet));
+    EXPECT_EQ(t.Text("shown"), Shown(GasSheet(SolveFor::FlowRate)));
 }
 
 TEST_F(MethodExamples, GasBack) {
@@ -247,13 +250,9 @@ TEST_F(MethodExamples, Steam) {
     const float density = SaturatedSteamDensity(100.0F).density;
     const Outcome solved = SolveSteam(run, {.pressurePsia = kGasPsia, .density = density});
 
-    ExpectFigure(t, "P", p, kGasPsia);
+    ExpectExpansion(t, p);
     ExpectFigure(t, "ρ", t.Number("ρ"), density);
     ExpectFigure(t, "Ff", 1);
-    ExpectFigure(t, "β⁴", std::pow(beta, 4), static_cast<float>(BetaToTheFourth(0.5F)));
-    ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
-    ExpectFigure(t, "h/(KY P)", h / (Constant("KY") * p));
-    ExpectFigure(t, "Y", y, ExpansionFactor(0.5F, 100.0F, kGasPsia));
     ExpectFigure(t, "h ρ", h * t.Number("ρ"));
     ExpectFigure(t, "Q", q, solved.value);
 

@@ -1,5 +1,6 @@
 // What docs/method.md says of runs without a result: with which word, or with none.
 #include "tests/core/calc/equations.h"
+#include "tests/core/outcomes.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -33,9 +34,7 @@ TEST(MethodSilence, GasAtOrBelowAbsoluteZero) {
     const auto absoluteZero = static_cast<float>(double{-459.67F} + 459.67);
     for (const float temperature : {absoluteZero, -10.0F}) {
         const Equation air = Air(kVolume, 114.7F, temperature);
-        const Outcome flow = air(RunFor(SolveFor::FlowRate));
-        EXPECT_FALSE(flow.value);
-        EXPECT_EQ(flow.message, "");
+        ExpectNothing(air(RunFor(SolveFor::FlowRate)));
         EXPECT_EQ(air(RunFor(SolveFor::DiffPressure)).message,
                   "Unable to resolve differential pressure for conditions.");
         EXPECT_EQ(air(RunFor(SolveFor::Beta)).message, "Unable to resolve beta for conditions.");
@@ -55,9 +54,7 @@ TEST(MethodSilence, LargeBetas) {
     EXPECT_EQ(BetaBack(air, 0.835F).message, "Unable to resolve beta for conditions.");
     EXPECT_EQ(BetaBack(steam, 0.835F).message, "Unable to resolve Beta Ratio for conditions.");
     EXPECT_EQ(BetaBack(air, 0.85F).message, kBetaTooLarge);
-    const Outcome silent = BetaBack(steam, 0.85F);
-    EXPECT_FALSE(silent.value);
-    EXPECT_EQ(silent.message, "");
+    ExpectNothing(BetaBack(steam, 0.85F));
 }
 
 }  // namespace tarvix::docs

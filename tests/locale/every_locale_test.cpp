@@ -22,6 +22,15 @@ QList<QLocale> EveryLocale() {
     return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
 }
 
+// Calls `test` with each locale and the program's numbers in it.
+template <typename Test>
+void ForEveryLocale(Test test) {
+    for (const QLocale& locale : EveryLocale()) {
+        SCOPED_TRACE(locale.name().toStdString());
+        test(locale, NumberLocaleOf(locale));
+    }
+}
+
 // Values of every size and sign, whole, fractional and at the steps of the formatters' scale.
 std::vector<float> Values() {
     std::vector<float> values{0.0F,      0.5F,      1.0F / 3,   0.95F,       0.05F,       0.005F,
@@ -87,98 +96,79 @@ TEST(EveryLocale, ThereAreSeveralHundred) {
 }
 
 TEST(EveryLocale, SeparatorIsACommaWhereTheSystemWritesOne) {
-    for (const QLocale& locale : EveryLocale()) {
+    ForEveryLocale([](const QLocale& locale, const NumberLocale& numbers) {
         const bool comma = locale.toString(3.14, 'f', 2).contains(QLatin1Char(','));
-        EXPECT_EQ(NumberLocaleOf(locale).decimalSeparator, comma ? ',' : '.')
-            << locale.name().toStdString();
-    }
+        EXPECT_EQ(numbers.decimalSeparator, comma ? ',' : '.');
+    });
 }
 
-TEST(EveryLocale, WhatIsWrittenIsReadAsTheSameValue) {
+TEST(EveryLocale, WhatIsWrittenIsReadAsTheSameValueAndAnEntryCanBeTyped) {
     testing::RecordingPlatform platform;
-    for (const QLocale& locale : EveryLocale()) {
-        const Module1 module(platform, NumberLocaleOf(locale));
-        const NumberLocale& numbers = module.locale();
+    ForEveryLocale([&](const QLocale& /*locale*/, const NumberLocale& numbers) {
+        const Module1 module(platform, numbers);
         for (const float value : Values()) {
+            const std::string entry = module.FormatEntry(value);
+            ASSERT_EQ(Typed(entry, module), entry);
             std::vector<std::string> texts{module.FormatResult(value), module.FormatLimit(value),
-                                           module.FormatEntry(value)};
+                                           entry};
             for (const int decimals : {0, 2, 3, 5}) {
                 texts.push_back(FormatNumber(value, decimals, numbers, Grouping::On));
             }
             for (const std::string& text : texts) {
                 const auto read = TextToSingle(text, numbers);
-                ASSERT_TRUE(read) << locale.name().toStdString() << ": " << text;
-                ASSERT_NEAR(*read, value, Tolerance(value, text, numbers))
-                    << locale.name().toStdString() << ": " << text;
+                ASSERT_TRUE(read) << text;
+                ASSERT_NEAR(*read, value, Tolerance(value, text, numbers)) << text;
             }
         }
-    }
-}
-
-TEST(EveryLocale, AnEntryCanBeTyped) {
-    testing::RecordingPlatform platform;
-    for (const QLocale& locale : EveryLocale()) {
-        const Module1 module(platform, NumberLocaleOf(locale));
-        for (const float value : Values()) {
-            const std::string text = module.FormatEntry(value);
-            ASSERT_EQ(Typed(text, module), text) << locale.name().toStdString();
-        }
-    }
+    });
 }
 
 TEST(EveryLocale, GroupsAreTheSystemsOwn) {
-    for (const QLocale& locale : EveryLocale()) {
-        const NumberLocale numbers = NumberLocaleOf(locale);
+    ForEveryLocale([](const QLocale& locale, const NumberLocale& numbers) {
         if (numbers.groupSeparator.empty() || locale.language() == QLocale::C) {
-            continue;
+            return;
         }
         for (const qlonglong number : {123LL, 1234LL, 12345LL, 123456LL, 1234567LL}) {
             if (number == 1234567 && GroupsLate(locale)) {
                 continue;
             }
             EXPECT_EQ(FormatNumber(static_cast<float>(number), 0, numbers, Grouping::On),
-                      Written(locale, number).toStdString())
-                << locale.name().toStdString();
+                      Written(locale, number).toStdString());
         }
-    }
+    });
 }
 
 TEST(EveryLocale, AMillionHasAllItsGroupsWhereTheFirstNeedsMoreDigits) {
     int locales = 0;
-    for (const QLocale& locale : EveryLocale()) {
+    ForEveryLocale([&](const QLocale& locale, const NumberLocale& numbers) {
         if (GroupsLate(locale)) {
             ++locales;
             const QString grouped = QStringList{"1", "234", "567"}.join(locale.groupSeparator());
-            EXPECT_EQ(FormatNumber(1234567.0F, 0, NumberLocaleOf(locale), Grouping::On),
-                      grouped.toStdString())
-                << locale.name().toStdString();
+            EXPECT_EQ(FormatNumber(1234567.0F, 0, numbers, Grouping::On), grouped.toStdString());
         }
-    }
+    });
     EXPECT_GT(locales, 10);
 }
 
 TEST(EveryLocale, NoGroupsOnlyWhereTheSystemHasNone) {
-    for (const QLocale& locale : EveryLocale()) {
-        const NumberLocale numbers = NumberLocaleOf(locale);
-        const QString written = Written(locale, 1234567890);
+    ForEveryLocale([](const QLocale& locale, const NumberLocale& numbers) {
         // A locale whose groups are told by the decimal separator can't be read with them.
         const bool ambiguous =
             locale.groupSeparator() == QString(QLatin1Char(numbers.decimalSeparator));
         if (numbers.groupSeparator.empty() && !ambiguous) {
-            EXPECT_EQ(written, QStringLiteral("1234567890")) << locale.name().toStdString();
+            EXPECT_EQ(Written(locale, 1234567890), QStringLiteral("1234567890"));
         }
-    }
+    });
 }
 
 TEST(EveryLocale, TheSystemReadsWhatTheProgramWrites) {
     testing::RecordingPlatform platform;
     int compared = 0;
-    for (const QLocale& locale : EveryLocale()) {
-        const NumberLocale numbers = NumberLocaleOf(locale);
+    ForEveryLocale([&](const QLocale& locale, const NumberLocale& numbers) {
         const bool sameSeparator =
             locale.decimalPoint() == QString(QLatin1Char(numbers.decimalSeparator));
         if (!HasPlainDigits(locale) || !sameSeparator || locale.language() == QLocale::C) {
-            continue;
+            return;
         }
         ++compared;
         const Module1 module(platform, numbers);
@@ -189,11 +179,10 @@ TEST(EveryLocale, TheSystemReadsWhatTheProgramWrites) {
             const std::string text = module.FormatResult(value);
             bool isNumber = false;
             const double read = locale.toDouble(QString::fromStdString(text), &isNumber);
-            EXPECT_TRUE(isNumber) << locale.name().toStdString() << ": " << text;
-            EXPECT_NEAR(read, value, Tolerance(value, text, numbers))
-                << locale.name().toStdString() << ": " << text;
+            EXPECT_TRUE(isNumber) << text;
+            EXPECT_NEAR(read, value, Tolerance(value, text, numbers)) << text;
         }
-    }
+    });
     EXPECT_GT(compared, 400);
 }
 
@@ -202,11 +191,10 @@ TEST(EveryLocale, DatesHaveTwoDigitsTheMonthsShortNameAndFourDigits) {
     EXPECT_EQ(DateText(day, QLocale(QLocale::English, QLocale::UnitedStates)), "05 Jan 2026");
     EXPECT_EQ(DateText(day, QLocale::c()), "05 Jan 2026");
     EXPECT_EQ(DateText(QDate(987, 3, 31), QLocale(QLocale::German)), "31 M\u00E4rz 0987");
-    for (const QLocale& locale : EveryLocale()) {
+    ForEveryLocale([&](const QLocale& locale, const NumberLocale& /*numbers*/) {
         const std::string text = DateText(day, locale);
-        EXPECT_TRUE(text.starts_with("05 ") && text.ends_with(" 2026"))
-            << locale.name().toStdString();
-    }
+        EXPECT_TRUE(text.starts_with("05 ") && text.ends_with(" 2026")) << text;
+    });
 }
 
 }  // namespace tarvix
