@@ -2,19 +2,17 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace tarvix::testing {
 
 namespace {
 
 DataRow SplitAtTabs(const std::string& line) {
-    DataRow columns{""};
-    for (const char c : line) {
-        if (c == '\t') {
-            columns.emplace_back();
-        } else {
-            columns.back() += c;
-        }
+    DataRow columns;
+    std::istringstream texts(line + '\t');
+    for (std::string text; std::getline(texts, text, '\t');) {
+        columns.push_back(text);
     }
     return columns;
 }
@@ -41,12 +39,8 @@ std::vector<DataRow> ReadDataFile(const std::string& name) {
 }
 
 std::vector<DataRow> RowsOf(const std::vector<DataRow>& rows, const std::string& key) {
-    std::vector<DataRow> found;
-    for (const DataRow& row : rows) {
-        if (row.front() == key) {
-            found.push_back(row);
-        }
-    }
+    std::vector<DataRow> found = rows;
+    std::erase_if(found, [&](const DataRow& row) { return row.front() != key; });
     return found;
 }
 

@@ -27,11 +27,9 @@ void JudgeResult(const tarvix::CalculationResult& result, const tarvix::Module1&
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    FuzzedDataProvider data(bytes, size);
-    const tarvix::NumberLocale locale = tarvix::fuzz::PickLocale(data);
+    tarvix::fuzz::FuzzedRun fuzzed(bytes, size);
+    auto& [data, locale, platform, module] = fuzzed;
     const tarvix::InputSheet sheet = tarvix::fuzz::AnySheet(data, locale);
-    tarvix::fuzz::FuzzPlatform platform;
-    tarvix::Module1 module(platform, locale);
     module.MsgText = "left over";
 
     const tarvix::CheckResult check = tarvix::CheckInputs(sheet, module.working, module);

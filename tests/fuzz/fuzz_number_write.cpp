@@ -41,8 +41,8 @@ void CheckText(std::string text, double value, int decimals, double digits,
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    FuzzedDataProvider data(bytes, size);
-    const tarvix::NumberLocale locale = tarvix::fuzz::PickLocale(data);
+    tarvix::fuzz::FuzzedRun fuzzed(bytes, size);
+    auto& [data, locale, platform, module] = fuzzed;
     const int decimals = data.ConsumeIntegralInRange(0, 9);
     const auto grouping = data.ConsumeBool() ? tarvix::Grouping::On : tarvix::Grouping::Off;
     const auto negatives =
@@ -55,8 +55,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     CheckText(tarvix::FormatNumber(number, decimals, locale, grouping, negatives), number, decimals,
               5.1e-15, locale);
 
-    tarvix::fuzz::FuzzPlatform platform;
-    const tarvix::Module1 module(platform, locale);
     for (const std::string& text :
          {module.FormatLimit(single), module.FormatResult(single), module.FormatEntry(single)}) {
         Require(tarvix::IsNumeric(text, locale) == std::isfinite(single),

@@ -24,10 +24,8 @@ bool Contains(const tarvix::ReportPage& page, std::string_view text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    FuzzedDataProvider data(bytes, size);
-    const tarvix::NumberLocale locale = tarvix::fuzz::PickLocale(data);
-    tarvix::fuzz::FuzzPlatform platform;
-    tarvix::Module1 module(platform, locale);
+    tarvix::fuzz::FuzzedRun fuzzed(bytes, size);
+    auto& [data, locale, platform, module] = fuzzed;
     const tarvix::ReportSheet sheet = tarvix::fuzz::AnyReportSheet(data, locale);
     module.CustLine1 = data.ConsumeRandomLengthString(80);
     module.CustLine2 = data.ConsumeRandomLengthString(80);

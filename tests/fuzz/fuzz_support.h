@@ -3,15 +3,15 @@
 #pragma once
 
 #include "app/shared/module1.h"
-#include "app/shared/platform.h"
 #include "numbers/number_text.h"
+#include "tests/core/locales.h"
+#include "tests/core/recording_platform.h"
 
 #include <bit>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <fuzzer/FuzzedDataProvider.h>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,17 +26,10 @@ inline void Require(bool holds, const char* property) {
 }
 
 inline NumberLocale PickLocale(FuzzedDataProvider& data) {
-    static const NumberLocale kLocales[] = {
-        {'.', ",", 3, 3, 1},             // United States
-        {',', ".", 3, 3, 1},             // Germany
-        {',', "\xE2\x80\xAF", 3, 3, 1},  // France: narrow no-break space
-        {'.', "\xE2\x80\x99", 3, 3, 1},  // Switzerland: right single quotation mark
-        {'.', ",", 3, 2, 1},             // India
-        {',', ".", 3, 3, 2},             // Spain
-        {'.', "\xD9\xAC", 3, 3, 1},      // Arabic thousands separator
-        {'.', "", 3, 3, 1},              // no grouping
-    };
-    return data.PickValueInArray(kLocales);
+    using namespace testing;
+    static const NumberLocale kArabic{'.', "\xD9\xAC", 3, 3, 1};
+    return data.PickValueInArray(
+        {kUnitedStates, kGermany, kFrance, kSwitzerland, kIndia, kSpain, kArabic, kUngrouped});
 }
 
 // Any bit pattern of a single or a double.
@@ -73,19 +66,14 @@ inline std::string AnyText(FuzzedDataProvider& data, const NumberLocale& locale)
     }
 }
 
-// Thrown where the program would end.
-struct ProgramEnded {};
+// What every calculation has at hand.
+struct FuzzedRun {
+    FuzzedDataProvider data;
+    NumberLocale locale = PickLocale(data);
+    testing::RecordingPlatform platform;  // answers every box with OK
+    Module1 module{platform, locale};
 
-// Answers every box with OK.
-class FuzzPlatform : public Platform {
-  public:
-    int ShowMessageBox(const MessageBoxRequest& /*request*/) override { return kAnswerOk; }
-    std::optional<std::string> ShowInputBox(const InputBoxRequest& request) override {
-        return request.defaultAnswer;
-    }
-    int CurrentSecond() override { return 0; }
-    void SleepUntilNextSecond() override {}
-    [[noreturn]] void EndProgram(int /*exitStatus*/) override { throw ProgramEnded(); }
+    FuzzedRun(const std::uint8_t* bytes, std::size_t size) : data(bytes, size) {}
 };
 
 }  // namespace tarvix::fuzz

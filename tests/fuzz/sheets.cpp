@@ -16,21 +16,15 @@ const auto& Pick(FuzzedDataProvider& data, const List& list) {
 }  // namespace
 
 InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
-    const auto text = [&] { return EnteredNumber(AnyText(data, locale), locale); };
     InputSheet sheet;
     sheet.fluid = data.PickValueInArray({Fluid::Liquid, Fluid::Steam, Fluid::Gas});
     sheet.mode =
         data.PickValueInArray({SolveFor::Beta, SolveFor::DiffPressure, SolveFor::FlowRate});
-    sheet.flow = text();
-    sheet.deltaP = text();
-    sheet.beta = text();
-    sheet.pf = text();
-    sheet.tf = text();
-    sheet.density = text();
-    sheet.sgb = text();
-    sheet.sgf = text();
-    sheet.gasSGb = text();
-    sheet.zf = text();
+    for (EnteredNumber* entry :
+         {&sheet.flow, &sheet.deltaP, &sheet.beta, &sheet.pf, &sheet.tf, &sheet.density, &sheet.sgb,
+          &sheet.sgf, &sheet.gasSGb, &sheet.zf}) {
+        *entry = EnteredNumber(AnyText(data, locale), locale);
+    }
     const FlowUnit& flowUnit = Pick(data, FlowUnitsOf(sheet.fluid).units);
     sheet.flowUnit = {flowUnit.text, flowUnit.factor};
     sheet.flowKind = flowUnit.kind;
@@ -45,10 +39,10 @@ InputSheet AnySheet(FuzzedDataProvider& data, const NumberLocale& locale) {
             ? std::string(Pick(data, SchedulesOf(Pick(data, kNominalSizes).value)).insideDiameter)
             : FormatNumber(AnySingle(data), 3, locale, Grouping::Off),
         locale};
-    sheet.sgCalculated = data.ConsumeBool();
-    sheet.steamFromTable = data.ConsumeBool();
-    sheet.absolutePressure = data.ConsumeBool();
-    sheet.degC = data.ConsumeBool();
+    for (bool* choice :
+         {&sheet.sgCalculated, &sheet.steamFromTable, &sheet.absolutePressure, &sheet.degC}) {
+        *choice = data.ConsumeBool();
+    }
     sheet.compCorrection =
         data.PickValueInArray({CompCorrection::None, CompCorrection::Density, CompCorrection::Zf});
     sheet.sgbVisible = data.ConsumeBool();

@@ -30,10 +30,11 @@ TEST_P(ReportPageRow, StandsOnThePage) {
 }
 
 Rows FromTheTop(const char* fluid, const Rows& values) {
+    const std::string title = "Orifice calculation for Bore size - Flange Taps - ";
     Rows rows{"",
               "",
               "",
-              std::string("Orifice calculation for Bore size - Flange Taps - ") + fluid,
+              title + fluid,
               "",
               "Customer: Northfield Refinery",
               "          Unit 4, Crude Distillation",
@@ -45,6 +46,10 @@ Rows FromTheTop(const char* fluid, const Rows& values) {
 }
 
 void Unchanged(ReportSheet& /*sheet*/, Module1& /*module*/) {}
+template <SolveFor mode>
+void Solved(ReportSheet& sheet, Module1& /*module*/) {
+    sheet.inputs.mode = mode;
+}
 
 // clang-format off
 const PageRow kWholePages[] = {
@@ -82,19 +87,13 @@ const PageRow kWholePages[] = {
 };
 
 const PageRow kTitles[] = {
-    {"LiquidFlowRate", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::FlowRate; },
-     {"Orifice calculation for Flow Rate - Flange Taps - Liquid"}},
-    {"LiquidDiffPressure", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::DiffPressure; },
-     {"Orifice calculation for Pressure Differential - Flange Taps - Liquid"}},
-    {"SteamFlowRate", SteamSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::FlowRate; },
-     {"Orifice calculation for Flow Rate - Flange Taps - Steam"}},
-    {"GasDiffPressure", GasSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::DiffPressure; },
-     {"Orifice calculation for Pressure Differential - Flange Taps - Gas"}},
+    {"LiquidFlowRate", LiquidSheet, Solved<SolveFor::FlowRate>, {"Orifice calculation for Flow Rate - Flange Taps - Liquid"}},
+    {"LiquidDiffPressure", LiquidSheet, Solved<SolveFor::DiffPressure>, {"Orifice calculation for Pressure Differential - Flange Taps - Liquid"}},
+    {"SteamFlowRate", SteamSheet, Solved<SolveFor::FlowRate>, {"Orifice calculation for Flow Rate - Flange Taps - Steam"}},
+    {"GasDiffPressure", GasSheet, Solved<SolveFor::DiffPressure>, {"Orifice calculation for Pressure Differential - Flange Taps - Gas"}},
     // Bore and beta are called approximate in every mode.
-    {"SolvedFlowRate", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::FlowRate; },
-     {"Bore Diameter (approximate)        1.098 Inches", "Beta (approximate)               0.53123"}},
-    {"SolvedDiffPressure", LiquidSheet, [](ReportSheet& s, Module1&) { s.inputs.mode = SolveFor::DiffPressure; },
-     {"Bore Diameter (approximate)        1.098 Inches", "Beta (approximate)               0.53123"}},
+    {"SolvedFlowRate", LiquidSheet, Solved<SolveFor::FlowRate>, {"Bore Diameter (approximate)        1.098 Inches", "Beta (approximate)               0.53123"}},
+    {"SolvedDiffPressure", LiquidSheet, Solved<SolveFor::DiffPressure>, {"Bore Diameter (approximate)        1.098 Inches", "Beta (approximate)               0.53123"}},
 };
 
 const PageRow kCustomers[] = {
@@ -190,8 +189,7 @@ const PageRow kWarnings[] = {
      {"Beta (approximate)               0.53123", "",
       "Warning: Orifice plate deflection should be checked.", kEnd}},
     {"Compressibility", GasSheet, [](ReportSheet& s, Module1&) { s.zfCompWarning = CompressibilityWarning::May; },
-     {"Beta (approximate)               0.25000",
-      "",
+     {"Beta (approximate)               0.25000", "",
       "  **************************************************************",
       "  * WARNING: A compressibility correction factor has not been  *",
       "  *          entered.  At this pressure, no compressibility    *",
@@ -203,8 +201,7 @@ const PageRow kWarnings[] = {
     {"CompressibilityOfALiquid", LiquidSheet, [](ReportSheet& s, Module1&) { s.zfCompWarning = CompressibilityWarning::Will; },
      {"Beta (approximate)               0.53123", kEnd}},
     {"EveryWarning", FullestSheet, Unchanged,
-     {"Beta (approximate)               0.25000",
-      "",
+     {"Beta (approximate)               0.25000", "",
       "Warning: Beta value exceeds standard range (0.15 to 0.67).",
       "Warning: Orifice plate deflection should be checked.",
       "",
@@ -244,16 +241,13 @@ TEST_F(ReportPageTest, NumbersAsTheUsersSystemWritesThem) {
     EXPECT_TRUE(HasRow(page, "     Zf                          1,00000 (assumed)"));
 }
 
-TEST_F(ReportPageTest, NoModeSelectedIsFatal) {
-    ReportSheet sheet = LiquidSheet();
-    sheet.inputs.mode.reset();
-    ExpectFatal(sheet, "Calculation type not selected");
-}
-
-TEST_F(ReportPageTest, UnknownPipeUnitIsFatal) {
+TEST_F(ReportPageTest, WithoutAModeOrAKnownPipeUnitTheProgramEnds) {
     ReportSheet sheet = LiquidSheet();
     sheet.pipeIdUnit = "Feet";
     ExpectFatal(sheet, "Unrecognized pipe ID unit for 'User Entered' pipe ID");
+    sheet = LiquidSheet();
+    sheet.inputs.mode.reset();
+    ExpectFatal(sheet, "Calculation type not selected");
 }
 
 TEST_F(ReportPageTest, CustomerLinesAreNotChangedByPrinting) {

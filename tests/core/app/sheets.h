@@ -28,13 +28,13 @@ SelectedUnit UnitNamed(const Units& units, std::string_view text) {
 }
 
 inline void SelectFlow(InputSheet& sheet, std::string_view flowUnit, std::string_view timeUnit) {
-    const auto units = FlowUnitsOf(sheet.fluid).units;
-    sheet.flowUnit = UnitNamed(units, flowUnit);
-    for (const FlowUnit& unit : units) {
+    for (const FlowUnit& unit : FlowUnitsOf(sheet.fluid).units) {
         if (unit.text == flowUnit) {
             sheet.flowKind = unit.kind;
+            sheet.flowUnit = {unit.text, unit.factor};
         }
     }
+    EXPECT_EQ(sheet.flowUnit.text, flowUnit) << "no such unit";
     sheet.timeUnit = UnitNamed(kTimeUnits, timeUnit);
 }
 
