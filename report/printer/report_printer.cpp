@@ -198,7 +198,6 @@ void PrintReport(QWidget& owner, Platform& platform, const ReportPage& page, con
     // The toolkit starts with A4, whatever paper the printer holds.
     printer.setPageSize(PaperOf(defaultPrinter));
     if (defaultPrinter.isNull()) {
-        printer.setDocName(JobName(page));
         printer.setOutputFileName(FreeFileName(FolderOfFiles(), page.name));
         if (!ChoosePrinter(printer, owner)) {
             return;

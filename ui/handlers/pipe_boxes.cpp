@@ -11,12 +11,6 @@ namespace tarvix {
 
 namespace {
 
-std::string WithoutBlanks(const std::string& text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 const Unit& PipeUnit(const FormContext& context) {
     const Unit* unit =
         SelectedEntry(context, context.state.PipeIDUnitTable, *context.form.cboPipeIDUnit);
@@ -32,11 +26,12 @@ void AskUserEnteredPipe(const FormContext& context) {
     DropDownList& list = *context.form.cboPipeID;
     EnteredNumber& diameter = context.state.PipeIDTable[static_cast<size_t>(list.ListIndex())];
 
-    const std::string answer = WithoutBlanks(
+    const std::string answer =
         module.platform()
             .ShowInputBox({"Enter a Pipe ID in " + context.form.cboPipeIDUnit->Text() + ".",
                            "Pipe ID", diameter.text()})
-            .value_or(""));
+            .value_or("");
+    // Blanks around it do not count.
     const auto value = TextToDouble(answer, module.locale());
     if (!value || !(*value > 0)) {
         module.MsgText = "The pipe ID must be greater than 0.";

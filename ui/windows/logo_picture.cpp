@@ -30,11 +30,11 @@ QRect DrawingOf(const QImage& picture) {
 }  // namespace
 
 Logo::Logo(std::string path, Platform& platform) : path_(std::move(path)), platform_(platform) {
+    // Of a file that isn't there nothing is read, which is no picture.
     QFile file(QString::fromStdString(path_));
-    if (!file.open(QIODevice::ReadOnly)) {
-        NotFound();
+    if (file.open(QIODevice::ReadOnly)) {
+        file_ = file.readAll();
     }
-    file_ = file.readAll();
 }
 
 QPixmap Logo::Pixmap(const QSize& box, qreal devicePixelRatio) const {
