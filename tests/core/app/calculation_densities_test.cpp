@@ -23,9 +23,6 @@ class DensitiesTest : public SheetTest {
     const SelectedUnit kKilogram = kDensityUnits[1];
 };
 
-// FlowingGravityText
-// --------------------------------------------------------------------------------
-
 TEST_F(DensitiesTest, TheGravityOfADensity) {
     EXPECT_EQ(FlowingGravityText("62.366", kPound, kUnitedStates), "1.0000");
     EXPECT_EQ(FlowingGravityText("50", kPound, kUnitedStates), "0.8017");
@@ -63,8 +60,6 @@ TEST_F(DensitiesTest, TheDensityFactorIsTakenInDoublePrecision) {
     }
     EXPECT_GT(differing, 10);
 }
-
-// SteamDensityTextOf ------------------------------------------------------------------------------
 
 struct SteamDensityRow : NamedRow {
     const char* pressure;
@@ -141,8 +136,6 @@ TEST_F(DensitiesTest, SteamDensityIsWrittenInTheLocale) {
               Above("3.000 PSI (gauge)"));
 }
 
-// CheckZfComp -------------------------------------------------------------------------------------
-
 struct WarningRow : NamedRow {
     const char* pressure;
     const char* pressUnit;
@@ -193,8 +186,6 @@ const WarningRow kWarningRows[] = {
 // clang-format on
 
 INSTANTIATE_TEST_SUITE_P(Warnings, ZfCompWarning, ::testing::ValuesIn(kWarningRows), kRowName);
-
-// CheckPlateThickness -----------------------------------------------------------------------------
 
 const SelectedUnit kInchesOfWater = kDeltaPUnits[0];
 

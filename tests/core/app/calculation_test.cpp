@@ -38,8 +38,6 @@ class CalculationTest : public SheetTest {
 constexpr auto kFluidSheets = {LiquidSheet, SteamSheet, GasSheet};
 constexpr auto kModes = {SolveFor::FlowRate, SolveFor::DiffPressure, SolveFor::Beta};
 
-// Results in every mode ---------------------------------------------------------------------------
-
 struct ResultRow : NamedRow {
     InputSheet (*sheet)(SolveFor mode);
     void (*change)(InputSheet& sheet);
@@ -155,8 +153,6 @@ TEST_F(CalculationTest, NumbersAreReadAndWrittenInTheLocale) {
     EXPECT_EQ(Solved(sheet, german).text, "0,50000");
 }
 
-// Messages ----------------------------------------------------------------------------------------
-
 TEST_F(CalculationTest, ALiquidFlowTooHighForThePipe) {
     InputSheet sheet = LiquidSheet(SolveFor::Beta);
     sheet.flow = "100000";
@@ -188,8 +184,6 @@ TEST_F(CalculationTest, AMissingCalculatedGravityGivesNothing) {
     }
 }
 
-// The checks of a recalculation -------------------------------------------------------------------
-
 TEST_F(CalculationTest, EachFluidHasItsOwnCheck) {
     InputSheet sheet = LiquidSheet();
     sheet.sgf = "";
@@ -213,8 +207,6 @@ TEST_F(CalculationTest, TheOrificeCheckFollowsAGoodFluidCheckOnly) {
     sheet.deltaP = "";
     ExpectBad(sheet, "Incomplete fluid data (Flowing Specific Gravity).");
 }
-
-// Internal inconsistencies ------------------------------------------------------------------------
 
 TEST_F(CalculationTest, AnUnknownFluidEndsTheProgram) {
     for (const char* fluid : {"", "X", "l", "s", "g", "LS"}) {

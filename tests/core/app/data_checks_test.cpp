@@ -220,8 +220,6 @@ TEST_P(DataCheck, WhatIsNotRequiredIsNotLookedAt) {
 
 INSTANTIATE_TEST_SUITE_P(Runs, DataCheck, ::testing::ValuesIn(kCheckRows), kRowName);
 
-// Pressures ---------------------------------------------------------------------------------------
-
 struct PressureRow : NamedRow {
     const char* unit;
     const char* pressure;
@@ -299,8 +297,6 @@ TEST_F(DataChecksTest, TheLimitIsWrittenInTheLocale) {
     EXPECT_EQ(DataChkSteam(sheet, {}, german).message,
               "Operating Pressure must be greater than -101.353,0000 Pa.");
 }
-
-// What is particular to one check -----------------------------------------------------------------
 
 InputSheet SteamWith(const char* pressure, const char* density) {
     InputSheet sheet = SteamSheet();

@@ -39,8 +39,6 @@ TEST_F(Module1Test, SharedVariablesStartEmptyOrZero) {
     EXPECT_EQ(&american.platform(), &platform);
 }
 
-// TempToDegF --------------------------------------------------------------------------------------
-
 TEST_F(Module1Test, CelsiusIsConvertedAndFahrenheitStays) {
     for (const float value : {-459.67F, -40.0F, 0.0F, 60.0F, 212.0F, 1e30F}) {
         EXPECT_EQ(american.TempToDegF(value, "F"), value);
@@ -63,8 +61,6 @@ TEST_F(Module1Test, AnUnknownTemperatureUnitEndsTheProgram) {
                                       std::string(unit) + " not recognized."));
     }
 }
-
-// The number scales -------------------------------------------------------------------------------
 
 struct ScaleRow : NamedRow {
     float value;
@@ -146,8 +142,6 @@ TEST_F(Module1Test, TheScalesFollowTheLocale) {
     EXPECT_EQ(Module1(platform, kIndia).FormatResult(1234567.0F), "12,34,567");
 }
 
-// NumericKeyFilter --------------------------------------------------------------------------------
-
 TEST_F(Module1Test, TheKeyFilterKeepsOnlyKeysOfNumbers) {
     const FieldSelection empty;
     for (int key = -70000; key <= 70000; ++key) {
@@ -216,8 +210,6 @@ const KeyRow kKeyRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Module1, KeyFilter, ::testing::ValuesIn(kKeyRows), kRowName);
 
-// LocalDecimal ------------------------------------------------------------------------------------
-
 TEST_F(Module1Test, LocalDecimalTurnsTheFirstPointIntoAComma) {
     EXPECT_EQ(german.LocalDecimal("0.5"), "0,5");
     EXPECT_EQ(german.LocalDecimal("1.000.5"), "1,000.5");
@@ -233,8 +225,6 @@ TEST_F(Module1Test, LocalDecimalLeavesTheTextWhereThePointIsTheSeparator) {
     EXPECT_EQ(american.LocalDecimal("1.000.5"), "1.000.5");
     EXPECT_EQ(Module1(platform, kSwitzerland).LocalDecimal("14.7"), "14.7");
 }
-
-// Ends of the program -----------------------------------------------------------------------------
 
 TEST_F(Module1Test, AFatalErrorShowsItsBoxAndEndsTheProgram) {
     american.MsgText = "Orifice type not specified";

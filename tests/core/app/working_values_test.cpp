@@ -144,8 +144,6 @@ TEST_F(WorkingValuesTest, OfTheRunAreNone) {
     ExpectStored(check, LiquidSheet(SolveFor::Beta), kBefore);
 }
 
-// Standard range of beta --------------------------------------------------------------------------
-
 TEST(BetaRangeTest, TheBoundsAreInsideAndSingles) {
     const auto outside = [](float beta) {
         const std::string text = FormatNumber(double{beta}, 9, kUnitedStates, Grouping::Off);

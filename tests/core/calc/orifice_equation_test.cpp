@@ -70,8 +70,6 @@ TEST(OrificeEquationTest, ExpansionFactorTurnsNegativeAtTooHighADifferentialPres
     EXPECT_TRUE(std::isnan(ExpansionFactor(0.5F, 0.0F, 0.0F)));
 }
 
-// Flow limits -------------------------------------------------------------------------------------
-
 TEST(OrificeEquationTest, FlowWithinItsLimits) {
     ExpectValue(FlowWithinLimits(142.28693F), 142.28693F);
     ExpectValue(FlowWithinLimits(999999999.0F), 999999999.0F);
@@ -83,8 +81,6 @@ TEST(OrificeEquationTest, FlowWithinItsLimits) {
         ExpectNothing(FlowWithinLimits(flow));
     }
 }
-
-// Solved beta -------------------------------------------------------------------------------------
 
 TEST(OrificeEquationTest, ASolvedBetaHasFiveDecimals) {
     ExpectValue(BetaOfIteration(0.61234F), 0.61234F);

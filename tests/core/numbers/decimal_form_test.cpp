@@ -15,8 +15,6 @@
 namespace tarvix::testing {
 namespace {
 
-// The digits ------------------------------------------------------------------------------------
-
 // The digits another way: written out by the C library, which rounds exactly, and rounded as text.
 std::string WrittenDigits(double magnitude, int significantDigits, int decimals) {
     std::array<char, 400> text{};
@@ -71,8 +69,6 @@ TEST(DecimalDigitsTest, ATieAtTheSeventhDigitGoesToTheEvenOne) {
     EXPECT_EQ(DecimalDigits(123456.75F, 1), "1234568");
 }
 
-// The value ---------------------------------------------------------------------------------------
-
 TEST(DecimalValueTest, IsTheDoubleNearestToTheSevenDigits) {
     EXPECT_EQ(DecimalValue(0.06242798F), 0.06242798);
     EXPECT_EQ(DecimalValue(-19.04999924F), -19.05);
@@ -89,16 +85,12 @@ TEST(DecimalValueTest, IsTheDoubleNearestToTheSevenDigits) {
     }
 }
 
-// Plain form, beyond what may be entered --------------------------------------------------------
-
 TEST(PlainToDoubleTest, TakesWhatADoubleHolds) {
     EXPECT_EQ(PlainToDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());
     EXPECT_EQ(PlainToDouble("4.9e-324"), std::numeric_limits<double>::denorm_min());
     EXPECT_EQ(PlainToDouble("1e309"), HUGE_VAL);
     EXPECT_EQ(PlainToDouble(std::string(400, '9')), HUGE_VAL);
 }
-
-// Round -------------------------------------------------------------------------------------------
 
 TEST(DecimalFormRound, TakesHalvesToEven) {
     struct Row {

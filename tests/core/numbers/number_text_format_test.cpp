@@ -13,8 +13,6 @@
 namespace tarvix::testing {
 namespace {
 
-// Values ------------------------------------------------------------------------------------------
-
 struct TextRow : NamedRow {
     std::variant<float, double> value;
     int decimals;
@@ -117,8 +115,6 @@ TEST(NumberTextFormat, TheLargestDoubleHas309Digits) {
     EXPECT_EQ(text, "179769313486232" + std::string(294, '0'));
 }
 
-// Locales -----------------------------------------------------------------------------------------
-
 struct LocaleRow : NamedRow {
     const NumberLocale* locale;
     float value;
@@ -174,8 +170,6 @@ TEST(NumberTextFormat, NegativesStandInParenthesesOnRequest) {
     EXPECT_EQ(inParentheses(-0.001F), "0.00");
     EXPECT_EQ(FormatNumber(-0.5, 5, kGermany, Grouping::On, Negatives::Parentheses), "(0,50000)");
 }
-
-// What is written is read back --------------------------------------------------------------------
 
 TEST(NumberTextFormat, EveryLocaleReadsWhatItWrites) {
     const NumberLocale* const locales[] = {&kUnitedStates, &kGermany, &kFrance,   &kSwitzerland,

@@ -15,8 +15,6 @@ const Unit& kCentimeter = kLengthUnits[2];
 const Unit kFoot{"Feet", 12.0F};
 const Unit kLowerCase{"millimeters", 0.03937008F};
 
-// Nominal sizes -----------------------------------------------------------------------------------
-
 // Sizes divided by the factors, whose seven digits show: 2.5 inches are 6.349999 cm, not 6.35.
 TEST(PipeIdTextsTest, ANominalSizeInEveryUnit) {
     struct Size {
@@ -44,8 +42,6 @@ TEST(PipeIdTextsTest, NominalSizesFollowTheLocaleAndAreNotGrouped) {
     EXPECT_EQ(NominalSizeText("42", 42.0F, kMillimeter, kGermany), "1066,8");
 }
 
-// Schedules ---------------------------------------------------------------------------------------
-
 TEST(PipeIdTextsTest, AScheduleInEveryUnit) {
     const auto american = [](const char* diameter, const char* name, const Unit& unit) {
         return ScheduleText(diameter, name, unit, kUnitedStates);
@@ -72,8 +68,6 @@ TEST(PipeIdTextsTest, TheLongestTextsOfBothLists) {
     EXPECT_EQ(LongestScheduleText(), "10.020\"  (254.51 mm)  Sch 40, STD, Sch 40S");
     EXPECT_EQ(LongestNominalSizeText(), "1066.8");
 }
-
-// User-entered pipes ------------------------------------------------------------------------------
 
 TEST(PipeIdTextsTest, TheTextsOfTheUserEnteredEntry) {
     EXPECT_EQ(kOtherUserEntered, "Other (User Entered)");
@@ -123,8 +117,6 @@ TEST(PipeIdTextsTest, AnAnswerInAnyOtherUnitHasNoText) {
     EXPECT_FALSE(UserEnteredPipeOf(5.0, kFoot, kUnitedStates).has_value());
     EXPECT_FALSE(UserEnteredPipeOf(5.0, kLowerCase, kUnitedStates).has_value());
 }
-
-// Pipe diameter in a unit -------------------------------------------------------------------------
 
 TEST(PipeIdTextsTest, ThePipeDiameterInInchesIsThatOfTheTable) {
     EXPECT_EQ(PipeDiameterInUnit(kInches, "2.067", "2.067\"  (52.50 mm)  XXS"), "2.067");
