@@ -17,7 +17,9 @@ import random
 import subprocess
 import sys
 import tempfile
+from bisect import bisect_left
 from concurrent.futures import ThreadPoolExecutor
+from itertools import accumulate
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
@@ -178,17 +180,11 @@ class Comparer:
     def minimised(self, actions, found):
         """Delta debugging: the fewest actions that still differ in the same thing."""
         head, body = actions[:1], actions[1:]
-        executed, count = 0, 0
-        for action in body:  # nothing after the difference matters
-            if executed >= found.where:
-                break
-            executed += len(action) + 1
-            count += 1
-        body = body[:count + 1]
+        executed = list(accumulate(len(action) + 1 for action in body))
+        body = body[:bisect_left(executed, found.where) + 2]  # what comes later does not matter
         size = max(len(body) // 2, 1)
         while True:
-            shrunk = False
-            start = 0
+            shrunk, start = False, 0
             while start < len(body):
                 candidate = body[:start] + body[start + size:]
                 difference = self.difference_of(head + candidate)

@@ -175,8 +175,7 @@ class Generator:
 
     def keys(self):
         window = self.model.window
-        focus = window.focus
-        if focus not in self.usable(FIELDS):
+        if window.focus not in self.usable(FIELDS):
             fields = self.open_fields()
             if not fields:
                 return
@@ -200,7 +199,7 @@ class Generator:
 
     def pick_pipe(self):
         window = self.model.window
-        first = 0 if self.model.window.locale.decimal == "." or self.random.random() < 0.02 else 6
+        first = 0 if window.locale.decimal == "." or self.random.random() < 0.02 else 6
         sizes = list(range(first, len(window["cboNomSize"].items)))
         if first:
             sizes += [2, 4]
@@ -273,9 +272,6 @@ class Generator:
     def leave(self):
         self.do("answer cancel", self.random.choice(("click cmdExit", "click mnuExit")))
 
-    def about(self):
-        self.do("click mnuAbout")
-
     def focus_anything(self):
         names = self.usable(list(FIELDS) + list(LISTS) + ALL_OPTIONS)
         self.do("focus " + self.random.choice(names))
@@ -289,9 +285,8 @@ class Generator:
         locked = [name for name in FIELDS if window[name].locked]
         name = random.choice(hidden + locked)
         if name in FIELDS:
-            verbs = ["type", "paste"] + ([] if name in locked else ["focus"])
-            verb = random.choice(verbs)
-            self.do(f"{verb} {name}" + ("" if verb == "focus" else " 5"))
+            self.do(random.choice([f"type {name} 5", f"paste {name} 5"]
+                                  + ([] if name in locked else [f"focus {name}"])))
         elif name in LISTS:
             self.do(f"choose {name} #0")
         else:
@@ -306,7 +301,7 @@ class Generator:
         (click_mode, 6), (round_trip, 3), (solve_for_limit, 1), (complete, 16),
         (pick_pipe, 6), (pick_schedule, 4), (user_pipe, 3),
         (keys, 6), (click_fluid, 2), (fill_in, 3), (print_page, 3), (leave, 1),
-        (about, 1), (focus_anything, 3), (tab, 2), (impossible, 2), (no_such_entry, 1),
+        (lambda self: self.do("click mnuAbout"), 1), (focus_anything, 3), (tab, 2), (impossible, 2), (no_such_entry, 1),
     )
 
     def step(self):

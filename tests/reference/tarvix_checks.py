@@ -80,17 +80,14 @@ class Calculator(Controls):
 
     def _judge_edited(self, fields, rules, non_numeric, not_positive):
         """The field that has the focus. `rules` holds the fields with a test of their own."""
-        for field, name in fields:
-            if not self.active(field):
-                continue
-            if self.text(field) == "":
-                return ""
-            if not self.numeric(field):
-                return non_numeric(name)
-            if field in rules:
-                return rules[field](name, True)
-            return "" if self.value(field) > 0.0 else not_positive(name)
-        return ""
+        field, name = next((pair for pair in fields if self.active(pair[0])), ("", ""))
+        if not field or self.text(field) == "":
+            return ""
+        if not self.numeric(field):
+            return non_numeric(name)
+        if field in rules:
+            return rules[field](name, True)
+        return "" if self.value(field) > 0.0 else not_positive(name)
 
     def _fluid_check(self, fields, required, rules):
         """The three stages over (field, name) pairs; the message or ""."""
@@ -106,11 +103,9 @@ class Calculator(Controls):
         wrong = [name for field, name in asked if not self.numeric(field)]
         if wrong:
             return "Non-Numeric fluid data (" + ", ".join(wrong) + ")."
-        for field, name in asked:
-            if field in rules:
-                message = rules[field](name, False)
-                if message:
-                    return message
+        for message in (rules[field](name, False) for field, name in asked if field in rules):
+            if message:
+                return message
         low = [name for field, name in asked if field not in rules and self.value(field) <= 0.0]
         return ", ".join(low) + " must be greater than 0." if low else ""
 
@@ -191,14 +186,12 @@ class Calculator(Controls):
         if self.message:
             return False
         wrong = [name for field, name in fields if not self.numeric(field)]
+        low = [name for field, name in fields if self.value(field) <= 0.0]
         if wrong:
             self.message = "Incomplete or Non-Numeric fluid data (" + ", ".join(wrong) + ")."
-            return False
-        low = [name for field, name in fields if self.value(field) <= 0.0]
-        if low:
+        elif low:
             self.message = "Fluid data (" + ", ".join(low) + ") must be greater than 0."
-            return False
-        return True
+        return not self.message
 
     # --- the calculation -------------------------------------------------------------------------
 
@@ -252,13 +245,12 @@ class Calculator(Controls):
             pressure = single(pressure + ATMOSPHERE)
         if self.fluid == "S":
             return solve_steam(meter, pressure, self.oper_density)
-        choice = ("Density" if self.on("optCompDensity")
-                  else "Zf" if self.on("optCompZf") else "None")
-        density = self.oper_density if choice == "Density" else None
-        zf = self.user_zf if choice == "Zf" else None
-        gas = gas_state(self.flow_kind(), choice, pressure, ATMOSPHERE, self.flow_temp_f, 60.0,
-                        self.base_sg, density, zf)
-        return solve_gas(meter, gas)
+        choice, density, zf = (
+            ("Density", self.oper_density, None) if self.on("optCompDensity") else
+            ("Zf", None, self.user_zf) if self.on("optCompZf") else ("None", None, None))
+        return solve_gas(meter, gas_state(
+            self.flow_kind(), choice, pressure, ATMOSPHERE, self.flow_temp_f, 60.0, self.base_sg,
+            density, zf))
 
     # --- densities -------------------------------------------------------------------------------
 
@@ -269,8 +261,7 @@ class Calculator(Controls):
             return
         factor = read_double(local_decimal(self.table_text("cboDensityUnit"), self.locale),
                              self.locale)
-        density = single(factor * value)
-        gravity = single(density / single(62.366))
+        gravity = single(single(factor * value) / single(62.366))
         self.set_text("txtSGf", format_number(gravity, 4, self.locale, True))
 
     def CalcSteamDensity(self):

@@ -99,9 +99,8 @@ class Model:
             getattr(self.window, name + "_Click", lambda: None)()
 
     def do_focus(self, rest):
-        name = rest.strip()
-        self._usable(name)
-        self._focus(name)
+        self._usable(rest.strip())
+        self._focus(rest.strip())
 
     def do_type(self, rest):
         name, _, text = rest.partition(" ")
@@ -155,10 +154,9 @@ class Model:
 
     def state(self):
         window = self.window
-        report = {
-            "controls": {name: window.state_of(name) for name in window.all},
+        report = self.with_state_again({
             "boxes": window.boxes, "calculations": window.calculations,
-            "pages": len(window.pages), "focus": window.focus}
+            "pages": len(window.pages)})
         if window.pages:
             report["page_lines"] = window.pages
         window.boxes, window.calculations, window.pages = [], 0, []

@@ -55,12 +55,8 @@ class Page:
                                                         is_double=True)
         if shown.startswith("-"):
             shown = "(" + shown[1:] + ")"
-        self.line_of(label, shown, unit)
-
-    def line_of(self, label, shown, unit):
-        blanks = max(VALUE_COLUMN - len(label) - len(shown), 0)
-        if len(label) + len(shown) > VALUE_COLUMN:
-            blanks = 1
+        room = VALUE_COLUMN - len(label) - len(shown)
+        blanks = room if room >= 0 else 1
         self.lines.append(label + " " * blanks + shown + (" " + unit if unit else ""))
 
     def unit(self, name):
@@ -102,9 +98,8 @@ class Page:
 
     def steam(self):
         self.value("Operating Density", "txtDensity", 3, self.unit("cboDensityUnit"))
-        state = "Superheated"
-        if self.window.on("optSaturated"):
-            state = "Saturated" + (" - from ASME table" if self.window.on("optSteamTbl") else "")
+        state = ("Superheated" if not self.window.on("optSaturated") else
+                 "Saturated - from ASME table" if self.window.on("optSteamTbl") else "Saturated")
         self.lines.append(" " * 41 + f"({state})")
         self.pressure()
 
