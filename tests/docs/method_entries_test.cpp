@@ -22,31 +22,15 @@ std::string MessageOf(const InputSheet& sheet) {
 }
 
 // A run of which nothing has been entered yet.
-InputSheet EmptyRun(Fluid fluid) {
+InputSheet EmptyRun(Fluid fluid, CompCorrection correction = CompCorrection::None) {
     InputSheet sheet;
     sheet.fluid = fluid;
     sheet.mode = SolveFor::FlowRate;
     sheet.flowKind = FlowKind::Volume;
     sheet.pressUnit = kPressUnits[0];
-    return sheet;
-}
-
-InputSheet EmptyLiquid() {
-    InputSheet sheet = EmptyRun(Fluid::Liquid);
-    sheet.sgbVisible = true;
-    return sheet;
-}
-
-InputSheet EmptyGas() {
-    InputSheet sheet = EmptyRun(Fluid::Gas);
-    sheet.gasSGbVisible = true;
-    return sheet;
-}
-
-InputSheet EmptyGasWith(CompCorrection correction) {
-    InputSheet sheet = EmptyGas();
+    sheet.sgbVisible = sheet.gasSGbVisible = true;
     sheet.compCorrection = correction;
-    sheet.zfVisible = true;
+    sheet.zfVisible = correction != CompCorrection::None;
     return sheet;
 }
 
@@ -60,16 +44,17 @@ TEST(MethodEntries, RequiredEntries) {
         EXPECT_EQ("Incomplete fluid data (" + table.Text(run) + ").", MessageOf(empty)) << run;
         ++rows;
     };
-    InputSheet liquid = EmptyLiquid();
+    InputSheet liquid = EmptyRun(Fluid::Liquid);
     expect("Liquid", liquid);
     liquid.sgCalculated = true;
     expect("Liquid, gravity from density", liquid);
     // The window hides the base gravity of a mass flow.
-    expect("Liquid, mass flow", EmptyRun(Fluid::Liquid));
+    liquid.sgCalculated = liquid.sgbVisible = false;
+    expect("Liquid, mass flow", liquid);
 
-    expect("Gas", EmptyGas());
-    expect("Gas, correction by Zf", EmptyGasWith(CompCorrection::Zf));
-    InputSheet gas = EmptyGasWith(CompCorrection::Density);
+    expect("Gas", EmptyRun(Fluid::Gas));
+    expect("Gas, correction by Zf", EmptyRun(Fluid::Gas, CompCorrection::Zf));
+    InputSheet gas = EmptyRun(Fluid::Gas, CompCorrection::Density);
     expect("Gas, correction by density", gas);
     gas.gasSGbVisible = false;
     expect("Gas, correction by density, mass flow", gas);

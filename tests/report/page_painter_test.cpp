@@ -34,10 +34,11 @@ TEST_P(PaperTest, FullestPageStaysInsideTheMargins) {
     EXPECT_NEAR(page.height, paper_.height, 0.5);
     ASSERT_GT(page.words.size(), 150U);
     for (const PdfWord& word : page.words) {
-        EXPECT_GE(word.left, paper_.left - 0.1) << word.text.toStdString();
-        EXPECT_GE(word.top, paper_.top - 0.1) << word.text.toStdString();
-        EXPECT_LE(word.right, paper_.width - paper_.left + 0.1) << word.text.toStdString();
-        EXPECT_LE(word.bottom, paper_.height - paper_.top + 0.1) << word.text.toStdString();
+        SCOPED_TRACE(word.text.toStdString());
+        EXPECT_GE(word.left, paper_.left - 0.1);
+        EXPECT_GE(word.top, paper_.top - 0.1);
+        EXPECT_LE(word.right, paper_.width - paper_.left + 0.1);
+        EXPECT_LE(word.bottom, paper_.height - paper_.top + 0.1);
     }
 }
 
@@ -123,11 +124,11 @@ class PrintedLogoTest : public PagePainterTest {
     void SetUp() override {
         PagePainterTest::SetUp();
         ASSERT_TRUE(logo_.load(TARVIX_LOGOS "/BrindleLogo.jpg"));
+        ASSERT_TRUE(Paint(GasSheet(), QPageSize::Letter));
     }
 };
 
 TEST_F(PrintedLogoTest, KeepsEveryDotAndIsWhiteWhereThereIsNoInk) {
-    ASSERT_TRUE(Paint(GasSheet(), QPageSize::Letter));
     EXPECT_EQ(PicturesOf(File()), QStringList{"1272x318 at 600"});
     const QImage printed = PictureIn(File());
     ASSERT_EQ(printed.size(), logo_.size());
@@ -147,7 +148,6 @@ TEST_F(PrintedLogoTest, KeepsEveryDotAndIsWhiteWhereThereIsNoInk) {
 }
 
 TEST_F(PrintedLogoTest, InkBeginsAtTheTextsCornerAndStaysClearOfTheTitle) {
-    ASSERT_TRUE(Paint(GasSheet(), QPageSize::Letter));
     constexpr double kDots = 288.0 / 72;  // a point
     const QImage top = PictureOfPage(File(), 288).copy(0, 0, 2448, 500);
     const QRect blue = BoundsOf(top, QColor(0x0b, 0x3f, 0x73));

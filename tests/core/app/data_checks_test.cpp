@@ -8,6 +8,8 @@
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
+#include <initializer_list>
+#include <utility>
 #include <vector>
 
 namespace tarvix::testing {
@@ -93,17 +95,14 @@ class DataCheck : public SheetTest, public ::testing::WithParamInterface<CheckRo
 
     std::string Says(const InputSheet& sheet) { return MessageOf(row.check, sheet); }
 
-    // The good sheet with other texts in these entries, the first of which may be being edited.
-    InputSheet With(const Entry& entry, const char* text, Field active = Field::None) const {
-        InputSheet sheet = row.sheet();
-        sheet.*entry.text = text;
-        sheet.activeField = active;
-        return sheet;
-    }
-    InputSheet With(const Entry& entry, const char* text, const Entry& other, const char* otherText,
+    // The good sheet with other texts in these entries, one of which may be being edited.
+    InputSheet With(std::initializer_list<std::pair<Entry, const char*>> texts,
                     Field active = Field::None) const {
-        InputSheet sheet = With(entry, text, active);
-        sheet.*other.text = otherText;
+        InputSheet sheet = row.sheet();
+        for (const auto& [entry, text] : texts) {
+            sheet.*entry.text = text;
+        }
+        sheet.activeField = active;
         return sheet;
     }
 
@@ -139,22 +138,23 @@ class DataCheck : public SheetTest, public ::testing::WithParamInterface<CheckRo
 TEST_P(DataCheck, AGoodSheetIsGood) {
     EXPECT_EQ(Says(row.sheet()), "");
     // The entry being edited is the other check's.
-    EXPECT_EQ(Says(With(ofFluid ? kFlow : kFlowingSG, "x", ofFluid ? Field::Flow : Field::SGf)),
-              "");
+    const Entry& other = ofFluid ? kFlow : kFlowingSG;
+    EXPECT_EQ(Says(With({{other, "x"}}, other.field)), "");
 }
 
 TEST_P(DataCheck, AnEmptyEntryIsNamed) {
     for (const Entry& entry : row.required) {
-        EXPECT_EQ(Says(With(entry, "")), Empty(entry.name));
-        EXPECT_EQ(Says(With(entry, "", entry.field)), Empty(entry.name));
+        EXPECT_EQ(Says(With({{entry, ""}})), Empty(entry.name));
+        EXPECT_EQ(Says(With({{entry, ""}}, entry.field)), Empty(entry.name));
     }
 }
 
 TEST_P(DataCheck, AnEntryThatIsNoNumberIsNamed) {
     for (const Entry& entry : row.required) {
         for (const char* text : {"x", "1..2", "1 2", " ", "1e60"}) {
-            EXPECT_EQ(Says(With(entry, text)), NotNumeric(entry.name)) << text;
-            EXPECT_EQ(Says(With(entry, text, entry.field)), EditedNotNumeric(entry.name)) << text;
+            EXPECT_EQ(Says(With({{entry, text}})), NotNumeric(entry.name)) << text;
+            EXPECT_EQ(Says(With({{entry, text}}, entry.field)), EditedNotNumeric(entry.name))
+                << text;
         }
     }
 }
@@ -163,22 +163,23 @@ TEST_P(DataCheck, AnEntryOfZeroOrLessIsNamedWhereItMatters) {
     for (const Entry& entry : row.required) {
         for (const char* text : {"0", "-0.5", "1e-60"}) {
             const bool bad = entry.rule == Rule::Positive;
-            EXPECT_EQ(Says(With(entry, text)), bad ? TooSmall(entry.name) : "") << text;
-            EXPECT_EQ(Says(With(entry, text, entry.field)), bad ? EditedTooSmall(entry.name) : "")
+            EXPECT_EQ(Says(With({{entry, text}})), bad ? TooSmall(entry.name) : "") << text;
+            EXPECT_EQ(Says(With({{entry, text}}, entry.field)),
+                      bad ? EditedTooSmall(entry.name) : "")
                 << text;
         }
-        EXPECT_EQ(Says(With(entry, "1e-44")), "");
-        EXPECT_EQ(Says(With(entry, "1e-44", entry.field)), "");
+        EXPECT_EQ(Says(With({{entry, "1e-44"}})), "");
+        EXPECT_EQ(Says(With({{entry, "1e-44"}}, entry.field)), "");
     }
 }
 
 TEST_P(DataCheck, SeveralEntriesAreNamedInTheirOrder) {
     ForEachTwo([this](const Entry& a, const Entry& b) {
         const std::string both = std::string(a.name) + ", " + b.name;
-        EXPECT_EQ(Says(With(a, "", b, "")), Empty(both));
-        EXPECT_EQ(Says(With(a, "x", b, "y")), NotNumeric(both));
+        EXPECT_EQ(Says(With({{a, ""}, {b, ""}})), Empty(both));
+        EXPECT_EQ(Says(With({{a, "x"}, {b, "y"}})), NotNumeric(both));
         if (a.rule == Rule::Positive && b.rule == Rule::Positive) {
-            EXPECT_EQ(Says(With(a, "0", b, "-3")), TooSmall(both));
+            EXPECT_EQ(Says(With({{a, "0"}, {b, "-3"}})), TooSmall(both));
         }
     });
 }
@@ -187,32 +188,31 @@ TEST_P(DataCheck, SeveralEntriesAreNamedInTheirOrder) {
 TEST_P(DataCheck, TheWorstIsNamedAlone) {
     ForEachTwo([this](const Entry& a, const Entry& b) {
         const std::string both = std::string(a.name) + ", " + b.name;
-        EXPECT_EQ(Says(With(a, "", b, "x")), ofFluid ? Empty(a.name) : Empty(both));
-        EXPECT_EQ(Says(With(a, "x", b, "")), ofFluid ? Empty(b.name) : Empty(both));
-        EXPECT_EQ(Says(With(a, "-20", b, "x")), NotNumeric(b.name));
-        EXPECT_EQ(Says(With(a, "x", b, "-20")), NotNumeric(a.name));
+        EXPECT_EQ(Says(With({{a, ""}, {b, "x"}})), ofFluid ? Empty(a.name) : Empty(both));
+        EXPECT_EQ(Says(With({{a, "x"}, {b, ""}})), ofFluid ? Empty(b.name) : Empty(both));
+        EXPECT_EQ(Says(With({{a, "-20"}, {b, "x"}})), NotNumeric(b.name));
+        EXPECT_EQ(Says(With({{a, "x"}, {b, "-20"}})), NotNumeric(a.name));
     });
 }
 
 // The entry being edited is judged before what is wrong elsewhere; when it is good, all are.
 TEST_P(DataCheck, TheEditedEntryComesFirst) {
     ForEachTwo([this](const Entry& a, const Entry& b) {
-        EXPECT_EQ(Says(With(b, "x", a, "", b.field)), EditedNotNumeric(b.name));
-        EXPECT_EQ(Says(With(a, "x", b, "", a.field)), EditedNotNumeric(a.name));
-        EXPECT_EQ(Says(With(a, "1", b, "", a.field)), Empty(b.name));
-        EXPECT_EQ(Says(With(b, "1", a, "", b.field)), Empty(a.name));
+        EXPECT_EQ(Says(With({{b, "x"}, {a, ""}}, b.field)), EditedNotNumeric(b.name));
+        EXPECT_EQ(Says(With({{a, "x"}, {b, ""}}, a.field)), EditedNotNumeric(a.name));
+        EXPECT_EQ(Says(With({{a, "1"}, {b, ""}}, a.field)), Empty(b.name));
+        EXPECT_EQ(Says(With({{b, "1"}, {a, ""}}, b.field)), Empty(a.name));
     });
-    InputSheet sheet = With(row.required[0], "x");
-    sheet.activeField = Field::OriBoreDia;
-    EXPECT_EQ(Says(sheet), NotNumeric(row.required[0].name));
+    const Entry& first = row.required[0];
+    EXPECT_EQ(Says(With({{first, "x"}}, Field::OriBoreDia)), NotNumeric(first.name));
 }
 
 TEST_P(DataCheck, WhatIsNotRequiredIsNotLookedAt) {
     for (const Entry& entry : row.ignored) {
         for (const char* text : {"", "0", "x"}) {
-            EXPECT_EQ(Says(With(entry, text)), "") << entry.name;
+            EXPECT_EQ(Says(With({{entry, text}})), "") << entry.name;
             if (!ofFluid) {
-                EXPECT_EQ(Says(With(entry, text, entry.field)), "") << entry.name;
+                EXPECT_EQ(Says(With({{entry, text}}, entry.field)), "") << entry.name;
             }
         }
     }

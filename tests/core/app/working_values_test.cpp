@@ -5,21 +5,16 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace tarvix::testing {
 namespace {
 
 constexpr WorkingValues kBefore{1, 2, 3, 4, 5, 6, 7, 8};
 
-void ExpectSame(const WorkingValues& is, const WorkingValues& expected) {
-    EXPECT_EQ(is.FlowingSG, expected.FlowingSG);
-    EXPECT_EQ(is.BaseSG, expected.BaseSG);
-    EXPECT_EQ(is.FlowTempF, expected.FlowTempF);
-    EXPECT_EQ(is.BaseTempF, expected.BaseTempF);
-    EXPECT_EQ(is.OperPress, expected.OperPress);
-    EXPECT_EQ(is.BasePress, expected.BasePress);
-    EXPECT_EQ(is.OperDensity, expected.OperDensity);
-    EXPECT_EQ(is.UserZf, expected.UserZf);
+std::vector<float> ValuesOf(const WorkingValues& working) {
+    return {working.FlowingSG, working.BaseSG,    working.FlowTempF,   working.BaseTempF,
+            working.OperPress, working.BasePress, working.OperDensity, working.UserZf};
 }
 
 class WorkingValuesTest : public SheetTest {
@@ -29,13 +24,13 @@ class WorkingValuesTest : public SheetTest {
     void ExpectStored(Check check, const InputSheet& sheet, const WorkingValues& expected) {
         const CheckResult result = check(sheet, kBefore, module);
         EXPECT_EQ(result.status(), kDataGood) << result.message;
-        ExpectSame(result.working, expected);
+        EXPECT_EQ(ValuesOf(result.working), ValuesOf(expected));
     }
     template <typename Check>
     void ExpectLeft(Check check, const InputSheet& sheet) {
         const CheckResult result = check(sheet, kBefore, module);
         EXPECT_EQ(result.status(), kDataBad);
-        ExpectSame(result.working, kBefore);
+        EXPECT_EQ(ValuesOf(result.working), ValuesOf(kBefore));
     }
 };
 

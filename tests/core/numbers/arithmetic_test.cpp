@@ -5,23 +5,20 @@
 namespace tarvix::testing {
 namespace {
 
-// (1 + 2^-12)^2 is 1 + 2^-11 + 2^-24, halfway between two singles, and rounds to the even one,
-// 1 + 2^-11. Fused, the subtraction would meet the unrounded product and leave 2^-24.
-TEST(ArithmeticTest, SingleProductIsRoundedBeforeItIsAddedTo) {
-    volatile float factor = 1.0F + 0x1p-12F;
-    volatile float rounded = 1.0F + 0x1p-11F;
-    const float a = factor;
-    const float b = rounded;
-    EXPECT_EQ(a * a - b, 0.0F);
+// (1 + e)^2 is 1 + 2e + e^2, and there is no place for the last term: the product is rounded to
+// 1 + 2e. Fused, the subtraction would meet the unrounded product and leave e^2.
+template <typename Number>
+void ExpectRoundedBeforeItIsAddedTo(Number e) {
+    volatile Number factor = 1 + e;
+    volatile Number rounded = 1 + 2 * e;
+    const Number a = factor;
+    const Number b = rounded;
+    EXPECT_EQ(a * a - b, 0);
 }
 
-// (1 + 2^-27)^2 is 1 + 2^-26 + 2^-54; a double has no place for the last term.
-TEST(ArithmeticTest, DoubleProductIsRoundedBeforeItIsAddedTo) {
-    volatile double factor = 1.0 + 0x1p-27;
-    volatile double rounded = 1.0 + 0x1p-26;
-    const double a = factor;
-    const double b = rounded;
-    EXPECT_EQ(a * a - b, 0.0);
+TEST(ArithmeticTest, AProductIsRoundedBeforeItIsAddedTo) {
+    ExpectRoundedBeforeItIsAddedTo(0x1p-12F);  // halfway between two singles; the even one stands
+    ExpectRoundedBeforeItIsAddedTo(0x1p-27);
 }
 
 }  // namespace
