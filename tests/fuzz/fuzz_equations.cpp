@@ -47,20 +47,14 @@ void Check(const Outcome& outcome, SolveFor solveFor, bool isLiquid) {
     if (!outcome.value) {
         return;
     }
-    Require(std::isfinite(*outcome.value), "a value is finite");
-    switch (solveFor) {
-        case SolveFor::FlowRate:
-            Require(*outcome.value <= 999999999.0F && *outcome.value >= 0.00001F,
-                    "a flow is within its limits");
-            break;
-        case SolveFor::DiffPressure:
-            Require(!isLiquid || *outcome.value <= 1000000.0F,
-                    "a liquid's differential pressure is within its limit");
-            break;
-        case SolveFor::Beta:
-            Require(*outcome.value > 0 && *outcome.value <= 0.95F, "beta is within its limits");
-            break;
-    }
+    const float value = *outcome.value;
+    Require(std::isfinite(value), "a value is finite");
+    Require(solveFor != SolveFor::FlowRate || (value <= 999999999.0F && value >= 0.00001F),
+            "a flow is within its limits");
+    Require(solveFor != SolveFor::DiffPressure || !isLiquid || value <= 1000000.0F,
+            "a liquid's differential pressure is within its limit");
+    Require(solveFor != SolveFor::Beta || (value > 0 && value <= 0.95F),
+            "beta is within its limits");
 }
 
 }  // namespace
@@ -70,10 +64,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     tarvix::MeteringRun run;
     run.solveFor =
         data.PickValueInArray({SolveFor::Beta, SolveFor::DiffPressure, SolveFor::FlowRate});
-    run.pipeDiameterIn = Value(data);
-    run.flow = Value(data);
-    run.diffPressInH2O = Value(data);
-    run.beta = Value(data);
+    for (float* known : {&run.pipeDiameterIn, &run.flow, &run.diffPressInH2O, &run.beta}) {
+        *known = Value(data);
+    }
 
     const tarvix::LiquidProperties liquid{Value(data), Value(data)};
     Check(tarvix::SolveLiquid(run, liquid), run.solveFor, true);

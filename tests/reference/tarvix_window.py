@@ -1,6 +1,7 @@
 """Start-up, calculation modes, unit lists, pipe and bore of the reference model."""
 
 import math
+from functools import partialmethod
 
 from tarvix_checks import RESULT_FIELDS, Calculator
 from tarvix_controls import GREEN, OPTION_GREY, WINDOW_COLOUR, YELLOW
@@ -116,14 +117,9 @@ class MainWindow(Calculator):
         if not self.suspended:
             self.DoOrificeCalculations()
 
-    def optCalcBeta_Click(self):
-        self._select_mode("optCalcBeta", ("optCalcFR", "optCalcDP"))
-
-    def optCalcDP_Click(self):
-        self._select_mode("optCalcDP", ("optCalcFR",))
-
-    def optCalcFR_Click(self):
-        self._select_mode("optCalcFR", ("optCalcDP",))
+    optCalcBeta_Click = partialmethod(_select_mode, "optCalcBeta", ("optCalcFR", "optCalcDP"))
+    optCalcDP_Click = partialmethod(_select_mode, "optCalcDP", ("optCalcFR",))
+    optCalcFR_Click = partialmethod(_select_mode, "optCalcFR", ("optCalcDP",))
 
     # --- unit lists ------------------------------------------------------------------------------
 
