@@ -116,18 +116,15 @@ class Control:
         self.kind = kind
         self.parent = parent
         self.caption = caption
-        self.visible = True
-        self.enabled = True
+        self.visible = self.enabled = True
         self.backcolor = None
         # Frames
-        self.top = None
-        self.width = None
+        self.top = self.width = None
         # Fields and lists
         self.text = ""
         self.locked = False
         self.tabstop = True
-        self.cursor = 0
-        self.anchor = 0
+        self.cursor = self.anchor = 0
         self.items = []
         self.index = -1
         # Options

@@ -218,9 +218,7 @@ TEST_F(Module1Test, LocalDecimalTurnsTheFirstPointIntoAComma) {
     EXPECT_EQ(german.LocalDecimal("12"), "12");
     EXPECT_EQ(german.LocalDecimal("1,5"), "1,5");
     EXPECT_EQ(german.LocalDecimal(""), "");
-}
-
-TEST_F(Module1Test, LocalDecimalLeavesTheTextWhereThePointIsTheSeparator) {
+    // Where the point is the separator the text stays.
     EXPECT_EQ(american.LocalDecimal("0.5"), "0.5");
     EXPECT_EQ(american.LocalDecimal("1.000.5"), "1.000.5");
     EXPECT_EQ(Module1(platform, kSwitzerland).LocalDecimal("14.7"), "14.7");

@@ -36,9 +36,7 @@ TEST(OrificeEquationTest, CoefficientTimesApproach) {
     EXPECT_EQ(CoefficientTimesApproach(0.95F), 1.39311373F);
     EXPECT_EQ(CoefficientTimesApproach(0.99F), 3.02260494F);
     EXPECT_EQ(CoefficientTimesApproach(0.0F), 0.6F);
-}
-
-TEST(OrificeEquationTest, CoefficientTimesApproachAtAndAboveOne) {
+    // At one and above.
     EXPECT_EQ(CoefficientTimesApproach(std::nextafter(1.0F, 0.0F)), 1228.80005F);
     EXPECT_EQ(CoefficientTimesApproach(1.0F), kInfinity);
     EXPECT_TRUE(std::isnan(CoefficientTimesApproach(std::nextafter(1.0F, 2.0F))));

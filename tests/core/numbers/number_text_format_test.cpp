@@ -172,16 +172,14 @@ TEST(NumberTextFormat, NegativesStandInParenthesesOnRequest) {
 }
 
 TEST(NumberTextFormat, EveryLocaleReadsWhatItWrites) {
-    const NumberLocale* const locales[] = {&kUnitedStates, &kGermany, &kFrance,   &kSwitzerland,
-                                           &kIndia,        &kSpain,   &kUngrouped};
     int read = 0;
-    for (const NumberLocale* locale : locales) {
+    for (const NumberLocale& locale : kEveryLocale) {
         for (const Grouping grouping : {Grouping::On, Grouping::Off}) {
             // 0.00097, 0.0097, ... 9,700,000,000,000,000 and their negatives
             for (float value = 0.00097F; value < 1e16F; value *= 10.0F) {
                 for (const float v : {value, -value}) {
-                    const std::string text = FormatNumber(v, 9, *locale, grouping);
-                    const auto back = TextToSingle(text, *locale);
+                    const std::string text = FormatNumber(v, 9, locale, grouping);
+                    const auto back = TextToSingle(text, locale);
                     ASSERT_TRUE(back.has_value()) << text;
                     EXPECT_NEAR(double{*back}, double{v}, std::fabs(double{v}) * 1e-6) << text;
                     ++read;

@@ -163,9 +163,8 @@ INSTANTIATE_TEST_SUITE_P(Numbers, NumberAsRead, ::testing::ValuesIn(kNumberRows)
 INSTANTIATE_TEST_SUITE_P(Others, NumberAsRead, ::testing::ValuesIn(kNoNumberRows), kRowName);
 
 TEST(NumberTextRead, ATextWithoutGroupsIsReadInEveryLocale) {
-    for (const NumberLocale* locale :
-         {&kUnitedStates, &kGermany, &kFrance, &kSwitzerland, &kIndia, &kSpain, &kUngrouped}) {
-        EXPECT_EQ(TextToSingle("1234567", *locale), 1234567.0F);
+    for (const NumberLocale& locale : kEveryLocale) {
+        EXPECT_EQ(TextToSingle("1234567", locale), 1234567.0F);
     }
 }
 
