@@ -124,6 +124,41 @@ TEST_F(FormProceduresTest, AnUnknownUnitOfThePipeEndsTheProgram) {
     expectEnd([this] { cboPipeID_Click(context_); });
 }
 
+// Keeps the buttons of the boxes, too, which a script does not state.
+class ButtonsDesk : public ScriptDesk {
+  public:
+    using ScriptDesk::ScriptDesk;
+
+    int ShowMessageBox(const MessageBoxRequest& request) override {
+        buttons.push_back(request.buttons);
+        return ScriptDesk::ShowMessageBox(request);
+    }
+
+    std::vector<BoxButtons> buttons;
+};
+
+TEST(Boxes, WhatIsOnlySaidHasOneButton) {
+    ButtonsDesk desk([](int exitStatus) { throw Ended{exitStatus}; });
+    Module1 module(desk, NumberLocale{});
+    QWidget canvas;
+    QWidget footer;
+    QMenuBar menus;
+    FormState state;
+    MainForm form(canvas, footer, menus);
+    const FormContext context{form, state, module};
+    state.SuspendCalc = true;
+    LoadcboPipeIDUnit(context);
+    LoadcboNomSize(context);
+    LoadcboPipeID(context);
+    desk.QueueAnswer({.ok = true, .text = "0"});
+    form.cboPipeID->setCurrentIndex(form.cboPipeID->count() - 1);
+    cboPipeID_Click(context);
+    EXPECT_EQ(desk.buttons, std::vector{BoxButtons::Ok});
+    module.FluidType = "X";
+    EXPECT_THROW(txtPf_Change(context), Ended);
+    EXPECT_EQ(desk.buttons, (std::vector{BoxButtons::Ok, BoxButtons::Ok}));
+}
+
 // What is solved is emptied; while no mode is chosen, whatever could be.
 TEST_F(FormProceduresTest, AResultIsCleared) {
     state_.SuspendCalc = true;
