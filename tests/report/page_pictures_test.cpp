@@ -1,14 +1,10 @@
 // The printed page of each fluid against a picture that is kept: what stands a column further, a
 // line lower, or in another letter is seen, wherever it is.
-//
-// TARVIX_KEEP_PICTURES=1 makes the kept pictures anew. Look at them before they are committed.
 #include "tests/core/named_row.h"
 #include "tests/report/painted_page.h"
+#include "tests/window/kept_picture.h"
 
-#include <QFile>
 #include <QFontInfo>
-
-#include <cstdlib>
 
 namespace tarvix::testing {
 namespace {
@@ -54,21 +50,6 @@ class PagePictureTest : public PagePainterTest, public ::testing::WithParamInter
         EXPECT_TRUE(Paint(sheet, GetParam().paper));
         return PictureOfPage(File(), kDotsPerInch).convertToFormat(QImage::Format_Grayscale8);
     }
-
-    static QString KeptFile() {
-        return QString("%1/%2.png").arg(TARVIX_PAGE_PICTURES, GetParam().name);
-    }
-
-    static int DotsThatDiffer(const QImage& one, const QImage& other) {
-        int dots = 0;
-        for (int y = 0; y < one.height(); ++y) {
-            for (int x = 0; x < one.width(); ++x) {
-                const int difference = qGray(one.pixel(x, y)) - qGray(other.pixel(x, y));
-                dots += std::abs(difference) > kShades ? 1 : 0;
-            }
-        }
-        return dots;
-    }
 };
 
 INSTANTIATE_TEST_SUITE_P(
@@ -82,18 +63,8 @@ INSTANTIATE_TEST_SUITE_P(
     kRowName);
 
 TEST_P(PagePictureTest, IsTheOneThatIsKept) {
-    const QImage printed = Printed(GetParam().sheet());
-    if (qEnvironmentVariableIsSet("TARVIX_KEEP_PICTURES")) {
-        ASSERT_TRUE(printed.save(KeptFile()));
-    }
-    const QImage kept(KeptFile());
-    ASSERT_EQ(printed.size(), kept.size());
-    const int dots = DotsThatDiffer(printed, kept);
-    if (dots > kStrayDots) {
-        const QString seen = QString("%1.png").arg(GetParam().name);
-        printed.save(seen);
-        FAIL() << dots << " dots differ; what was printed: " << seen.toStdString();
-    }
+    ExpectKeptPicture(Printed(GetParam().sheet()), TARVIX_PAGE_PICTURES, GetParam().name, kShades,
+                      kStrayDots);
 }
 
 // The comparison would see the smallest thing that can move: the unit of a single line, a column.
@@ -102,10 +73,10 @@ TEST_P(PagePictureTest, ShiftOfOneColumnIsSeen) {
     sheet.pipeIdUnit = "Inches";
     const QImage printed = Printed(sheet);
     sheet.oriBoreUnit = " " + sheet.oriBoreUnit;
-    EXPECT_GT(DotsThatDiffer(Printed(sheet), printed), 4 * kStrayDots);
+    EXPECT_GT(DotsThatDiffer(Printed(sheet), printed, kShades), 4 * kStrayDots);
     sheet = GetParam().sheet();
     sheet.inputs.beta = "1";  // 1.00000 in place of the value: other letters in the same cells
-    EXPECT_GT(DotsThatDiffer(Printed(sheet), printed), 2 * kStrayDots);
+    EXPECT_GT(DotsThatDiffer(Printed(sheet), printed, kShades), 2 * kStrayDots);
 }
 
 }  // namespace

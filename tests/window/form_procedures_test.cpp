@@ -3,6 +3,7 @@
 #include "app/dispatch/do_orifice_calculations.h"
 #include "app/window/frm_tarvix.h"
 #include "tests/window_script/script_desk.h"
+#include "ui/handlers/densities.h"
 #include "ui/handlers/flow_unit_boxes.h"
 #include "ui/handlers/fluid_options.h"
 #include "ui/handlers/numeric_fields.h"
@@ -207,6 +208,27 @@ TEST_F(FormProceduresTest, AMessageIsKept) {
     EXPECT_NE(messageAfter("99999999"), "");
     EXPECT_EQ(form_.lblMsg->palette().color(QPalette::Window), QColor(Qt::red));
     EXPECT_EQ(messageAfter("2"), "");
+}
+
+// So is that of a density from the table.
+TEST_F(FormProceduresTest, AMessageOfTheSteamTableIsKept) {
+    module_.FluidType = "S";
+    state_.SuspendCalc = true;
+    LoadcboPressUnit(context_);
+    LoadcboDensityUnit(context_);
+    form_.optCalcFR->setChecked(true);
+    form_.optPabsolute->setChecked(true);
+    form_.optSteamTbl->setChecked(true);
+    form_.txtFlow->setText("12");
+    form_.txtPf->setText("99999999");
+    EXPECT_FALSE(CalcSteamDensity(context_));
+    EXPECT_NE(module_.MsgText, "");
+    EXPECT_EQ(module_.MsgText, form_.lblMsg->text().toStdString());
+    EXPECT_EQ(form_.txtFlow->text(), "") << "what was solved is gone";
+    form_.txtPf->setText("150");
+    EXPECT_TRUE(CalcSteamDensity(context_));
+    EXPECT_EQ(module_.MsgText, "");
+    EXPECT_NE(form_.txtDensity->text(), "");
 }
 
 // Looks at the main window's mouse pointer while its other windows are open.

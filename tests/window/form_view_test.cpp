@@ -77,6 +77,25 @@ TEST_F(FormViewTest, ShowsAControlOnlyWhole) {
     EXPECT_TRUE(view_.Shows(*control_, 1)) << "it would, with one pixel more";
 }
 
+// A smaller window scrolls to what has the focus, unless the user has scrolled away from it.
+TEST_F(FormViewTest, KeepsTheFocusInSight) {
+    control_->setFocusPolicy(Qt::StrongFocus);
+    view_.resize(300, 300);
+    view_.activateWindow();
+    control_->setFocus();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view_.focusWidget(), control_);
+    ASSERT_TRUE(view_.Shows(*control_));
+    view_.resize(150, 150);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(view_.Shows(*control_));
+    down().setValue(0);
+    ASSERT_FALSE(view_.Shows(*control_));
+    view_.resize(140, 140);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(down().value(), 0);
+}
+
 // The form fills what the footer leaves, to the edges, where nothing scrolls.
 TEST_F(FormViewTest, LosesNoRoom) {
     view_.footer().setMinimumHeight(30);

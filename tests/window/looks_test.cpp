@@ -216,6 +216,9 @@ TEST_F(LooksTest, ABoreThatIsNotCurrentIsDimmed) {
     EXPECT_FALSE(bore.font().bold());
     EXPECT_EQ(colors().second, QColor(Qt::green));
     EXPECT_EQ(colors().first, QColor("#606060"));
+    const NumericField& closed = *Player().form().txtDensity;
+    ASSERT_FALSE(closed.isEnabled());
+    EXPECT_EQ(closed.palette().color(QPalette::Disabled, QPalette::Text), QColor("#454545"));
     EXPECT_GE(ContrastOf(colors().first, Qt::green), 3);
 
     Play({"", {"click optCalcFR"}});
