@@ -65,7 +65,7 @@ TEST_P(WindowSizeTest, LeavesRoomForTheFrameAndForScrollBarsWhereTheyAreNeeded) 
                                           window.fontMetrics().lineSpacing() + bar + menu);
 
     // With its frame in the middle of the screen.
-    EXPECT_NEAR(window.x() + window.frameGeometry().width() / 2, screen.center().x(), 3);
+    EXPECT_NEAR(window.frameGeometry().center().x(), screen.center().x(), 3);
     EXPECT_EQ(window.geometry().x(),
               screen.x() + (screen.width() - window.width() - frame.left() - frame.right()) / 2 +
                   frame.left());
