@@ -157,11 +157,11 @@ def steps_for(file, steps):
 class Worker:
     """A copy of the tree with its own build."""
 
-    def __init__(self, folder, root, part, configuration):
+    def __init__(self, folder, root, part, programs, configuration):
         folder = folder.resolve()
         self.tree = folder / "tree"
         self.build = folder / "build"
-        self.steps = STEPS[part]
+        self.steps = [step for step in STEPS[part] if not programs or step[0] in programs]
         # What one copy has compiled, the other finds in the cache.
         self.environment = {**os.environ, "CCACHE_BASEDIR": str(folder),
                             "QT_QPA_PLATFORM": "offscreen"}
@@ -272,7 +272,7 @@ class Verdicts:
         tests = self.digest(sorted(root.glob("tests/**/*.*")))
         self.path = folder / "verdicts" / f"{sources}-{tests}.json"
         self.known = {}
-        for earlier in folder.glob(f"verdicts/{sources}-*.json") if again else []:
+        for earlier in folder.glob(f"verdicts/{sources}-*.json") if again is not None else []:
             self.known |= {mutant: verdict for mutant, verdict
                            in json.loads(earlier.read_text()).items() if verdict != "survived"}
         if self.path.exists():
@@ -307,7 +307,8 @@ def run(arguments, files, chosen, spare, verdicts):
     print(f"building {arguments.jobs} copies of the tree ...", flush=True)
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as builders:
         copies = [builders.submit(Worker, arguments.build / f"{arguments.part}{i}",
-                                  arguments.source, arguments.part, arguments.cmake)
+                                  arguments.source, arguments.part, arguments.again,
+                                  arguments.cmake)
                   for i in range(arguments.jobs)]
         for copy in copies:
             workers.put(copy.result())
@@ -373,8 +374,9 @@ def main():
     parser.add_argument("--files", nargs="+", help="only these files, such as calc/orifice_gas.cpp")
     parser.add_argument("--cmake", nargs="+", default=[], metavar="NAME=VALUE",
                         help="settings of the build, such as CMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold")
-    parser.add_argument("--again", action="store_true",
-                        help="tests have been added: judge only what survived before")
+    parser.add_argument("--again", nargs="*", metavar="PROGRAM",
+                        help="tests have been added, to these programs of tests: judge by them only"
+                             " what survived before")
     parser.add_argument("--list", action="store_true", help="print the mutants, run nothing")
     arguments = parser.parse_args()
 

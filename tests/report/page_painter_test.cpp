@@ -184,6 +184,17 @@ TEST_F(PagePainterTest, SmallPaperGetsTheWholePageSmaller) {
     EXPECT_GT(page.Word("Customer:").Width(), 0.6 * 9 * kCharacter12);
 }
 
+// On paper that is wide enough, but too short, the last line ends at the lower margin.
+TEST_F(PagePainterTest, ShortPaperIsUsedToTheLowerMargin) {
+    const PdfPage page = PageOf(FullestSheet(), QPageSize::EnvelopeInvite);
+    double bottom = 0;
+    for (const PdfWord& word : page.words) {
+        bottom = std::max(bottom, word.bottom);
+    }
+    EXPECT_NEAR(bottom, page.height * 0.955, 1);
+    EXPECT_LT(page.Word("Customer:").Width(), 9 * kCharacter12);
+}
+
 TEST_F(PagePainterTest, LargePaperKeepsTheSize) {
     const PdfPage page = PageOf(FullestSheet(), QPageSize::A3);
     EXPECT_NEAR(page.Word("Customer:").Width(), 9 * kCharacter12, 0.1);
