@@ -130,5 +130,19 @@ TEST_F(DarkDesktopTest, LightDesktopsKeepTheirFields) {
     }
 }
 
+// A field that can be seen keeps its color; one as dark as the window gets no darker than needed.
+TEST(FieldColorTest, IsTheDesktopsOwnWhereThatCanBeSeen) {
+    const auto fieldOn = [](const QColor& window, const QColor& field) {
+        return ReadablePalette(
+                   DesktopPalette(window, field, QColor(0x58, 0x58, 0x58), Qt::white, Qt::gray))
+            .color(QPalette::Base);
+    };
+    const QColor window(0x50, 0x50, 0x50);
+    EXPECT_EQ(fieldOn(window, QColor(0x18, 0x18, 0x18)), QColor(0x18, 0x18, 0x18));
+    const QColor darkened = fieldOn(window, window);
+    EXPECT_GE(ContrastOf(darkened, window), 1.5);
+    EXPECT_LE(ContrastOf(darkened, window), 1.75) << "a step of twenty less would not do";
+}
+
 }  // namespace
 }  // namespace tarvix::testing
