@@ -6,17 +6,23 @@
 #include <QImage>
 #include <QString>
 
+#include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace tarvix::testing {
 
-// Dots whose grey differs by more than `shades`.
+// Dots of which red, green or blue differs by more than `shades`.
 inline int DotsThatDiffer(const QImage& one, const QImage& other, int shades) {
     int dots = 0;
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
-            dots += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > shades ? 1 : 0;
+            const QRgb seen = one.pixel(x, y);
+            const QRgb kept = other.pixel(x, y);
+            const int most =
+                std::max({std::abs(qRed(seen) - qRed(kept)), std::abs(qGreen(seen) - qGreen(kept)),
+                          std::abs(qBlue(seen) - qBlue(kept))});
+            dots += most > shades ? 1 : 0;
         }
     }
     return dots;

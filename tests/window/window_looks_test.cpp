@@ -38,6 +38,11 @@ class WindowLooksTest : public LayoutTest {
         QApplication::setCursorFlashTime(0);
     }
 
+    void TearDown() override {
+        QApplication::setCursorFlashTime(cursorFlashTime_);
+        LayoutTest::TearDown();
+    }
+
     static void Expect(QWidget& window, const char* name) {
         Settle();
         // Wherever an earlier test has left the mouse, it is over nothing.
@@ -47,6 +52,7 @@ class WindowLooksTest : public LayoutTest {
         ExpectKeptPicture(window.grab().toImage(), TARVIX_WINDOW_PICTURES, name, kShades, 0);
     }
 
+    const int cursorFlashTime_ = QApplication::cursorFlashTime();
     RecordingPlatform platform_;
     Module1 module_{platform_, kUnitedStates};
 };
