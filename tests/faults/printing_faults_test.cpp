@@ -135,6 +135,29 @@ class Pipe {
     int end_ = -1;
 };
 
+// A folder in which nothing can be made, in which a file can be written to. For root everything can
+// be, so that while this lives a test that root runs is nobody's.
+class ClosedFolder {
+  public:
+    ClosedFolder(const QString& folder, const QString& file) : folder_(QFile::encodeName(folder)) {
+        EXPECT_EQ(chmod(QFile::encodeName(file).constData(), 0666), 0);
+        EXPECT_EQ(chmod(folder_.constData(), 0555), 0);
+        constexpr uid_t kNobody = 65534;
+        EXPECT_EQ(seteuid(user_ == 0 ? kNobody : user_), 0);
+        EXPECT_FALSE(QFile(folder + "/other.pdf").open(QIODevice::WriteOnly));
+    }
+    ~ClosedFolder() {
+        EXPECT_EQ(seteuid(user_), 0);
+        EXPECT_EQ(chmod(folder_.constData(), 0700), 0);
+    }
+    ClosedFolder(const ClosedFolder&) = delete;
+    ClosedFolder& operator=(const ClosedFolder&) = delete;
+
+  private:
+    QByteArray folder_;
+    uid_t user_ = geteuid();
+};
+
 #endif
 
 class PrintingFault : public ::testing::Test {
@@ -205,6 +228,21 @@ TEST_F(PrintingFault, FullDiskLeavesTheOldFile) {
     ASSERT_TRUE(old.open(QIODevice::ReadOnly));
     EXPECT_EQ(old.readAll(), "what was printed before");
     EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{"old.pdf"});
+}
+
+TEST_F(PrintingFault, FileInAClosedFolderIsWrittenTo) {
+    const QString name = folder_.filePath("old.pdf");
+    QFile page(name);
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.close();
+    {
+        const ClosedFolder closed(folder_.path(), name);
+        Print(name);
+    }
+    EXPECT_EQ(desk_.outcome.status, PrintOutcome::Status::Printed)
+        << desk_.outcome.reason.toStdString();
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(page.readAll().trimmed().endsWith("%%EOF"));
 }
 
 TEST_F(PrintingFault, PipeIsWrittenToNotReplaced) {

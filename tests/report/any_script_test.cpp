@@ -82,15 +82,13 @@ TEST_F(AnyScriptTest, ScriptsWhoseLettersJoinAreReadAndWhatFollowsStandsInACell)
     }
 }
 
-// Arabic letters change their shape and touch each other when they join.
-TEST_F(AnyScriptTest, ArabicLettersJoin) {
-    const QString word = QString::fromUtf8("سسسسسس");
-    SKIP_WITHOUT_FONT("س");
-    QImage picture(2000, 400, QImage::Format_RGB32);
+// The columns of dots in which a text has ink.
+QList<int> InkedColumns(const QString& text) {
+    QImage picture(3000, 400, QImage::Format_RGB32);
     picture.fill(Qt::white);
     {
         QPainter painter(&picture);
-        PrintedText(word, kReportFont).Paint(painter, 20, 20, 1);
+        PrintedText(text, kReportFont).Paint(painter, 20, 20, 1);
     }
     QList<int> inked;
     for (int x = 0; x < picture.width(); ++x) {
@@ -101,8 +99,47 @@ TEST_F(AnyScriptTest, ArabicLettersJoin) {
             }
         }
     }
+    return inked;
+}
+
+// Arabic letters change their shape and touch each other when they join.
+TEST_F(AnyScriptTest, ArabicLettersJoin) {
+    SKIP_WITHOUT_FONT("س");
+    const QList<int> inked = InkedColumns(QString::fromUtf8("سسسسسس"));
     ASSERT_GT(inked.size(), 300);
     EXPECT_EQ(inked.last() - inked.first() + 1, inked.size()) << "there are gaps";
+}
+
+// Two words of Arabic, a stroke and a long one, with one gap between them: the first word stands at
+// the right, and nothing is missing of either.
+TEST_F(AnyScriptTest, ArabicPhraseIsReadFromTheRight) {
+    SKIP_WITHOUT_FONT("اس");
+    const QString word = QString::fromUtf8("سسسسسس");
+    const QList<int> inked = InkedColumns(QString::fromUtf8("ا ") + word);
+    QList<int> gaps;
+    for (qsizetype i = 1; i < inked.size(); ++i) {
+        if (inked[i] > inked[i - 1] + 1) {
+            gaps << static_cast<int>(i);
+        }
+    }
+    ASSERT_EQ(gaps.size(), 1);
+    EXPECT_EQ(gaps.first(), InkedColumns(word).size());
+    EXPECT_LT(inked.size() - gaps.first(), 60) << "the stroke";
+}
+
+// Two words of a script whose letters join are laid out as one text, whatever stands between them;
+// the whole takes full cells.
+TEST_F(AnyScriptTest, BlanksBetweenJoiningWordsAreTheirOwnFontsBlanks) {
+    QFont font = ReportFontFamily();
+    font.setPixelSize(static_cast<int>(kReportFont.sizePt * kTwipsPerPoint));
+    const double cell = font.pixelSize() * kFontAdvance;
+    for (const char* text : {"मुम्बई   मुम्बई", "मुम्बई 12 मुम्बई", "मुम्बई - मुम्बई मुम्बई"}) {
+        SKIP_WITHOUT_FONT(text);
+        const QString phrase = QString::fromUtf8(text);
+        const double width = QFontMetricsF(font).horizontalAdvance(phrase);
+        EXPECT_NEAR(PrintedText(phrase, kReportFont).Width(), std::ceil(width / cell) * cell, 0.01)
+            << text;
+    }
 }
 
 TEST_F(AnyScriptTest, MonthInAnotherScriptLeavesTheWebSiteWhereItIs) {

@@ -4,6 +4,7 @@
 #include "tests/core/fatal_errors.h"
 #include "tests/core/locales.h"
 #include "tests/core/named_row.h"
+#include "tests/window/renamed_font.h"
 #include "ui/windows/qt_platform.h"
 
 #include <QApplication>
@@ -101,6 +102,16 @@ TEST_F(SplashTest, TheNameStandsOutFromTheVersion) {
     EXPECT_FALSE(splash_.Label2->font().bold());
     EXPECT_NEAR(splash_.Label1->font().pointSizeF(), 3.2 * usual, 0.05);
     EXPECT_NEAR(splash_.Label2->font().pointSizeF(), 1.1 * usual, 0.05);
+}
+
+TEST(SplashFontTest, FamiliesOfItsOwnWhereTheyAreInstalled) {
+    const RenamedFont nameFont("Microsoft Sans Serif");
+    const RenamedFont versionFont("MS Sans Serif");
+    ListedClock clock;
+    Module1 module(clock, kUnitedStates);
+    const frmSplash splash(module, {});
+    EXPECT_EQ(QFontInfo(splash.Label1->font()).family(), "Microsoft Sans Serif");
+    EXPECT_EQ(QFontInfo(splash.Label2->font()).family(), "MS Sans Serif");
 }
 
 // Two logos in boxes of the same size, one at the left and one at the right margin, above the texts

@@ -7,6 +7,8 @@
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -90,6 +92,33 @@ TEST(LockedFieldTest, ALongResultIsWrittenSmaller) {
         field.SetLocked(false);
         EXPECT_FALSE(field.font().bold());
     }
+}
+
+// Leaves half of a field to its text.
+class HalfStyle : public QProxyStyle {
+  public:
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override {
+        QRect place = QProxyStyle::subElementRect(element, option, widget);
+        if (element == SE_LineEditContents) {
+            place.setWidth(place.width() / 2);
+        }
+        return place;
+    }
+};
+
+TEST(LockedFieldTest, AnotherStyleOfTheDesktopIsFollowed) {
+    HalfStyle half;
+    QWidget parent;
+    NumericField field(&parent);
+    field.SetLocked(true);
+    field.setText("12345678");
+    const QFontMetrics whole(field.font());
+    field.resize(whole.horizontalAdvance(field.text()) + 30, 60);
+    EXPECT_EQ(field.font().pointSizeF(), parent.font().pointSizeF());
+    field.setStyle(&half);
+    EXPECT_LT(field.font().pointSizeF(), parent.font().pointSizeF());
+    EXPECT_LE(QFontMetrics(field.font()).horizontalAdvance(field.text()), field.TextArea().width());
 }
 
 // ---- Keys ----
