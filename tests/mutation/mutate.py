@@ -16,6 +16,7 @@ Exit status: 0 when every survivor is one of those explained in README.md, else 
 
 import argparse
 import concurrent.futures
+import contextlib
 import hashlib
 import json
 import math
@@ -29,6 +30,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 from pathlib import Path
 
@@ -75,6 +77,10 @@ STEPS = {
                                f"Desktops/*Dark:{EVERY_STATE}")),
     ],
 }
+# What only the desktop shows: the frame of its windows, the speech of its screen reader. A journey
+# needs the desktop's tools and takes its time, so each is for one file.
+JOURNEYS = {"app/window/window_frame.cpp": "screen_journey",
+            "ui/controls/announcements.cpp": "spoken_journey"}
 # What the others hold does not reach the printer but by the page, which scenarios state.
 PRINTING = ("app/window/", "report/", "ui/windows/")
 CONFIGURATION = {"core": ["-DTARVIX_BUILD_WINDOW=OFF"], "window": []}
@@ -144,24 +150,37 @@ def sample(root, part, files, count, seed):
     return chosen, spare
 
 
+def journey_steps(file):
+    """The program's journey for a file, in the form of a step."""
+    # The system's own interpreter has the bindings of the accessibility bus.
+    return [("tarvix", ["/usr/bin/python3", f"{{tree}}/tests/journeys/{journey}.py", "{binary}"])
+            for spoiled, journey in JOURNEYS.items() if spoiled == file]
+
+
 def steps_for(file, steps):
     """The steps that should wake for a file, those of its own folder first."""
     own = {"report": "report_window_tests", "ui/windows": "window_tests",
            "ui/controls": "window_tests", "ui/form": "window_tests", "app/window": "window_tests"}
     first = [target for folder, target in own.items() if file.startswith(folder + "/")]
     waking = [step for step in steps
-              if step[0] != "report_window_tests" or file.startswith(PRINTING)]
-    return sorted(waking, key=lambda step: step[0] not in first)
+              if step[0] != "tarvix" and
+             (step[0] != "report_window_tests" or file.startswith(PRINTING))]
+    return sorted(waking, key=lambda step: step[0] not in first) + [
+        step for step in journey_steps(file) if step in steps]
 
 
 class Worker:
     """A copy of the tree with its own build."""
 
-    def __init__(self, folder, root, part, programs, configuration):
+    # The desktop of one journey must not hear the speech of another.
+    one_journey = threading.Lock()
+
+    def __init__(self, folder, root, part, files, programs, configuration):
         folder = folder.resolve()
         self.tree = folder / "tree"
         self.build = folder / "build"
-        self.steps = [step for step in STEPS[part] if not programs or step[0] in programs]
+        steps = STEPS[part] + [step for file in files for step in journey_steps(file)]
+        self.steps = [step for step in steps if not programs or step[0] in programs]
         # What one copy has compiled, the other finds in the cache.
         self.environment = {**os.environ, "CCACHE_BASEDIR": str(folder),
                             "QT_QPA_PLATFORM": "offscreen"}
@@ -218,8 +237,9 @@ class Worker:
     def _passes(self, target, command):
         binary = next(p for p in self.build.rglob(target) if p.is_file() and os.access(p, os.X_OK))
         places = {"binary": binary, "tree": self.tree}
-        return self._run([part.format(**places) for part in command],
-                         self.patience.get(tuple(command), BUILD_SECONDS)) == 0
+        with self.one_journey if target == "tarvix" else contextlib.nullcontext():
+            return self._run([part.format(**places) for part in command],
+                             self.patience.get(tuple(command), BUILD_SECONDS)) == 0
 
     def _code_of(self, file):
         """The digest of what the optimizing compiler makes of a source; nothing of a header."""
@@ -307,7 +327,7 @@ def run(arguments, files, chosen, spare, verdicts):
     print(f"building {arguments.jobs} copies of the tree ...", flush=True)
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as builders:
         copies = [builders.submit(Worker, arguments.build / f"{arguments.part}{i}",
-                                  arguments.source, arguments.part, arguments.again,
+                                  arguments.source, arguments.part, files, arguments.again,
                                   arguments.cmake)
                   for i in range(arguments.jobs)]
         for copy in copies:
