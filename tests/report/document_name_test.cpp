@@ -12,6 +12,7 @@ TEST(DocumentName, CarriesTheTagWhereThereIsOne) {
     EXPECT_EQ(DocumentName("FE\r\n4102\t/B"), "Orifice calculation FE 4102 /B");
     EXPECT_EQ(DocumentName(""), "Orifice calculation");
     EXPECT_EQ(DocumentName("   "), "Orifice calculation");
+    EXPECT_EQ(DocumentName("xReflux"), "Orifice calculation xReflux");
 }
 
 TEST(DocumentName, LongTagIsCutBetweenTwoCharacters) {
@@ -23,6 +24,9 @@ TEST(DocumentName, LongTagIsCutBetweenTwoCharacters) {
     EXPECT_EQ(DocumentName(long3), "Orifice calculation " + long3.substr(0, 180));
     // With a letter in front the sixtieth no longer fits.
     EXPECT_EQ(DocumentName("x" + long3), "Orifice calculation x" + long3.substr(0, 177));
+    // No blank is left at the end.
+    EXPECT_EQ(DocumentName(std::string(179, 'y') + " y"),
+              "Orifice calculation " + std::string(179, 'y'));
 }
 
 TEST(FileName, CharactersThatAFileCannotHoldAreHyphens) {
