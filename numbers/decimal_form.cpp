@@ -142,6 +142,16 @@ std::string DecimalDigits(double finite, int decimals) {
     return DecimalDigits(std::fabs(finite), kOfDouble, decimals);
 }
 
+double StreamedDouble(const std::string& plain) {
+    std::istringstream stream(plain);
+    stream.imbue(std::locale::classic());
+    double read = 0;
+    stream >> read;
+    // The stream gives the largest double for what is too large, and zero or less than the smallest
+    // for what is too small.
+    return stream.fail() && std::fabs(read) > 1 ? std::copysign(HUGE_VAL, read) : read;
+}
+
 double PlainToDouble(const std::string& plain) {
 #if defined(__cpp_lib_to_chars)
     double value = 0;
@@ -151,11 +161,7 @@ double PlainToDouble(const std::string& plain) {
     }
 #endif
     // Too large or too small, which from_chars does not tell apart (or it is not there at all).
-    std::istringstream stream(plain);
-    stream.imbue(std::locale::classic());
-    double read = 0;
-    stream >> read;
-    return std::fabs(read) > 1 ? HUGE_VAL : read;
+    return StreamedDouble(plain);
 }
 
 }  // namespace tarvix

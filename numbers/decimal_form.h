@@ -24,4 +24,7 @@ std::string DecimalDigits(double finite, int decimals);
 // exponent. Infinite when it is too large for a double.
 double PlainToDouble(const std::string& plain);
 
+// The same, slower, by the standard library's stream: for what its quicker way does not read.
+double StreamedDouble(const std::string& plain);
+
 }  // namespace tarvix

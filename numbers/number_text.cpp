@@ -127,10 +127,6 @@ std::optional<float> TextToSingle(std::string_view text, const NumberLocale& loc
     return value ? std::optional(static_cast<float>(*value)) : std::nullopt;
 }
 
-bool IsNumeric(std::string_view text, const NumberLocale& locale) {
-    return TextToDouble(text, locale).has_value();
-}
-
 std::string FormatNumber(float value, int decimals, const NumberLocale& locale, Grouping grouping,
                          Negatives negatives) {
     return std::isfinite(value) ? WithSeparators(DecimalDigits(value, decimals), value < 0,

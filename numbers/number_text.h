@@ -20,17 +20,15 @@ struct NumberLocale {
 enum class Grouping { Off, On };
 enum class Negatives { MinusSign, Parentheses };
 
-// The numeric test: true when `text` is a number as the user's system writes it. Between optional
-// blanks: an optional sign, digits with correctly placed group separators, at most one decimal
-// separator with digits on at least one side, and an optional exponent (e or E, optional sign,
-// digits). An empty text is not numeric, nor is a value too large for single precision.
-bool IsNumeric(std::string_view text, const NumberLocale& locale);
+// The value of a numeric text in double precision; nothing when the text is not numeric. A text is
+// numeric when it is a number as the user's system writes it. Between optional blanks: an optional
+// sign, digits with correctly placed group separators, at most one decimal separator with digits on
+// at least one side, and an optional exponent (e or E, optional sign, digits). An empty text is not
+// numeric, nor is a value too large for single precision.
+std::optional<double> TextToDouble(std::string_view text, const NumberLocale& locale);
 
 // The value of a numeric text in single precision; nothing when the text is not numeric.
 std::optional<float> TextToSingle(std::string_view text, const NumberLocale& locale);
-
-// The value of a numeric text in double precision; nothing when the text is not numeric.
-std::optional<double> TextToDouble(std::string_view text, const NumberLocale& locale);
 
 // The value with exactly `decimals` (0 to 9) digits after the decimal separator and at least one
 // before it. Rounds the value's decimal form, halves away from zero: the 7 significant digits of a

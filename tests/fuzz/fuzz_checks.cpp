@@ -20,7 +20,7 @@ bool NamesNoNumber(std::string text) {
 
 void JudgeResult(const tarvix::CalculationResult& result, const tarvix::Module1& module) {
     Require(result.text.empty() || result.message.empty(), "a result or a message, never both");
-    Require(result.text.empty() || tarvix::IsNumeric(result.text, module.locale()),
+    Require(result.text.empty() || tarvix::TextToDouble(result.text, module.locale()).has_value(),
             "a result is a number");
 }
 
@@ -45,10 +45,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 
     const std::string gravity =
         tarvix::FlowingGravityText(sheet.density, sheet.densityUnit, locale);
-    Require(gravity.empty() || tarvix::IsNumeric(gravity, locale), "a gravity is a number");
+    Require(gravity.empty() || tarvix::TextToDouble(gravity, locale).has_value(),
+            "a gravity is a number");
     const tarvix::SteamDensityText steam = tarvix::SteamDensityTextOf(sheet, module);
     Require(steam.density.empty() ||
-                (steam.message.empty() && tarvix::IsNumeric(steam.density, locale)),
+                (steam.message.empty() && tarvix::TextToDouble(steam.density, locale).has_value()),
             "a steam density is a number, and then there is no message");
     Require(NamesNoNumber(steam.message), "no infinity in a steam message");
     if (tarvix::CheckZfComp(sheet) != tarvix::CompressibilityWarning::None) {

@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 
     for (const std::string& text :
          {module.FormatLimit(single), module.FormatResult(single), module.FormatEntry(single)}) {
-        Require(tarvix::IsNumeric(text, locale) == std::isfinite(single),
+        Require(tarvix::TextToDouble(text, locale).has_value() == std::isfinite(single),
                 "limits, results and entries are numbers");
     }
     const std::string entry = module.FormatEntry(single);

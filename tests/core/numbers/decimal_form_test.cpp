@@ -92,6 +92,18 @@ TEST(PlainToDoubleTest, TakesWhatADoubleHolds) {
     EXPECT_EQ(PlainToDouble(std::string(400, '9')), HUGE_VAL);
 }
 
+// What is read where the library has no quicker way, for all sizes that a user types.
+TEST(PlainToDoubleTest, IsTheSameByTheStream) {
+    for (const char* plain : {"0", "-0", ".5", "7.", "142.3", "-40", "1e39", "3.4028236e38",
+                              "1e309", "-1e309", "1e-400", "4.9e-324", "00012.50"}) {
+        EXPECT_EQ(StreamedDouble(plain), PlainToDouble(plain)) << plain;
+    }
+    for (double value = 1e-12; value < 1e15; value *= 1.0731) {
+        const std::string plain = std::to_string(value);
+        ASSERT_EQ(StreamedDouble(plain), std::strtod(plain.c_str(), nullptr)) << plain;
+    }
+}
+
 TEST(DecimalFormRound, TakesHalvesToEven) {
     struct Row {
         const char* name;

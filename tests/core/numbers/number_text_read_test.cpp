@@ -22,7 +22,6 @@ class NumberAsRead : public ::testing::TestWithParam<ReadRow> {};
 
 TEST_P(NumberAsRead, IsItsValueOrRefused) {
     const auto& row = GetParam();
-    EXPECT_EQ(IsNumeric(row.text, *row.locale), row.value.has_value());
     EXPECT_EQ(TextToDouble(row.text, *row.locale), row.value);
     EXPECT_EQ(TextToSingle(row.text, *row.locale),
               row.value ? std::optional(static_cast<float>(*row.value)) : std::nullopt);
