@@ -11,8 +11,6 @@ namespace tarvix {
 namespace {
 
 constexpr int kBoreDecimals = 3;
-constexpr int kBetaDecimals = 5;
-constexpr const char* kLineEnd = "\n\r";
 
 float PipeDiameterIn(const FormContext& context) {
     const EnteredNumber* diameter =
@@ -62,22 +60,19 @@ std::string BetaLimitMessage(const FormContext& context) {
         const std::string shown =
             PipeDiameterInUnit(pipeUnit->text, diameter->text(), form.cboPipeID->Text())
                 .value_or("");
-        const int decimals = pipeUnit->text == kInches ? 3 : 2;
         if (const auto value = TextToSingle(shown, locale)) {
-            pipeText = FormatNumber(*value, decimals, locale, Grouping::Off);
+            pipeText =
+                FormatNumber(*value, PipeDiameterDecimals(pipeUnit->text), locale, Grouping::Off);
         }
     }
 
     // The bore is named with the pipe's unit and the pipe with the bore's; the two lists keep step.
-    std::string text;
-    text += "Orifice Diameter:\t" + form.txtOriBoreDia->Text() + " " + form.cboPipeIDUnit->Text() +
-            kLineEnd;
-    text += "Pipe Diameter:\t" + pipeText + " " + form.cboOriBoreUnit->Text() + kLineEnd;
-    text += "Beta Ratio:\t" + form.txtBeta->Text() + kLineEnd + kLineEnd;
-    text += std::string("Beta is a dimensionless ratio of the") + kLineEnd;
-    text += std::string("Orifice Diameter divided by the Pipe Diameter.") + kLineEnd + kLineEnd;
-    text += std::string("This ratio must be less than 0.95") + kLineEnd;
-    return text;
+    return "Orifice Diameter:\t" + form.txtOriBoreDia->Text() + " " + form.cboPipeIDUnit->Text() +
+           "\n\rPipe Diameter:\t" + pipeText + " " + form.cboOriBoreUnit->Text() +
+           "\n\rBeta Ratio:\t" + form.txtBeta->Text() +
+           "\n\r\n\rBeta is a dimensionless ratio of the"
+           "\n\rOrifice Diameter divided by the Pipe Diameter.\n\r"
+           "\n\rThis ratio must be less than 0.95\n\r";
 }
 
 }  // namespace
@@ -132,7 +127,7 @@ void txtOriBoreDia_Change(const FormContext& context) {
 
 void cboOriBoreUnit_Click(const FormContext& context) {
     const MainForm& form = context.form;
-    form.cboOriBoreUnit->update();
+    form.cboOriBoreUnit->repaint();
     form.txtOriBoreDia->SetText("");
     const auto beta = form.txtBeta->Number().Single();
     // The limit itself, which the beta field refuses, is converted here.

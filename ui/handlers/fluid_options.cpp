@@ -12,10 +12,6 @@ namespace tarvix {
 
 namespace {
 
-void SetVisible(QWidget* widget, bool visible) {
-    widget->setVisible(visible);
-}
-
 void SelectFluidColors(const FormContext& context, const OptionButton* selected) {
     const MainForm& form = context.form;
     for (OptionButton* option : {form.optLiquid, form.optGas, form.optSteam}) {
@@ -50,15 +46,15 @@ void optLiquid_Click(const FormContext& context) {
     context.state.SuspendCalc = true;
     context.module.FluidType = "L";
     SelectFluidColors(context, form.optLiquid);
-    SetVisible(form.fraSG, true);
-    SetVisible(form.fraTemp, false);
-    SetVisible(form.fraGasSG, false);
-    SetVisible(form.fraPress, false);
-    SetVisible(form.fraDensity, true);
-    SetVisible(form.fraCompCorrection, false);
+    form.fraSG->setVisible(true);
+    form.fraTemp->setVisible(false);
+    form.fraGasSG->setVisible(false);
+    form.fraPress->setVisible(false);
+    form.fraDensity->setVisible(true);
+    form.fraCompCorrection->setVisible(false);
     form.SetTop(*form.fraDensity, kSlot2);
     form.fraDensity->setEnabled(false);
-    SetVisible(form.lblSteamTbl, false);
+    form.lblSteamTbl->setVisible(false);
     DenOptEnableOff(context);
     DenEnableOff(context);
     LoadcboFlowUnit(context);
@@ -74,24 +70,24 @@ void optGas_Click(const FormContext& context) {
     context.state.SuspendCalc = true;
     context.module.FluidType = "G";
     SelectFluidColors(context, form.optGas);
-    SetVisible(form.fraSG, false);
-    SetVisible(form.fraTemp, true);
-    SetVisible(form.fraGasSG, true);
-    SetVisible(form.fraPress, true);
-    SetVisible(form.fraDensity, false);
-    SetVisible(form.fraCompCorrection, true);
+    form.fraSG->setVisible(false);
+    form.fraTemp->setVisible(true);
+    form.fraGasSG->setVisible(true);
+    form.fraPress->setVisible(true);
+    form.fraDensity->setVisible(false);
+    form.fraCompCorrection->setVisible(true);
     form.SetWidth(*form.fraPress, kPressWidthGas);
     form.fraTemp->setEnabled(true);
     TfEnableOn(context);
     ToptEnableOn(context);
     form.fraPress->setEnabled(true);
-    SetVisible(form.fraPress, true);
+    form.fraPress->setVisible(true);
     form.cboPressUnit->setEnabled(true);
     CheckZfCompWarning(context);
     LoadcboFlowUnit(context);
     LoadcboTimeUnit(context);
     context.state.SuspendCalc = false;
-    form.canvas().repaint();
+    form.canvas().window()->repaint();
     DoOrificeCalculations(context);
 }
 
@@ -101,16 +97,16 @@ void optSteam_Click(const FormContext& context) {
     context.module.FluidType = "S";
     SelectFluidColors(context, form.optSteam);
     ShowMessage(context, "", BackColor::PaleGrey);
-    SetVisible(form.fraSG, false);
-    SetVisible(form.fraTemp, false);
-    SetVisible(form.fraGasSG, false);
-    SetVisible(form.fraPress, true);
-    SetVisible(form.fraDensity, true);
-    SetVisible(form.fraCompCorrection, false);
+    form.fraSG->setVisible(false);
+    form.fraTemp->setVisible(false);
+    form.fraGasSG->setVisible(false);
+    form.fraPress->setVisible(true);
+    form.fraDensity->setVisible(true);
+    form.fraCompCorrection->setVisible(false);
     form.SetTop(*form.fraDensity, kSlot1);
     form.SetWidth(*form.fraPress, kTabWidth);
     form.fraDensity->setEnabled(true);
-    SetVisible(form.lblSteamTbl, true);
+    form.lblSteamTbl->setVisible(true);
     DenEnableOn(context);
     DenOptEnableOn(context);
     form.optSaturated->Select();
@@ -118,7 +114,7 @@ void optSteam_Click(const FormContext& context) {
     LoadcboFlowUnit(context);
     LoadcboTimeUnit(context);
     form.fraPress->setEnabled(true);
-    SetVisible(form.fraPress, true);
+    form.fraPress->setVisible(true);
     form.cboPressUnit->setEnabled(true);
     context.state.SuspendCalc = false;
     DoOrificeCalculations(context);
@@ -186,38 +182,38 @@ void optSuperheated_Click(const FormContext& context) {
 
 void optCompCorrNone_Click(const FormContext& context) {
     const MainForm& form = context.form;
-    SetVisible(form.cboZfDensityUnit, false);
-    SetVisible(form.lblCompCorr, false);
-    SetVisible(form.txtZf, false);
+    form.cboZfDensityUnit->setVisible(false);
+    form.lblCompCorr->setVisible(false);
+    form.txtZf->setVisible(false);
     CheckZfCompWarning(context);
-    SetVisible(form.fraGasSG, true);
+    form.fraGasSG->setVisible(true);
     CalculateUnlessSuspended(context);
 }
 
 void optCompDensity_Click(const FormContext& context) {
     MainForm& form = context.form;
-    SetVisible(form.cboZfDensityUnit, true);
+    form.cboZfDensityUnit->setVisible(true);
     form.SetWidth(*form.lblCompCorr, kCompCorrWidthDensity);
     form.lblCompCorr->setText(QStringLiteral("Operating Density"));
-    SetVisible(form.lblCompCorr, true);
-    SetVisible(form.txtZf, true);
+    form.lblCompCorr->setVisible(true);
+    form.txtZf->setVisible(true);
     form.txtZf->SetText("");
     CheckZfCompWarning(context);
     // A mass rate of a known density needs no gravity.
-    SetVisible(form.fraGasSG, SelectedFlowKind(context) != FlowKind::Mass);
+    form.fraGasSG->setVisible(SelectedFlowKind(context) != FlowKind::Mass);
     CalculateUnlessSuspended(context);
 }
 
 void optCompZf_Click(const FormContext& context) {
     MainForm& form = context.form;
-    SetVisible(form.cboZfDensityUnit, false);
+    form.cboZfDensityUnit->setVisible(false);
     form.SetWidth(*form.lblCompCorr, kCompCorrWidthZf);
     form.lblCompCorr->setText(QStringLiteral("Compressibility at Flowing Conditions (Zf)"));
-    SetVisible(form.lblCompCorr, true);
-    SetVisible(form.txtZf, true);
+    form.lblCompCorr->setVisible(true);
+    form.txtZf->setVisible(true);
     form.txtZf->SetText("");
     CheckZfCompWarning(context);
-    SetVisible(form.fraGasSG, true);
+    form.fraGasSG->setVisible(true);
     CalculateUnlessSuspended(context);
 }
 
