@@ -47,6 +47,9 @@ inline constexpr double kMaxDiffPressInH2O = 1000000.0;  // of a liquid
 inline constexpr float kMaxBeta = 0.95F;
 inline constexpr float kMinBeta = 0.0F;  // not itself
 
+// To which a beta is rounded.
+inline constexpr int kBetaDecimals = 5;
+
 // The iterations of gas and steam.
 inline constexpr int kMaxSteps = 100;
 inline constexpr float kFirstDiffPressInH2O = 50.0F;

@@ -7,8 +7,6 @@ namespace tarvix {
 
 namespace {
 
-constexpr int kBetaDecimals = 5;
-
 Outcome BetaWithinLimits(float roundedBeta) {
     if (roundedBeta > kMaxBeta) {
         return Outcome::Message(kBetaTooLarge);

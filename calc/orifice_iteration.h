@@ -47,9 +47,8 @@ Outcome IterateDiffPressure(const MeteringRun& run, float target, float pressure
 // Solves for beta, from 0.5.
 //   requiredSquare(ye, beta)  R, from the product of Y and E, a single
 //   isConverged(s)            whether s lies within the band
-//   outOfRange(beta, n)       what ends the iteration after step n because of the beta that the
-//   step
-//                             led to; nothing where it goes on
+//   outOfRange(beta, n)       what ends the iteration after step n because of the beta that it led
+//                             to; nothing where it goes on
 template <typename RequiredSquare, typename Band, typename Range>
 Outcome IterateBeta(const MeteringRun& run, float pressurePsia, RequiredSquare requiredSquare,
                     Band isConverged, Range outOfRange, const IterationTexts& texts) {

@@ -130,4 +130,8 @@ std::optional<std::string> PipeDiameterInUnit(std::string_view unitName,
     return std::string(pipeIdText.substr(open + 1, end - open - 1));
 }
 
+int PipeDiameterDecimals(std::string_view unitName) {
+    return unitName == kInches ? kInchDecimals : kMetricDecimals;
+}
+
 }  // namespace tarvix

@@ -14,6 +14,11 @@ inline constexpr std::string_view kUserEntered = "(User Entered)";
 inline constexpr std::string_view kOtherUserEntered = "Other (User Entered)";
 inline constexpr std::string_view kNoDiameterYet = "0";
 
+// Ends the program where a unit is none of the three; it names the user-entered pipe, whatever pipe
+// it is.
+inline constexpr const char* kUnknownPipeUnit =
+    "Unrecognized pipe ID unit for 'User Entered' pipe ID";
+
 // How `sizeText` (as shown in inches) with the value `sizeIn` is shown in a unit of length: in
 // inches as it stands, else converted, with 1 decimal.
 std::string NominalSizeText(std::string_view sizeText, float sizeIn, const Unit& unit,
@@ -46,5 +51,8 @@ std::optional<UserEnteredPipe> UserEnteredPipeOf(double answer, const Unit& unit
 std::optional<std::string> PipeDiameterInUnit(std::string_view unitName,
                                               std::string_view diameterText,
                                               std::string_view pipeIdText);
+
+// With how many decimals that diameter is told outside of the list: 3 in inches, else 2.
+int PipeDiameterDecimals(std::string_view unitName);
 
 }  // namespace tarvix

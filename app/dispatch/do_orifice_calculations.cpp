@@ -15,16 +15,15 @@ void StandardBetaRangeCheck(const FormContext& context) {
     }
 }
 
-NumericField& ResultField(const FormContext& context, SolveFor mode) {
-    switch (mode) {
-        case SolveFor::FlowRate:
-            return *context.form.txtFlow;
-        case SolveFor::DiffPressure:
-            return *context.form.txtDeltaP;
-        case SolveFor::Beta:
-            break;
+// The field of the selected mode; null while none is selected.
+NumericField* ResultField(const MainForm& form) {
+    if (form.optCalcFR->Value()) {
+        return form.txtFlow;
     }
-    return *context.form.txtBeta;
+    if (form.optCalcDP->Value()) {
+        return form.txtDeltaP;
+    }
+    return form.optCalcBeta->Value() ? form.txtBeta : nullptr;
 }
 
 }  // namespace
@@ -52,7 +51,8 @@ void DoOrificeCalculations(const FormContext& context) {
 
     const CalculationResult result = CalculateResult(sheet, module.working, module);
     module.MsgText = result.message;
-    NumericField& field = ResultField(context, *sheet.mode);
+    // Without a mode there would be no result.
+    NumericField& field = *ResultField(context.form);
     field.SetText("");
     if (!result.message.empty()) {
         ShowMessage(context, result.message, BackColor::Red);
@@ -75,16 +75,12 @@ void EnablePrinting(const FormContext& context, bool enabled) {
 
 void ClearResult(const FormContext& context) {
     const MainForm& form = context.form;
-    if (form.optCalcFR->Value()) {
-        form.txtFlow->SetText("");
-    } else if (form.optCalcDP->Value()) {
-        form.txtDeltaP->SetText("");
-    } else if (form.optCalcBeta->Value()) {
-        form.txtBeta->SetText("");
-    } else {
-        form.txtFlow->SetText("");
-        form.txtDeltaP->SetText("");
-        form.txtBeta->SetText("");
+    if (NumericField* field = ResultField(form)) {
+        field->SetText("");
+        return;
+    }
+    for (NumericField* field : {form.txtFlow, form.txtDeltaP, form.txtBeta}) {
+        field->SetText("");
     }
 }
 

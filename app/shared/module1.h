@@ -30,6 +30,10 @@ struct FieldSelection {
     std::string after;     // right of the selection or of the caret
 };
 
+// What the customer window leaves in MsgResult.
+inline constexpr int kPrint = 1;
+inline constexpr int kDoNotPrint = 2;
+
 class Module1 {
   public:
     Module1(Platform& platform, NumberLocale locale);
@@ -40,7 +44,7 @@ class Module1 {
     std::string MsgText;    // the message being composed or shown
     std::string MsgTitle;
     int MsgStyle = 0;
-    int MsgResult = 0;  // answer of the last box; the customer window: 1 print, 2 do not print
+    int MsgResult = 0;  // answer of the last box, or of the customer window
     WorkingValues working;
     std::string CustLine1;
     std::string CustLine2;

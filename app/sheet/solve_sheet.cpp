@@ -9,8 +9,6 @@ namespace tarvix {
 
 namespace {
 
-constexpr int kBetaDecimals = 5;
-
 // The sheet's run in calculation units, and the factors that led there.
 struct SheetRun {
     MeteringRun run;

@@ -4,8 +4,8 @@
 #include "app/window/system_locale.h"
 #include "app/window/window_frame.h"
 #include "app/window/window_place.h"
-#include "report/printer/printed_text.h"
 #include "ui/controls/readable_palette.h"
+#include "ui/form/accessible_names.h"
 #include "ui/form/input_reader.h"
 #include "ui/handlers/bore_and_beta_fields.h"
 #include "ui/handlers/flow_unit_boxes.h"
@@ -28,7 +28,7 @@ namespace tarvix {
 namespace {
 
 // Links the controls of the form with their handlers. What a screen reader is told of a control
-// follows what its handler has done, so the names are linked after this.
+// follows what its handler has done, so the names are linked after them.
 MainForm& LinkedForm(const FormContext& context) {
     ConnectNumericFields(context);
     ConnectBoreAndBeta(context);
@@ -37,13 +37,8 @@ MainForm& LinkedForm(const FormContext& context) {
     ConnectPipeBoxes(context);
     ConnectFluidOptions(context);
     ConnectModeOptions(context);
+    NameControls(context.form);
     return context.form;
-}
-
-// With the month's name as the system's locale has it; in English where no font has its letters.
-std::string PrintableDate(const QDate& date) {
-    const std::string text = DateText(date, QLocale::system());
-    return CanBePrinted(QString::fromStdString(text)) ? text : DateText(date, QLocale::c());
 }
 
 }  // namespace
@@ -53,8 +48,7 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
       host_(host),
       form_(view_.canvas(), view_.footer(), *menuBar()),
       context_{form_, state_, module_},
-      accessibleNames_(LinkedForm(context_)),
-      spokenResult_(form_, form_.announcements),
+      spokenResult_(LinkedForm(context_), form_.announcements),
       resultLine_(form_, view_) {
     setWindowTitle(QStringLiteral("Brindle Tarvix"));
     // Never larger than the form, so there is nothing to maximize.
@@ -71,7 +65,7 @@ frmTarvix::frmTarvix(Module1& module, WindowHost& host)
     form_.optSgUser->setChecked(true);
     form_.optSaturated->setChecked(true);
     form_.optSteamUser->setChecked(true);
-    accessibleNames_.Update();
+    UpdateNames(form_);
     form_.txtMaskNomSize->hide();
     form_.fraZfCompWarning->hide();
     form_.fraPlateThicknessWarning->hide();
@@ -214,13 +208,12 @@ void frmTarvix::ShowLogo() {
 
 void frmTarvix::PrintOrificeReport() {
     host_.ShowCustomerWindow(*this, module_);
-    constexpr int kDoNotPrint = 2;
     if (module_.MsgResult == kDoNotPrint) {
         return;
     }
     setCursor(Qt::BusyCursor);
     ReportSheet sheet = ReadReportSheet(context_);
-    sheet.date = PrintableDate(QDate::currentDate());
+    sheet.date = PrintableDate(QDate::currentDate(), QLocale::system());
     host_.PrintPage(*this, ComposeReport(sheet, module_), logo_->Picture());
     unsetCursor();
 }

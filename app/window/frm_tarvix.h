@@ -5,7 +5,6 @@
 // checks and equation (pure, app/sheet/ and calc/) -> result field or message line.
 #pragma once
 
-#include "ui/form/accessible_names.h"
 #include "ui/form/form_state.h"
 #include "ui/form/form_view.h"
 #include "ui/form/result_line.h"
@@ -60,7 +59,6 @@ class frmTarvix : public QMainWindow {
     FormState state_;
     MainForm form_;
     FormContext context_;
-    AccessibleNames accessibleNames_;
     SpokenResult spokenResult_;
     ResultLine resultLine_;
     std::optional<Logo> logo_;  // from Form_Load on

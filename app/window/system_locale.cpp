@@ -1,5 +1,7 @@
 #include "app/window/system_locale.h"
 
+#include "report/printer/printed_text.h"
+
 #include <QDate>
 #include <QList>
 #include <QLocale>
@@ -63,6 +65,11 @@ std::string DateText(const QDate& date, const QLocale& locale) {
         .arg(named.monthName(date.month(), QLocale::ShortFormat))
         .arg(date.year(), 4, 10, QLatin1Char('0'))
         .toStdString();
+}
+
+std::string PrintableDate(const QDate& date, const QLocale& locale) {
+    const std::string text = DateText(date, locale);
+    return CanBePrinted(QString::fromStdString(text)) ? text : DateText(date, QLocale::c());
 }
 
 }  // namespace tarvix

@@ -19,4 +19,7 @@ NumberLocale SystemNumberLocale();
 // English for a locale that names none.
 std::string DateText(const QDate& date, const QLocale& locale);
 
+// The same for the report: in English, too, where no font here has the letters of the month.
+std::string PrintableDate(const QDate& date, const QLocale& locale);
+
 }  // namespace tarvix

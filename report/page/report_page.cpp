@@ -5,7 +5,6 @@
 #include "report/page/report_notes.h"
 #include "units/pipe_id_texts.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace tarvix {
@@ -169,11 +168,12 @@ void ReportComposer::PrintPipeAndBore() {
         PipeDiameterInUnit(sheet_.pipeIdUnit, inputs_.pipeDiameter.text(), sheet_.pipeIdText);
     if (!diameter) {
         // Names the user-entered pipe, whatever pipe it is.
-        module_.FatalError("Unrecognized pipe ID unit for 'User Entered' pipe ID");
+        module_.FatalError(kUnknownPipeUnit);
     }
-    const int decimals = sheet_.pipeIdUnit == kInches ? 3 : 2;
-    PrintValue(label, Number(EnteredNumber(*diameter, module_.locale()), decimals),
-               sheet_.pipeIdUnit);
+    PrintValue(
+        label,
+        Number(EnteredNumber(*diameter, module_.locale()), PipeDiameterDecimals(sheet_.pipeIdUnit)),
+        sheet_.pipeIdUnit);
     PrintValue("Bore Diameter (approximate)", Number(sheet_.oriBoreDia, 3), sheet_.oriBoreUnit);
     PrintValue("Beta (approximate)", Number(inputs_.beta, 5));
 }

@@ -10,9 +10,6 @@ namespace tarvix {
 
 namespace {
 
-// Narrower can't be read.
-constexpr double kNarrowest = 0.6;
-
 // A line of exactly the room's width, measured in another way, may be a shade wider.
 constexpr double kShade = 1.001;
 

@@ -21,6 +21,9 @@ struct CustomerFit {
     bool missingCharacters = false;
 };
 
+// The least part of its usual width at which a text can be read; what is longer still is cut.
+inline constexpr double kNarrowest = 0.6;
+
 CustomerFit FitCustomerLines(const CustomerLines& lines);
 
 // The room for a customer line, in twips: kCustomerColumns of the report's first font.

@@ -3,7 +3,6 @@
 #include "report/printer/customer_lines.h"
 #include "report/printer/printed_text.h"
 
-#include <QMarginsF>
 #include <QPageLayout>
 #include <QPainter>
 #include <QRectF>
@@ -61,7 +60,6 @@ double ScaleToFit(const ReportPage& page, const Paper& paper) {
 
 // A line that is too long is drawn narrower, as long as it can be read, then cut.
 void PaintLine(QPainter& painter, const ReportLine& line, double textWidth) {
-    constexpr double kNarrowest = 0.6;
     const PrintedText text(QString::fromStdString(line.text), line.font);
     const double room = textWidth - line.xTwips;
     const double narrowed = std::clamp(room / std::max(text.Width(), 1.0), kNarrowest, 1.0);

@@ -97,16 +97,15 @@ PrintOutcome PrintToPrinter(QPrinter& printer, const ReportPage& page, const QIm
 
 // The printer's own paper; without a printer, what is usual where the user lives. A system that
 // names no locale counts as American.
-QPageSize PaperOf(const QPrinterInfo& printer) {
-    QPageSize paper = printer.isNull() ? QPageSize() : printer.defaultPageSize();
+QPageSize UsualPaper(const QPrinterInfo& printer) {
+    const QPageSize paper = printer.isNull() ? QPageSize() : printer.defaultPageSize();
     if (paper.isValid()) {
         return paper;
     }
     const QLocale locale = QLocale::system();
     const bool american =
         locale.language() == QLocale::C || locale.measurementSystem() == QLocale::ImperialUSSystem;
-    paper = QPageSize(american ? QPageSize::Letter : QPageSize::A4);
-    return paper;
+    return QPageSize(american ? QPageSize::Letter : QPageSize::A4);
 }
 
 // On its way to the printer a name is taken for a path, of which only what follows the last slash
@@ -196,7 +195,7 @@ void PrintReport(QWidget& owner, Platform& platform, const ReportPage& page, con
     const QPrinterInfo defaultPrinter = QPrinterInfo::defaultPrinter();
     QPrinter printer(defaultPrinter, QPrinter::HighResolution);
     // The toolkit starts with A4, whatever paper the printer holds.
-    printer.setPageSize(PaperOf(defaultPrinter));
+    printer.setPageSize(UsualPaper(defaultPrinter));
     if (defaultPrinter.isNull()) {
         printer.setOutputFileName(FreeFileName(FolderOfFiles(), page.name));
         if (!ChoosePrinter(printer, owner)) {

@@ -1,6 +1,7 @@
 // Every locale that the toolkit knows: what the program writes in it can be read and typed again.
 #include "app/shared/module1.h"
 #include "app/window/system_locale.h"
+#include "report/printer/printed_text.h"
 #include "tests/core/recording_platform.h"
 
 #include <QDate>
@@ -195,6 +196,24 @@ TEST(EveryLocale, DatesHaveTwoDigitsTheMonthsShortNameAndFourDigits) {
         const std::string text = DateText(day, locale);
         EXPECT_TRUE(text.starts_with("05 ") && text.ends_with(" 2026")) << text;
     });
+}
+
+// Of the 40 scripts that the locales write, no machine has fonts for all.
+TEST(EveryLocale, MonthsOfNoFontArePrintedInEnglish) {
+    const QDate day(2026, 1, 5);
+    int inEnglish = 0;
+    ForEveryLocale([&](const QLocale& locale, const NumberLocale& /*numbers*/) {
+        const std::string own = DateText(day, locale);
+        const std::string printed = PrintableDate(day, locale);
+        if (printed != own) {
+            ++inEnglish;
+            EXPECT_EQ(printed, "05 Jan 2026") << own;
+            EXPECT_FALSE(CanBePrinted(QString::fromStdString(own))) << own;
+        }
+        EXPECT_TRUE(CanBePrinted(QString::fromStdString(printed))) << printed;
+    });
+    EXPECT_GT(inEnglish, 0);
+    EXPECT_EQ(PrintableDate(day, QLocale(QLocale::German)), "05 Jan. 2026");
 }
 
 }  // namespace tarvix

@@ -13,7 +13,6 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <utility>
 
 namespace tarvix {
 

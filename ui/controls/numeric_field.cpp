@@ -92,9 +92,9 @@ void NumericField::ChooseFont() {
     if (Locked()) {
         const QFont whole = parentWidget()->font();
         QFont fitting = chosen.resolve(whole);
-        for (int percent = 100;
-             percent > kSmallestFont &&
-             QFontMetrics(fitting, this).horizontalAdvance(text()) > TextArea().width();) {
+        int percent = 100;
+        while (percent > kSmallestFont &&
+               QFontMetrics(fitting, this).horizontalAdvance(text()) > TextArea().width()) {
             percent -= kFontStep;
             Scale(chosen, whole, percent);
             fitting = chosen.resolve(whole);

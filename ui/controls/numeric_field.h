@@ -33,7 +33,6 @@ class NumericField : public EntryLine {
     void SetLocked(bool locked);
     bool Locked() const { return isReadOnly(); }
     void SetTabStop(bool stop) { setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
-    bool TabStop() const { return (focusPolicy() & Qt::TabFocus) != 0; }
 
     // A result that stands from before, and does not belong to what is entered now, is not current:
     // it is dimmed and not bold.

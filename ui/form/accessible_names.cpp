@@ -55,74 +55,75 @@ FieldWords PropertyWords(const MainForm& form, const NumericField& field) {
                : FieldWords{"Compressibility at Flowing Conditions (Zf)", {}, {}};
 }
 
+void NameFixedControls(const MainForm& form) {
+    SetName(form.imgBrindleLogo, "Brindle");
+    SetName(form.tabOrifice, "Measurement Orifice");
+    SetName(form.tabOrifice->tabBar(), "Measurement Orifice");
+    SetName(form.cboFlowUnit, "Flow Rate unit");
+    SetName(form.cboTimeUnit, "Flow Rate per time");
+    SetName(form.cboDeltaPunit, "Differential Pressure unit");
+    SetName(form.cboPressUnit, "Operating Pressure unit");
+    SetName(form.cboDensityUnit, "Operating Density unit");
+    SetName(form.cboZfDensityUnit, "Compressibility Correction, Operating Density unit");
+    SetName(form.cboPipeID, "Pipe ID and schedule");
+    SetName(form.cboPipeIDUnit, "Pipe ID unit");
+    SetName(form.cboOriBoreUnit, "Orifice Bore Diameter unit");
+    SetName(form.fraSteam1, "Steam");
+    SetName(form.fraSteam2, "Source of the density");
+    SetName(form.txtMaskNomSize, "No Nominal Size, the pipe is user entered");
+    form.cmdPrint->setAccessibleDescription(QStringLiteral("Prints the calculation report"));
+    form.cmdExit->setAccessibleDescription(QStringLiteral("Ends the program"));
+}
+
+void NameOptions(const MainForm& form) {
+    SetName(form.optCalcBeta, "Calculate Beta Ratio");
+    SetName(form.optCalcDP, "Calculate Differential Pressure");
+    SetName(form.optCalcFR, "Calculate Flow Rate");
+    SetName(form.optLiquid, "Liquid");
+    SetName(form.optGas, "Air - Gas");
+    SetName(form.optSteam, "Steam");
+    SetName(form.optSgCalc, "Calculated (from density)");
+    SetName(form.optSgUser, "User Entered");
+    SetName(form.optSuperheated, "Superheated");
+    SetName(form.optSaturated, "Saturated");
+    SetName(form.optSteamTbl, "From ASME Table (Op.Press. based)");
+    SetName(form.optSteamUser, "User Entered");
+    SetName(form.optDegF, "Deg F");
+    SetName(form.optDegC, "Deg C");
+    SetName(form.optPgauge, "Gauge");
+    SetName(form.optPabsolute, "Absolute");
+    SetName(form.optCompCorrNone, "None");
+    SetName(form.optCompDensity, "Density");
+    SetName(form.optCompZf, "Zf");
+}
+
 }  // namespace
 
-AccessibleNames::AccessibleNames(MainForm& form) : form_(form) {
-    NameFixedControls();
-    NameOptions();
-    Update();
+void NameControls(const MainForm& form) {
+    NameFixedControls(form);
+    NameOptions(form);
+    UpdateNames(form);
     // Connected after the handlers of these controls, so that what they have done is named.
-    for (const NamedControl& control : form_.Controls()) {
+    for (const NamedControl& control : form.Controls()) {
         if (control.kind == ControlKind::Option) {
             auto* option = qobject_cast<QRadioButton*>(control.widget);
-            QObject::connect(option, &QAbstractButton::clicked, option, [this] { Update(); });
+            QObject::connect(option, &QAbstractButton::clicked, option,
+                             [&form] { UpdateNames(form); });
         } else if (control.kind == ControlKind::ComboBox) {
             auto* list = qobject_cast<QComboBox*>(control.widget);
-            QObject::connect(list, &QComboBox::activated, list, [this, list] {
-                Update();
+            QObject::connect(list, &QComboBox::activated, list, [&form, list] {
+                UpdateNames(form);
                 AnnounceName(*list);
             });
         }
     }
 }
 
-void AccessibleNames::NameFixedControls() const {
-    SetName(form_.imgBrindleLogo, "Brindle");
-    SetName(form_.tabOrifice, "Measurement Orifice");
-    SetName(form_.tabOrifice->tabBar(), "Measurement Orifice");
-    SetName(form_.cboFlowUnit, "Flow Rate unit");
-    SetName(form_.cboTimeUnit, "Flow Rate per time");
-    SetName(form_.cboDeltaPunit, "Differential Pressure unit");
-    SetName(form_.cboPressUnit, "Operating Pressure unit");
-    SetName(form_.cboDensityUnit, "Operating Density unit");
-    SetName(form_.cboZfDensityUnit, "Compressibility Correction, Operating Density unit");
-    SetName(form_.cboPipeID, "Pipe ID and schedule");
-    SetName(form_.cboPipeIDUnit, "Pipe ID unit");
-    SetName(form_.cboOriBoreUnit, "Orifice Bore Diameter unit");
-    SetName(form_.fraSteam1, "Steam");
-    SetName(form_.fraSteam2, "Source of the density");
-    SetName(form_.txtMaskNomSize, "No Nominal Size, the pipe is user entered");
-    form_.cmdPrint->setAccessibleDescription(QStringLiteral("Prints the calculation report"));
-    form_.cmdExit->setAccessibleDescription(QStringLiteral("Ends the program"));
-}
-
-void AccessibleNames::NameOptions() const {
-    SetName(form_.optCalcBeta, "Calculate Beta Ratio");
-    SetName(form_.optCalcDP, "Calculate Differential Pressure");
-    SetName(form_.optCalcFR, "Calculate Flow Rate");
-    SetName(form_.optLiquid, "Liquid");
-    SetName(form_.optGas, "Air - Gas");
-    SetName(form_.optSteam, "Steam");
-    SetName(form_.optSgCalc, "Calculated (from density)");
-    SetName(form_.optSgUser, "User Entered");
-    SetName(form_.optSuperheated, "Superheated");
-    SetName(form_.optSaturated, "Saturated");
-    SetName(form_.optSteamTbl, "From ASME Table (Op.Press. based)");
-    SetName(form_.optSteamUser, "User Entered");
-    SetName(form_.optDegF, "Deg F");
-    SetName(form_.optDegC, "Deg C");
-    SetName(form_.optPgauge, "Gauge");
-    SetName(form_.optPabsolute, "Absolute");
-    SetName(form_.optCompCorrNone, "None");
-    SetName(form_.optCompDensity, "Density");
-    SetName(form_.optCompZf, "Zf");
-}
-
-void AccessibleNames::Update() {
-    SetName(*form_.cboNomSize,
-            QStringLiteral("Nominal Size of the pipe, ") + UnitIn(*form_.cboPipeIDUnit));
-    for (NumericField* field : form_.NumericFields()) {
-        const FieldWords words = WordsOf(form_, *field);
+void UpdateNames(const MainForm& form) {
+    SetName(*form.cboNomSize,
+            QStringLiteral("Nominal Size of the pipe, ") + UnitIn(*form.cboPipeIDUnit));
+    for (NumericField* field : form.NumericFields()) {
+        const FieldWords words = WordsOf(form, *field);
         QString name = words.quantity;
         for (const QString& further : {words.unit, words.source}) {
             name += further.isEmpty() ? QString() : QStringLiteral(", ") + further;

@@ -15,20 +15,11 @@ struct FieldWords {
 
 FieldWords WordsOf(const MainForm& form, const NumericField& field);
 
-class AccessibleNames {
-  public:
-    // Names the controls of the form. Fields and lists are named anew when a mode, an option or a
-    // unit has been chosen; so this is built after everything that handles a choice.
-    explicit AccessibleNames(MainForm& form);
+// Names the controls of the form. Fields and lists are named anew when a mode, an option or a unit
+// has been chosen; so this is called after everything that handles a choice is linked.
+void NameControls(const MainForm& form);
 
-    // The fields and lists, as modes, options and units stand.
-    void Update();
-
-  private:
-    void NameFixedControls() const;
-    void NameOptions() const;
-
-    MainForm& form_;
-};
+// Names the fields and lists as modes, options and units stand.
+void UpdateNames(const MainForm& form);
 
 }  // namespace tarvix

@@ -9,7 +9,6 @@
 #include "units/unit_tables.h"
 
 #include <span>
-#include <string>
 #include <vector>
 
 namespace tarvix {
@@ -48,7 +47,7 @@ struct FormContext {
 // The entry of `table` that is selected in `list`; null while the table is not filled yet. A
 // position outside the table ends the program.
 template <typename Table>
-auto SelectedEntry(const FormContext& context, const Table& table, const DropDownList& list)
+auto SelectedEntry(const FormContext& context, Table& table, const DropDownList& list)
     -> decltype(&table[0]) {
     if (table.empty()) {
         return nullptr;

@@ -116,8 +116,7 @@ ReportSheet ReadReportSheet(const FormContext& context) {
     sheet.plateWarning = form.IsVisible(*form.fraPlateThicknessWarning);
     sheet.plateWarning1 = Caption(*form.lbl1PlateThicknessWarning);
     sheet.plateWarning2 = Caption(*form.lbl2PlateThicknessWarning);
-    sheet.zfCompWarning = form.IsVisible(*form.fraZfCompWarning) ? context.state.zfCompWarning
-                                                                 : CompressibilityWarning::None;
+    sheet.zfCompWarning = context.state.zfCompWarning;
     return sheet;
 }
 

@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include <string>
 #include <vector>
 
 namespace tarvix {

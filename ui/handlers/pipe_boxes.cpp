@@ -17,14 +17,10 @@ const Unit& PipeUnit(const FormContext& context) {
     return unit != nullptr ? *unit : kLengthUnits.front();
 }
 
-[[noreturn]] void UnknownPipeUnit(const FormContext& context) {
-    context.module.FatalError("Unrecognized pipe ID unit for 'User Entered' pipe ID");
-}
-
 void AskUserEnteredPipe(const FormContext& context) {
     Module1& module = context.module;
     DropDownList& list = *context.form.cboPipeID;
-    EnteredNumber& diameter = context.state.PipeIDTable[static_cast<size_t>(list.ListIndex())];
+    EnteredNumber& diameter = *SelectedEntry(context, context.state.PipeIDTable, list);
 
     const std::string answer =
         module.platform()
@@ -42,7 +38,7 @@ void AskUserEnteredPipe(const FormContext& context) {
     }
     const auto pipe = UserEnteredPipeOf(*value, PipeUnit(context), module.locale());
     if (!pipe) {
-        UnknownPipeUnit(context);
+        module.FatalError(kUnknownPipeUnit);
     }
     diameter = EnteredNumber(pipe->diameterText, module.locale());
     list.setItemText(list.ListIndex(), QString::fromStdString(pipe->shownText));
@@ -111,7 +107,7 @@ void LoadcboPipeID(const FormContext& context) {
         const auto shown =
             ScheduleText(diameter, schedule.text, PipeUnit(context), module.locale());
         if (!shown) {
-            UnknownPipeUnit(context);
+            module.FatalError(kUnknownPipeUnit);
         }
         list.AddItem(*shown);
         table.emplace_back(std::move(diameter), module.locale());

@@ -22,10 +22,6 @@ namespace tarvix {
 
 namespace {
 
-// The outcome of the window, left in Module1's MsgResult.
-constexpr int kPrint = 1;
-constexpr int kDoNotPrint = 2;
-
 // What there is to say about the lines, in one or two sentences; nothing when all is well.
 QString FitText(const CustomerFit& fit) {
     constexpr std::array kNames = {"first customer line", "second customer line", "tag"};

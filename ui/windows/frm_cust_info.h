@@ -13,7 +13,8 @@ namespace tarvix {
 
 class frmCustInfo : public QDialog {
   public:
-    // Shows what `module` holds of earlier reports. Its MsgResult is 1 after Print, else 2.
+    // Shows what `module` holds of earlier reports. Its MsgResult is kPrint after Print, else
+    // kDoNotPrint.
     explicit frmCustInfo(Module1& module, QWidget* parent = nullptr);
 
     void Form_Load();

@@ -4,7 +4,6 @@
 #include "app/shared/module1.h"
 
 #include <QFrame>
-#include <QImage>
 #include <QLabel>
 #include <QString>
 

@@ -69,8 +69,8 @@ int QtPlatform::ShowMessageBox(const MessageBoxRequest& request) {
     const bool canCancel = request.buttons == BoxButtons::OkCancel;
     box.setStandardButtons(canCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
-    const int answer = box.exec();
-    return canCancel && answer != QMessageBox::Ok ? kAnswerCancel : kAnswerOk;
+    // However it is closed, a box with nothing but OK answers OK.
+    return box.exec() == QMessageBox::Ok ? kAnswerOk : kAnswerCancel;
 }
 
 std::optional<std::string> QtPlatform::ShowInputBox(const InputBoxRequest& request) {
