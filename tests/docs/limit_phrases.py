@@ -75,15 +75,21 @@ PHRASES = {
     "kLimitDecimalsBelow": (r"but # decimals below 1",),
     "kResultDecimalsOfZero": (r"\| 0 \| # \|",),
     "kResultDecimalsBelow": (r"\| other \| # \|",),
+    # Printing.
+    "kCustomerColumns": (r"is longer than # characters", r"has room for # characters"),
+    "kNarrowest": (r"at # % of their width", r"narrower, down to # %"),
+    "kRoomForPage": (r"less than # bytes, which a page",),
     # The steam table.
     "the steam table's last row": (r"needs 0 to # psi gauge", r"0 to # psi, \d+ pairs",
                                    r"above # psi gauge \| \| `The Operating Density"),
     "the steam table's rows": (r"0 to \d+ psi, # pairs",),
 }
 
-# Codes and sizes that no user meets.
-NO_LIMITS = {"kAllOfThem", "kAnswerCancel", "kAnswerOk", "kBackspace", "kDataBad", "kDataGood",
-             "kStyleCriticalOk", "kStyleCriticalOkCancel"}
+# Codes and sizes that no user meets, and measures of the paper, which pictures of it show.
+NO_LIMITS = {"kAllOfThem", "kAnswerCancel", "kAnswerOk", "kBackspace", "kCustomerPrefix", "kDataBad",
+             "kDataGood", "kDoNotPrint", "kHair", "kInk", "kLeftMargin", "kNearlyWhite", "kNoLimit",
+             "kNotesTopTwips", "kPrint", "kShade", "kStyleCriticalOk", "kStyleCriticalOkCancel",
+             "kTopMargin", "kTwipsPerInch", "kTwipsPerPoint", "kValueColumn"}
 
 # Where docs/method.md lists limits: from this text to the next that matches.
 LIMIT_LISTS = (

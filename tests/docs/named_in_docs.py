@@ -2,12 +2,12 @@
 """What the program says and where its limits lie stands in the documents, and what the documents
 say of messages and limits is the program's, so that neither changes without the other.
 
-Messages are the texts of the calculator and of the window's handlers that read as sentences; a
-message put together from pieces is looked for piece by piece, and the whole ones that the documents
-list are those that the scenarios see. Limits are the named constants of the
-calculator; limit_phrases.py tells the words in which the documents name each. The words must be
-there, with the program's number wherever they stand; and where the documents list limits, no number
-stands beside such words. Units are compared row by row in method_tables_test.cpp.
+Messages are the texts of the calculator, of the window's handlers and of the boxes around them that
+read as sentences; a message put together from pieces is looked for piece by piece, and the whole ones
+that the documents list are those that the scenarios see. Limits are the named constants of the
+calculator and of the printing; limit_phrases.py tells the words in which the documents name each. The
+words must be there, with the program's number wherever they stand; and where the documents list
+limits, no number stands beside such words. Units are compared row by row in method_tables_test.cpp.
 """
 
 import json
@@ -19,7 +19,10 @@ from pathlib import Path
 from limit_phrases import LIMIT_LISTS, NO_LIMITS, PHRASES
 
 ROOT = Path(__file__).resolve().parents[2]
-FOLDERS = ("app/dispatch", "app/shared", "app/sheet", "calc", "numbers", "ui/handlers", "units")
+FOLDERS = ("app/dispatch", "app/shared", "app/sheet", "calc", "numbers", "report/printer", "ui/handlers",
+           "units")
+# Of the other folders, which hold captions, what speaks in boxes and notes.
+FILES = ("report/page/report_page.h", "ui/windows/frm_cust_info.cpp", "ui/windows/logo_picture.cpp")
 DOCUMENTS = ("README.md", "docs/method.md", "docs/accuracy.md", "packaging/linux/tarvix.1")
 
 # Internal errors, which no user meets, and the box that shows them.
@@ -30,6 +33,10 @@ INTERNAL = (
     "Unrecognized pipe ID unit", "not recognized.", "not found.",
     "intermediate results must have the precision of their type",
 )
+# Names of fonts and of the program, what buttons and fields are called.
+CAPTIONS = ("Brindle Tarvix 3.0", "Nimbus Mono PS", "Print to File", "Customer, second line",
+            "Prints the report with these lines", "Empties the three lines",
+            "Closes the window without printing")
 # Schedules of pipes, which are a table; it is compared with its copy in tests/data.
 SCHEDULE = re.compile(r"(Sch|STD|XS)\b")
 # The line ends, tabs and numbers of the product's boxes are its own matter.
@@ -40,7 +47,7 @@ NUMBER = r"\d[\d,]*(?:\.\d+)?"
 
 def sources():
     return [path for folder in FOLDERS for path in sorted((ROOT / folder).glob("*.[ch]*"))
-            if path.suffix in (".cpp", ".h")]
+            if path.suffix in (".cpp", ".h")] + [ROOT / file for file in FILES]
 
 
 def plain(text):
@@ -52,15 +59,15 @@ def literals(path):
     """The texts of a source, those that stand one after the other as one."""
     code = re.sub(r"^\s*#.*$|(?<!:)//.*$", "", path.read_text(), flags=re.M)
     for match in re.finditer(r'"(?:[^"\\\n]|\\.)*"(?:\s*"(?:[^"\\\n]|\\.)*")*', code):
-        text = re.sub(r'"\s*"', "", match.group())[1:-1]
-        yield from (piece.strip() for piece in re.split(r"\\[nrt]", text))
+        text = re.sub(r'(?<!\\)"\s*"', "", match.group())[1:-1].replace('\\"', '"')
+        yield from (piece.strip() for piece in re.split(r"\\[nrt]|%[1-9]", text))
 
 
 def messages():
     return {(text, path.relative_to(ROOT).as_posix()) for path in sources()
             for text in literals(path)
             if SENTENCE.search(text) and not SCHEDULE.match(text)
-            and not any(internal in text for internal in INTERNAL)}
+            and text not in CAPTIONS and not any(internal in text for internal in INTERNAL)}
 
 
 def message_faults(text, method):
@@ -96,7 +103,7 @@ def limits():
     """The named constants: name, type, value."""
     for path in sources():
         yield from ((name, kind, float(number.replace("'", ""))) for kind, name, number in
-                    re.findall(r"constexpr (float|double|int) (k\w+) = (-?[\d.']+(?:e-?\d+)?)F?;",
+                    re.findall(r"constexpr (float|double|int|qint64) (k\w+) = (-?[\d.']+(?:e-?\d+)?)F?;",
                                path.read_text()) if name not in NO_LIMITS)
     rows = re.findall(r"\{(\d+), [\d.]+F?\}", (ROOT / "calc/steam_table.cpp").read_text())
     yield "the steam table's last row", "int", float(rows[-1])
@@ -115,13 +122,14 @@ def limit_faults(text, method):
     for name, kind, value in limits():
         known.add(name)
         for phrase in PHRASES.get(name, ()):
+            parts = 100 if "# %" in phrase else 1
             found = list(re.finditer(phrase.replace("#", f"({NUMBER})(?![\\d%])"), text))
             named += [match.group() for match in found]
             if not found:
                 faults.append(f"{name}: no document says \"{phrase}\"")
             faults += [f"{name} is {value:.12g}, and a document says \"{match.group()}\""
                        for match in found
-                       if not same(float(match.group(1).replace(",", "")), kind, value)]
+                       if not same(float(match.group(1).replace(",", "")) / parts, kind, value)]
         if name not in PHRASES:
             faults.append(f"{name}, {value:.12g}: limit_phrases.py does not tell who names it")
     faults += [f"limit_phrases.py: the program has no {name}"
