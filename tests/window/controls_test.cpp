@@ -4,16 +4,14 @@
 #include "ui/controls/entry_line.h"
 #include "ui/controls/tab_control.h"
 
-#include <QAccessible>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFocusEvent>
-#include <QKeyEvent>
 #include <QTabBar>
 #include <QTest>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace tarvix::testing {
 namespace {
@@ -35,110 +33,36 @@ class EntryLineTest : public ::testing::Test {
     EntryLine line_{"12345"};
 };
 
-TEST_F(EntryLineTest, FocusFromAnotherControlIsAnEntry) {
-    for (const auto reason : {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::MouseFocusReason,
-                              Qt::ShortcutFocusReason, Qt::OtherFocusReason}) {
+TEST_F(EntryLineTest, FocusFromAnotherControlIsAnEntryAndOneThatComesBackIsNone) {
+    const std::pair<Qt::FocusReason, int> reasons[] = {
+        {Qt::TabFocusReason, 1},      {Qt::BacktabFocusReason, 1}, {Qt::MouseFocusReason, 1},
+        {Qt::ShortcutFocusReason, 1}, {Qt::OtherFocusReason, 1},   {Qt::ActiveWindowFocusReason, 0},
+        {Qt::PopupFocusReason, 0},    {Qt::MenuBarFocusReason, 0}};
+    for (const auto& [reason, entries] : reasons) {
         entries_ = 0;
         FocusComes(reason);
-        EXPECT_EQ(entries_, 1) << reason;
+        EXPECT_EQ(entries_, entries) << reason;
     }
 }
 
-TEST_F(EntryLineTest, FocusThatComesBackIsNoEntry) {
-    for (const auto reason :
-         {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
-        FocusComes(reason);
-        EXPECT_EQ(entries_, 0) << reason;
-    }
-}
-
-// After its own menu was open, the next press sets the caret, as in a line that one is typing in.
-TEST_F(EntryLineTest, PressAfterTheMenuSetsTheCaret) {
+// The press that brings the focus leaves the whole text selected. The next press sets the caret; so
+// does the first one of who is in the line already, by a key or from its own menu.
+TEST_F(EntryLineTest, OnlyThePressThatBringsTheFocusKeepsTheSelection) {
+    const auto selectedByAPress = [this] {
+        line_.selectAll();
+        QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
+        return line_.selectedText();
+    };
     line_.show();
-    FocusComes(Qt::TabFocusReason);
-    FocusComes(Qt::PopupFocusReason);
-    line_.selectAll();
-    QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
-    EXPECT_FALSE(line_.hasSelectedText());
-}
-
-// Whoever came by a press and typed is in the line already: the next press sets the caret.
-TEST_F(EntryLineTest, PressAfterAKeySetsTheCaret) {
-    line_.show();
+    FocusComes(Qt::MouseFocusReason);
+    EXPECT_EQ(selectedByAPress(), line_.text());
+    EXPECT_EQ(selectedByAPress(), "");
     FocusComes(Qt::MouseFocusReason);
     QTest::keyClick(&line_, Qt::Key_1);
-    line_.selectAll();
-    QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
-    EXPECT_FALSE(line_.hasSelectedText());
-}
-
-// The press that brings the focus leaves the whole text selected.
-TEST_F(EntryLineTest, PressThatBringsTheFocusKeepsTheSelection) {
-    line_.show();
-    FocusComes(Qt::MouseFocusReason);
-    line_.selectAll();
-    QTest::mousePress(&line_, Qt::LeftButton, {}, line_.rect().center());
-    EXPECT_EQ(line_.selectedText(), line_.text());
-}
-
-// ---- A list that is covered, and the field that covers it ----
-
-bool IsTaken(QWidget& widget, QEvent&& event) {
-    event.setAccepted(true);
-    QCoreApplication::sendEvent(&widget, &event);
-    return event.isAccepted();
-}
-
-bool IsKeyTaken(QWidget& widget) {
-    return IsTaken(widget, QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier));
-}
-
-bool IsWheelTaken(QWidget& widget) {
-    return IsTaken(widget, QWheelEvent(QPointF(1, 1), QPointF(1, 1), QPoint(), QPoint(0, -120),
-                                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false));
-}
-
-TEST(DropDownListAloneTest, WhatACoveredOneDoesNotWantGoesOnToTheWindow) {
-    DropDownList list(nullptr);
-    list.AddItem("one");
-    list.AddItem("two");
-    list.show();
-    list.activateWindow();
-    list.setFocus();
-    EXPECT_TRUE(IsKeyTaken(list));
-    EXPECT_EQ(list.ListIndex(), 1);
-    list.SetCovered(true);
-    EXPECT_FALSE(IsKeyTaken(list));
-    EXPECT_FALSE(IsWheelTaken(list));
-    EXPECT_EQ(list.ListIndex(), 1);
-    EXPECT_EQ(list.focusPolicy(), Qt::ClickFocus) << "Tab passes it by";
-    list.SetCovered(false);
-    EXPECT_EQ(list.focusPolicy(), Qt::StrongFocus);
-}
-
-TEST(DropDownListAloneTest, TheWheelGoesOnToThePageWithoutTheFocus) {
-    DropDownList list(nullptr);
-    list.AddItem("one");
-    list.AddItem("two");
-    EXPECT_FALSE(IsWheelTaken(list));
-    EXPECT_EQ(list.ListIndex(), 0);
-}
-
-TEST(DropDownListAloneTest, ShowsTwentyEntriesAtOnce) {
-    EXPECT_EQ(DropDownList(nullptr).maxVisibleItems(), 20);
-}
-
-TEST(CoverFieldTest, IsNothingToWorkWith) {
-    QWidget window;
-    CoverField cover(&window);
-    EXPECT_TRUE(cover.isReadOnly());
-    EXPECT_EQ(cover.focusPolicy(), Qt::NoFocus);
-    EXPECT_EQ(cover.contextMenuPolicy(), Qt::PreventContextMenu);
-    EXPECT_EQ(cover.cursor().shape(), Qt::ArrowCursor);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&cover)->role(), QAccessible::StaticText);
-    cover.setText("12345");
-    QTest::mouseDClick(&cover, Qt::LeftButton, {}, cover.rect().center());
-    EXPECT_FALSE(cover.hasSelectedText());
+    EXPECT_EQ(selectedByAPress(), "") << "after a key";
+    FocusComes(Qt::TabFocusReason);
+    FocusComes(Qt::PopupFocusReason);
+    EXPECT_EQ(selectedByAPress(), "") << "after its own menu";
 }
 
 // ---- The arrow keys among options ----
@@ -171,16 +95,9 @@ class OptionKeysTest : public ::testing::Test {
     OptionButton* options_[3]{};
 };
 
-TEST_F(OptionKeysTest, GoRoundInBothDirections) {
-    EXPECT_EQ(After(Qt::Key_Down), 1);
-    EXPECT_EQ(After(Qt::Key_Right), 2);
-    EXPECT_EQ(After(Qt::Key_Down), 0);
-    EXPECT_EQ(After(Qt::Key_Up), 2);
-    EXPECT_EQ(After(Qt::Key_Left), 1);
-    EXPECT_EQ(After(Qt::Key_A), 1) << "other keys do nothing";
-}
-
+// How they go round is seen in the main window.
 TEST_F(OptionKeysTest, PassByWhatCannotBeUsed) {
+    EXPECT_EQ(After(Qt::Key_A), 0) << "other keys do nothing";
     options_[1]->setEnabled(false);
     EXPECT_EQ(After(Qt::Key_Down), 2);
     options_[1]->setEnabled(true);
@@ -195,9 +112,8 @@ class TabControlTest : public ::testing::Test {
   protected:
     TabControlTest() {
         auto* layout = new QVBoxLayout(&window_);
-        for (QWidget* widget : {static_cast<QWidget*>(&before_), static_cast<QWidget*>(&tab_)}) {
-            layout->addWidget(widget);
-        }
+        layout->addWidget(&before_);
+        layout->addWidget(&tab_);
         auto* page = new QWidget;
         auto* lines = new QVBoxLayout(page);
         for (QLineEdit*& line : lines_) {
@@ -224,18 +140,12 @@ class TabControlTest : public ::testing::Test {
     QLineEdit* lines_[4]{};
 };
 
-TEST_F(TabControlTest, LeadsToTheFirstControl) {
-    EXPECT_EQ(FocusAfterMnemonic(), lines_[0]);
-}
-
-TEST_F(TabControlTest, PassesByWhatCannotBeUsed) {
+TEST_F(TabControlTest, LeadsToTheFirstControlThatCanBeUsed) {
     lines_[0]->setEnabled(false);
     lines_[1]->hide();
     lines_[2]->setFocusPolicy(Qt::ClickFocus);
     EXPECT_EQ(FocusAfterMnemonic(), lines_[3]);
-}
-
-TEST_F(TabControlTest, StaysWhereNothingCanBeUsed) {
+    before_.setFocus();
     tab_.widget(0)->setEnabled(false);
     EXPECT_EQ(FocusAfterMnemonic(), &before_);
 }

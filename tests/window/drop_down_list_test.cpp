@@ -1,28 +1,36 @@
 // The drop-down lists under real key, mouse and wheel events.
-#include "tests/window/window_states.h"
+#include "tests/window/layout_fixtures.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QTest>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace tarvix::testing {
 namespace {
 
-class DropDownListTest : public ::testing::Test {
+class DropDownListTest : public PlayerTest {
   protected:
-    DropDownListTest() { player_.window(); }
+    DropDownListTest() { window(); }
 
-    MainForm& form() { return player_.form(); }
-    int Calculations() { return player_.window().calculationRuns(); }
+    static QWheelEvent Wheel(QWidget& widget, int steps) {
+        const QPointF middle = QRectF(widget.rect()).center();
+        return QWheelEvent(middle, widget.mapToGlobal(middle), QPoint(), QPoint(0, 120 * steps),
+                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    }
 
     static void TurnWheel(QWidget& widget, int steps) {
-        const QPointF middle = QRectF(widget.rect()).center();
-        QWheelEvent event(middle, widget.mapToGlobal(middle), QPoint(), QPoint(0, 120 * steps),
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent event = Wheel(widget, steps);
         QApplication::sendEvent(&widget, &event);
+    }
+
+    // Whether the widget takes an event and does not leave it to what is around.
+    static bool Takes(QObject& widget, QEvent&& event) {
+        event.setAccepted(true);
+        widget.event(&event);
+        return event.isAccepted();
     }
 
     // Opens the list with the mouse and picks the entry at `index`.
@@ -37,8 +45,6 @@ class DropDownListTest : public ::testing::Test {
             return !list.view()->isVisible();
         }));
     }
-
-    StatePlayer player_;
 };
 
 TEST_F(DropDownListTest, TheWheelOverAListWithoutTheFocusChangesNothing) {
@@ -50,6 +56,8 @@ TEST_F(DropDownListTest, TheWheelOverAListWithoutTheFocusChangesNothing) {
             TurnWheel(*list, -1);
             TurnWheel(*list, -3);
             EXPECT_EQ(list->ListIndex(), index) << control.name.toStdString();
+            EXPECT_FALSE(Takes(*list, Wheel(*list, -1))) << "it is the page's, which scrolls";
+            EXPECT_EQ(list->maxVisibleItems(), 20);
         }
     }
     EXPECT_EQ(Calculations(), before);
@@ -64,30 +72,22 @@ TEST_F(DropDownListTest, TheWheelOverAListWithTheFocusPicksAndCalculates) {
     EXPECT_EQ(Calculations(), before + 1);
 }
 
-TEST_F(DropDownListTest, PickingAnEntryRunsTheHandler) {
+TEST_F(DropDownListTest, PickingAnEntryRunsTheHandlerAndPickingItAgainToo) {
     const int before = Calculations();
-    Pick(*form().cboTimeUnit, 1);
-    EXPECT_EQ(form().cboTimeUnit->Text(), "Hour");
-    EXPECT_EQ(Calculations(), before + 1);
-}
-
-TEST_F(DropDownListTest, PickingTheSelectedEntryAgainRunsTheHandler) {
-    const int selected = form().cboTimeUnit->ListIndex();
-    const int before = Calculations();
-    Pick(*form().cboTimeUnit, selected);
-    EXPECT_EQ(form().cboTimeUnit->ListIndex(), selected);
-    EXPECT_EQ(Calculations(), before + 1);
+    for (int time = 1; time <= 2; ++time) {
+        Pick(*form().cboTimeUnit, 1);
+        EXPECT_EQ(form().cboTimeUnit->Text(), "Hour");
+        EXPECT_EQ(Calculations(), before + time);
+    }
 }
 
 TEST_F(DropDownListTest, PickingTheUserEnteredPipeAgainAsksAgain) {
-    player_.desk().QueueAnswer({true, "4"});
-    player_.desk().QueueAnswer({true, "5"});
-    const int last = form().cboPipeID->count() - 1;
-    Pick(*form().cboPipeID, last);
-    EXPECT_EQ(form().cboPipeID->Text(), "4.000\" (User Entered)");
-    Pick(*form().cboPipeID, last);
-    EXPECT_EQ(form().cboPipeID->Text(), "5.000\" (User Entered)");
-    EXPECT_EQ(player_.desk().TakeBoxes().size(), 2U);
+    for (const std::string diameter : {"4", "5"}) {
+        Player().desk().QueueAnswer({true, diameter});
+        Pick(*form().cboPipeID, form().cboPipeID->count() - 1);
+        EXPECT_EQ(form().cboPipeID->Text(), diameter + ".000\" (User Entered)");
+        EXPECT_EQ(Player().desk().TakeBoxes().size(), 1U);
+    }
 }
 
 TEST_F(DropDownListTest, KeysPickAndRunTheHandler) {
@@ -129,7 +129,7 @@ TEST_F(DropDownListTest, KeysAndTheWheelOpenTheClosedNominalSizes) {
     EXPECT_EQ(Calculations(), before);
 }
 
-TEST_F(DropDownListTest, ANominalSizeIsPickedWithEnter) {
+TEST_F(DropDownListTest, ANominalSizeIsLedToOrTypedAndPickedWithEnter) {
     DropDownList& list = *form().cboNomSize;
     list.setFocus();
     ASSERT_EQ(list.Text(), "2");
@@ -142,13 +142,8 @@ TEST_F(DropDownListTest, ANominalSizeIsPickedWithEnter) {
     EXPECT_FALSE(list.view()->isVisible());
     EXPECT_EQ(list.Text(), "3");
     EXPECT_EQ(Calculations(), before + 1);
-}
-
-TEST_F(DropDownListTest, ATypedSizeIsLedToAndPickedWithEnter) {
-    DropDownList& list = *form().cboNomSize;
-    list.setFocus();
     QTest::keyClick(&list, Qt::Key_8);
-    EXPECT_EQ(list.Text(), "2");
+    EXPECT_EQ(list.Text(), "3");
     QTest::keyClick(list.view(), Qt::Key_Return);
     EXPECT_EQ(list.Text(), "8");
 }
@@ -157,11 +152,9 @@ TEST_F(DropDownListTest, ATypedSizeIsLedToAndPickedWithEnter) {
 
 class CoveredListTest : public DropDownListTest {
   protected:
-    void SetUp() override {
-        DropDownListTest::SetUp();
-        player_.desk().QueueAnswer({true, "4"});
+    CoveredListTest() {
+        Player().desk().QueueAnswer({true, "4"});
         form().cboPipeID->SetListIndex(form().cboPipeID->count() - 1);
-        size_ = form().cboNomSize->ListIndex();
     }
 
     void ExpectNothingHappened() {
@@ -171,11 +164,14 @@ class CoveredListTest : public DropDownListTest {
         EXPECT_TRUE(form().IsVisible(*form().txtMaskNomSize));
     }
 
-    int size_ = -1;
+    const int size_ = form().cboNomSize->ListIndex();
 };
 
 TEST_F(CoveredListTest, TheBlankTakesTheMouse) {
-    QWidget& blank = *form().txtMaskNomSize;
+    QLineEdit& blank = *form().txtMaskNomSize;
+    EXPECT_TRUE(blank.isReadOnly());
+    EXPECT_EQ(blank.cursor().shape(), Qt::ArrowCursor);
+    blank.setText("12345");
     const QPoint middle = blank.geometry().center();
     ASSERT_EQ(form().fraPipe->childAt(middle), &blank);
     QTest::mouseClick(&blank, Qt::LeftButton);
@@ -183,6 +179,7 @@ TEST_F(CoveredListTest, TheBlankTakesTheMouse) {
     QTest::mouseClick(&blank, Qt::RightButton);
     ExpectNothingHappened();
     EXPECT_FALSE(blank.hasFocus());
+    EXPECT_FALSE(blank.hasSelectedText());
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
@@ -191,13 +188,18 @@ TEST_F(CoveredListTest, KeysAndTheWheelDoNotReachTheList) {
     list.setFocus();  // as it has when the list itself has led here
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_F4, Qt::Key_Space, Qt::Key_3}) {
         QTest::keyClick(&list, key);
+        EXPECT_FALSE(Takes(list, QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier)));
         ExpectNothingHappened();
     }
+    EXPECT_FALSE(Takes(list, Wheel(list, -1)));
     TurnWheel(*form().txtMaskNomSize, -1);
     TurnWheel(list, -1);
     ExpectNothingHappened();
     QTest::keyClick(&list, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), form().cboPipeID);
+    EXPECT_EQ(list.focusPolicy(), Qt::ClickFocus) << "the Tab key passes it by";
+    form().cboPipeID->SetListIndex(0);
+    EXPECT_EQ(list.focusPolicy(), Qt::StrongFocus);
 }
 
 TEST_F(DropDownListTest, TheOpenListShowsEveryEntryWhole) {

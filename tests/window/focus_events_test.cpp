@@ -1,6 +1,6 @@
 // What screen readers are told when the focus comes to a field. Of a caret or a selection that is
 // told before the focus they say the wrong thing, or nothing at all.
-#include "tests/window/window_states.h"
+#include "tests/window/layout_fixtures.h"
 
 #include <QAccessible>
 #include <QTest>
@@ -11,11 +11,14 @@
 namespace tarvix::testing {
 namespace {
 
-class FocusEventsTest : public ::testing::Test {
+class FocusEventsTest : public PlayerTest {
   protected:
+    // The window tells of what happens to its fields until it has gone.
+    ~FocusEventsTest() override { player_.reset(); }
+
     // Shows the window, and listens to the field where the toolkit tells of it.
     void ListenTo(NumericField& field) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&player_.window()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
         const auto note = [this, &field] {
             told_.push_back(QAccessible::queryAccessibleInterface(&field)->isValid());
         };
@@ -30,10 +33,7 @@ class FocusEventsTest : public ::testing::Test {
         told_.clear();
     }
 
-    MainForm& form() { return player_.form(); }
-
     std::vector<bool> told_;
-    StatePlayer player_;  // tells of what happens to its fields until it has gone
 };
 
 TEST_F(FocusEventsTest, TheCaretOfAFieldThatWasNeverVisitedIsNotTold) {
@@ -45,7 +45,7 @@ TEST_F(FocusEventsTest, TheCaretOfAFieldThatWasNeverVisitedIsNotTold) {
 
 TEST_F(FocusEventsTest, TheSelectionThatComesAndGoesWithTheFocusIsNotTold) {
     NumericField& field = *form().txtDeltaP;
-    ASSERT_EQ(player_.Play({"", {"click optCalcFR"}}), "");
+    Play({"click optCalcFR"});
     field.setText("142.3");
     ListenTo(field);
     field.setFocus(Qt::TabFocusReason);

@@ -1,14 +1,13 @@
 // Everything can be done without a mouse.
-#include "tests/window/shown_windows.h"
-#include "tests/window/window_states.h"
+#include "tests/window/layout_fixtures.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QMenuBar>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
@@ -23,13 +22,8 @@ using Names = std::vector<std::string>;
 const QStringList kFlowOfWater = {"click optLiquid", "click optCalcFR",    "type txtSGf 1",
                                   "type txtSGb 1",   "type txtDeltaP 100", "type txtBeta 0.5"};
 
-class KeyboardTest : public ::testing::Test {
+class KeyboardTest : public PlayerTest {
   protected:
-    void Play(const QStringList& actions) {
-        const QString refused = player_.Play({"", actions});
-        ASSERT_TRUE(refused.isEmpty()) << refused.toStdString();
-    }
-
     static std::string Focus() {
         const QWidget* widget = QApplication::focusWidget();
         return widget == nullptr ? "" : widget->objectName().toStdString();
@@ -41,7 +35,8 @@ class KeyboardTest : public ::testing::Test {
     }
 
     // The controls that the key reaches from `first` until it comes back to it.
-    static Names Walk(QWidget* first, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    static Names Walk(QWidget* first, Qt::Key key = Qt::Key_Tab,
+                      Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         constexpr size_t kMoreThanAll = 100;
         first->setFocus(Qt::TabFocusReason);
         Names walked;
@@ -51,26 +46,9 @@ class KeyboardTest : public ::testing::Test {
         } while (QApplication::focusWidget() != first && walked.size() < kMoreThanAll);
         return walked;
     }
-
-    MainForm& form() { return player_.form(); }
-    frmTarvix& window() { return player_.window(); }
-
-    StatePlayer player_;
 };
 
 // ---- The Tab key ----
-
-using FluidAndMode = std::tuple<const char*, const char*>;
-
-class TabOrderTest : public KeyboardTest, public ::testing::WithParamInterface<FluidAndMode> {};
-
-INSTANTIATE_TEST_SUITE_P(AllFluidsAndModes, TabOrderTest,
-                         ::testing::Combine(::testing::Values("optLiquid", "optGas", "optSteam"),
-                                            ::testing::Values("optCalcBeta", "optCalcDP",
-                                                              "optCalcFR")),
-                         [](const ::testing::TestParamInfo<FluidAndMode>& way) {
-                             return std::string(std::get<0>(way.param)) + std::get<1>(way.param);
-                         });
 
 // Frame by frame as they stand in the window, without the result fields.
 Names ExpectedOrder(const std::string& fluid, const std::string& mode, bool canPrint) {
@@ -84,40 +62,35 @@ Names ExpectedOrder(const std::string& fluid, const std::string& mode, bool canP
           "optPgauge"}},
     };
     Names order = {mode, fluid};
-    const Names& properties = kProperties.at(fluid);
-    order.insert(order.end(), properties.begin(), properties.end());
-    const auto add = [&](bool isThere, const char* name) {
-        if (isThere) {
-            order.emplace_back(name);
-        }
+    const auto add = [&](const Names& names, bool areThere = true) {
+        order.insert(order.end(), names.begin(), areThere ? names.end() : names.begin());
     };
-    for (const char* name : {"cboNomSize", "cboPipeID", "cboPipeIDUnit"}) {
-        add(true, name);
-    }
-    add(mode != "optCalcFR", "txtFlow");
-    add(true, "cboFlowUnit");
-    add(true, "cboTimeUnit");
-    add(mode != "optCalcDP", "txtDeltaP");
-    add(true, "cboDeltaPunit");
-    add(mode != "optCalcBeta", "txtOriBoreDia");
-    add(true, "cboOriBoreUnit");
-    add(mode != "optCalcBeta", "txtBeta");
-    add(canPrint, "cmdPrint");
-    add(true, "cmdExit");
+    add(kProperties.at(fluid));
+    add({"cboNomSize", "cboPipeID", "cboPipeIDUnit"});
+    add({"txtFlow"}, mode != "optCalcFR");
+    add({"cboFlowUnit", "cboTimeUnit"});
+    add({"txtDeltaP"}, mode != "optCalcDP");
+    add({"cboDeltaPunit"});
+    add({"txtOriBoreDia"}, mode != "optCalcBeta");
+    add({"cboOriBoreUnit"});
+    add({"txtBeta"}, mode != "optCalcBeta");
+    add({"cmdPrint"}, canPrint);
+    add({"cmdExit"});
     return order;
 }
 
-TEST_P(TabOrderTest, TheTabKeyVisitsEveryUsableControlFrameByFrame) {
-    const auto [fluid, mode] = GetParam();
-    Play({QString("click ") + fluid, QString("click ") + mode});
-    QWidget* first = form().Find(QLatin1String(mode))->widget;
-    const Names order = ExpectedOrder(fluid, mode, false);
-    EXPECT_EQ(Walk(first, Qt::Key_Tab, Qt::NoModifier), order);
-
-    Names backwards(order.rbegin(), order.rend());
-    backwards.insert(backwards.begin(), backwards.back());
-    backwards.pop_back();
-    EXPECT_EQ(Walk(first, Qt::Key_Backtab, Qt::ShiftModifier), backwards);
+TEST_F(KeyboardTest, TheTabKeyVisitsEveryUsableControlFrameByFrame) {
+    for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
+        for (const char* mode : {"optCalcBeta", "optCalcDP", "optCalcFR"}) {
+            SCOPED_TRACE(std::string(fluid) + " " + mode);
+            Play({QString("click ") + fluid, QString("click ") + mode});
+            QWidget* first = form().Find(QLatin1String(mode))->widget;
+            Names order = ExpectedOrder(fluid, mode, false);
+            EXPECT_EQ(Walk(first), order);
+            std::reverse(order.begin() + 1, order.end());
+            EXPECT_EQ(Walk(first, Qt::Key_Backtab, Qt::ShiftModifier), order);
+        }
+    }
 }
 
 TEST_F(KeyboardTest, TheFirstTabStopIsTheSelectedMode) {
@@ -129,13 +102,12 @@ TEST_F(KeyboardTest, TheFirstTabStopIsTheSelectedMode) {
 
 TEST_F(KeyboardTest, PrintIsATabStopWhenThereIsSomethingToPrint) {
     Play(kFlowOfWater);
-    EXPECT_EQ(Walk(form().optCalcFR, Qt::Key_Tab, Qt::NoModifier),
-              ExpectedOrder("optLiquid", "optCalcFR", true));
+    EXPECT_EQ(Walk(form().optCalcFR), ExpectedOrder("optLiquid", "optCalcFR", true));
 }
 
 TEST_F(KeyboardTest, OptionsAndFieldsThatAreOpenedAreTabStops) {
     Play({"click optGas", "click optCompDensity", "click optDegC", "click optPabsolute"});
-    const Names walked = Walk(form().optCalcBeta, Qt::Key_Tab, Qt::NoModifier);
+    const Names walked = Walk(form().optCalcBeta);
     const Names expected = {
         "optCalcBeta",      "optGas",       "txtTf",     "optDegC",        "txtPf",
         "cboPressUnit",     "optPabsolute", "txtGasSGb", "optCompDensity", "txtZf",
@@ -147,18 +119,16 @@ TEST_F(KeyboardTest, OptionsAndFieldsThatAreOpenedAreTabStops) {
 TEST_F(KeyboardTest, TheCoveredNominalSizeIsNoTabStop) {
     Play({"answer text 4", "choose cboPipeID Other (User Entered)"});
     ASSERT_TRUE(form().IsVisible(*form().txtMaskNomSize));
-    Names walked = Walk(form().optCalcBeta, Qt::Key_Tab, Qt::NoModifier);
-    EXPECT_EQ(std::count(walked.begin(), walked.end(), "cboNomSize"), 0);
+    EXPECT_EQ(std::ranges::count(Walk(form().optCalcBeta), "cboNomSize"), 0);
     Play({"choose cboPipeID #0"});
-    walked = Walk(form().optCalcBeta, Qt::Key_Tab, Qt::NoModifier);
-    EXPECT_EQ(std::count(walked.begin(), walked.end(), "cboNomSize"), 1);
+    EXPECT_EQ(std::ranges::count(Walk(form().optCalcBeta), "cboNomSize"), 1);
 }
 
 // ---- Arrow keys in the groups of options ----
 
-TEST_F(KeyboardTest, ArrowKeysSelectAndRunTheHandler) {
+TEST_F(KeyboardTest, ArrowKeysAndSpaceSelectAndRunTheHandler) {
     Play({"click optCalcBeta"});
-    const int before = window().calculationRuns();
+    const int before = Calculations();
     Press(Qt::Key_Down);
     EXPECT_TRUE(form().optCalcDP->Value());
     EXPECT_EQ(BackColorOf(*form().optCalcDP), BackColor::Green);
@@ -172,7 +142,10 @@ TEST_F(KeyboardTest, ArrowKeysSelectAndRunTheHandler) {
     EXPECT_TRUE(form().optCalcFR->Value()) << "before the first stands the last";
     Press(Qt::Key_Left);
     EXPECT_TRUE(form().optCalcDP->Value());
-    EXPECT_EQ(window().calculationRuns() - before, 5) << "each arrow calculated once";
+    EXPECT_EQ(Calculations() - before, 5) << "each arrow calculated once";
+    form().optCalcFR->setFocus();
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(form().optCalcFR->Value()) << "Space selects what has the focus";
 }
 
 TEST_F(KeyboardTest, AnArrowLeadsToTheFieldThatTheOptionOpens) {
@@ -186,43 +159,28 @@ TEST_F(KeyboardTest, AnArrowLeadsToTheFieldThatTheOptionOpens) {
     EXPECT_EQ(Focus(), "txtDensity");
 }
 
-TEST_F(KeyboardTest, ArrowsPassByDisabledOptions) {
-    Play({"click optSteam", "click optSuperheated", "focus optSteamUser"});
-    ASSERT_FALSE(form().IsEnabled(*form().optSteamTbl));
-    Press(Qt::Key_Up);
-    EXPECT_TRUE(form().optSteamUser->Value());
-    EXPECT_FALSE(form().optSteamTbl->Value());
-}
-
-TEST_F(KeyboardTest, SpaceSelectsTheOptionThatHasTheFocus) {
-    Play({"click optCalcBeta"});
-    form().optCalcFR->setFocus();
-    Press(Qt::Key_Space);
-    EXPECT_TRUE(form().optCalcFR->Value());
-}
-
 // ---- Mnemonics and shortcuts ----
 
 TEST_F(KeyboardTest, MnemonicsDoNotClash) {
-    const auto mnemonic = [](const QString& caption) {
-        const auto at = caption.indexOf('&');
-        return at < 0 ? QString() : QString(caption.at(at + 1)).toUpper();
+    const auto addMnemonic = [](QStringList& keys, const QString& caption) {
+        if (const auto at = caption.indexOf('&'); at >= 0) {
+            keys += caption.mid(at + 1, 1).toUpper();
+        }
     };
-    QStringList window_level;
+    QStringList inWindow;
     for (const QAction* action : window().menuBar()->actions()) {
-        window_level += mnemonic(action->text());
+        addMnemonic(inWindow, action->text());
     }
-    window_level += mnemonic(form().tabOrifice->tabText(0));
+    addMnemonic(inWindow, form().tabOrifice->tabText(0));
     for (const QAbstractButton* button : form().canvas().findChildren<QAbstractButton*>()) {
-        window_level += mnemonic(button->text());
+        addMnemonic(inWindow, button->text());
     }
-    window_level.removeAll(QString());
-    EXPECT_EQ(window_level, QStringList({"F", "A", "M"}));
-    QStringList file_menu;
+    EXPECT_EQ(inWindow, QStringList({"F", "A", "M"}));
+    QStringList inFileMenu;
     for (const QAction* action : form().mnuFile->actions()) {
-        file_menu += mnemonic(action->text());
+        addMnemonic(inFileMenu, action->text());
     }
-    EXPECT_EQ(file_menu, QStringList({"P", "X"}));
+    EXPECT_EQ(inFileMenu, QStringList({"P", "X"}));
 }
 
 TEST_F(KeyboardTest, AltMLeadsToTheFirstControlOfTheTab) {
@@ -233,6 +191,21 @@ TEST_F(KeyboardTest, AltMLeadsToTheFirstControlOfTheTab) {
         EXPECT_EQ(Focus(), first);
     }
 }
+
+// Keeps the names of what is shown.
+class ShownWindows : public QObject {
+  public:
+    ShownWindows() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Show && object->isWidgetType()) {
+            names += object->objectName();
+        }
+        return false;
+    }
+
+    QStringList names;
+};
 
 TEST_F(KeyboardTest, F1AndAltAShowTheAboutWindow) {
     Play({"focus txtPf"});
@@ -246,23 +219,28 @@ TEST_F(KeyboardTest, F1AndAltAShowTheAboutWindow) {
 
 TEST_F(KeyboardTest, CtrlPPrintsOnlyWhatIsSolved) {
     const QTemporaryDir folder;
-    player_.desk().SetPrinter(folder.filePath("page.pdf"));
+    Player().desk().SetPrinter(folder.filePath("page.pdf"));
     Play(kFlowOfWater.mid(0, 5));
     Press(Qt::Key_P, Qt::ControlModifier);
-    EXPECT_TRUE(player_.desk().TakePages().empty());
+    EXPECT_TRUE(Player().desk().TakePages().empty());
     Play({"type txtBeta 0.5"});
     Press(Qt::Key_P, Qt::ControlModifier);
-    EXPECT_EQ(player_.desk().TakePages().size(), 1U);
+    EXPECT_EQ(Player().desk().TakePages().size(), 1U);
     EXPECT_EQ(Focus(), "txtBeta") << "the focus is where it was";
 }
 
-TEST_F(KeyboardTest, CtrlQAsksToExit) {
-    player_.desk().QueueAnswer({false, std::nullopt});
-    Play({"focus txtPf"});
-    Press(Qt::Key_Q, Qt::ControlModifier);
-    const auto boxes = player_.desk().TakeBoxes();
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Program Complete. EXIT PROGRAM");
+TEST_F(KeyboardTest, CtrlQAndTheButtonsOwnKeysAskToExit) {
+    const std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers> ways[] = {
+        {"focus txtPf", Qt::Key_Q, Qt::ControlModifier},
+        {"focus cmdExit", Qt::Key_Return, Qt::NoModifier},
+        {"focus cmdExit", Qt::Key_Space, Qt::NoModifier}};
+    for (const auto& [focus, key, modifiers] : ways) {
+        Play({"answer cancel", focus});
+        Press(key, modifiers);
+        const auto boxes = Player().desk().TakeBoxes();
+        ASSERT_EQ(boxes.size(), 1U) << key;
+        EXPECT_EQ(boxes[0].text, "Program Complete. EXIT PROGRAM");
+    }
 }
 
 TEST_F(KeyboardTest, F10OpensTheMenu) {
@@ -274,50 +252,30 @@ TEST_F(KeyboardTest, F10OpensTheMenu) {
 }
 
 TEST_F(KeyboardTest, CtrlCCopiesTheSolvedValueFromAnywhere) {
-    QClipboard& clipboard = *QApplication::clipboard();
     Play(QStringList{"choose cboNomSize 4"} + kFlowOfWater);
-    const auto copied = [&](const char* from) {
-        clipboard.setText("something else");
+    const auto copied = [&](const char* from, bool selected = false) {
+        QApplication::clipboard()->setText("something else");
         Play({QString("focus ") + from});
-        if (auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+        auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        if (field != nullptr && !selected) {
             field->deselect();
         }
         Press(Qt::Key_C, Qt::ControlModifier);
-        return clipboard.text().toStdString();
+        return QApplication::clipboard()->text().toStdString();
     };
     for (const char* control : {"txtDeltaP", "txtBeta", "cboTimeUnit", "optCalcFR", "cmdExit"}) {
         EXPECT_EQ(copied(control), form().txtFlow->Text()) << control;
     }
     EXPECT_EQ(form().txtFlow->Text(), "142.3");
+    EXPECT_EQ(copied("txtDeltaP", true), "100") << "a selection comes first";
     Play({"choose cboFlowUnit Cubic Centimeters"});
     EXPECT_EQ(copied("txtBeta"), form().txtFlow->Text()) << "as it stands, with its groups";
     Play({"choose cboFlowUnit Gallons", "click optCalcDP"});
     EXPECT_EQ(copied("txtFlow"), form().txtDeltaP->Text());
     Play({"click optCalcBeta"});
     EXPECT_EQ(copied("txtFlow"), form().txtBeta->Text());
-}
-
-TEST_F(KeyboardTest, CtrlCCopiesASelectionBeforeTheSolvedValue) {
-    Play(kFlowOfWater + QStringList{"focus txtDeltaP"});
-    Press(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "100");
-}
-
-TEST_F(KeyboardTest, WhereNothingIsSolvedCtrlCCopiesNothing) {
-    QApplication::clipboard()->setText("something else");
-    Play({"click optGas", "focus cboTimeUnit"});
-    Press(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "something else");
-}
-
-TEST_F(KeyboardTest, EnterAndSpacePressTheButtonThatHasTheFocus) {
-    player_.desk().QueueAnswer({false, std::nullopt});
-    player_.desk().QueueAnswer({false, std::nullopt});
-    Play({"focus cmdExit"});
-    Press(Qt::Key_Return);
-    EXPECT_EQ(player_.desk().TakeBoxes().size(), 1U);
-    Press(Qt::Key_Space);
-    EXPECT_EQ(player_.desk().TakeBoxes().size(), 1U);
+    Play({"click optGas"});
+    EXPECT_EQ(copied("cboTimeUnit"), "something else") << "nothing is solved";
 }
 
 }  // namespace

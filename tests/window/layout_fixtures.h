@@ -1,4 +1,5 @@
-// A window on a desktop with a font and colors of the test's own.
+// The main window that scripts are played on, also on a desktop with a font and colors of the
+// test's own.
 #pragma once
 
 #include "tests/window/window_states.h"
@@ -12,15 +13,9 @@
 
 namespace tarvix::testing {
 
-// Sets the desktop's font and colors for a test and takes them back.
-class LayoutTest : public ::testing::Test {
+class PlayerTest : public ::testing::Test {
   protected:
-    void TearDown() override {
-        player_.reset();
-        QApplication::setFont(font_);
-        QApplication::setPalette(palette_);
-    }
-
+    // The window is there from the first use on.
     StatePlayer& Player() {
         if (!player_) {
             player_ = std::make_unique<StatePlayer>();
@@ -28,15 +23,38 @@ class LayoutTest : public ::testing::Test {
         return *player_;
     }
 
-    void Play(const WindowState& state) {
-        const QString refused = Player().Play(state);
-        ASSERT_TRUE(refused.isEmpty()) << refused.toStdString();
+    void Play(const QStringList& actions) {
+        ASSERT_EQ(Player().Play({"", actions}).toStdString(), "");
     }
+
+    frmTarvix& window() { return Player().window(); }
+    MainForm& form() { return Player().form(); }
+    int Calculations() { return window().calculationRuns(); }
+
+    // What comes or goes lets the layout ask for another round.
+    static void Settle() {
+        for (int round = 0; round < 4; ++round) {
+            QApplication::processEvents();
+        }
+    }
+
+    std::unique_ptr<StatePlayer> player_;
+};
+
+// Sets the desktop's font and colors for a test and takes them back.
+class LayoutTest : public PlayerTest {
+  protected:
+    void TearDown() override {
+        player_.reset();
+        QApplication::setFont(font_);
+        QApplication::setPalette(palette_);
+    }
+
+    void Play(const WindowState& state) { ASSERT_EQ(Player().Play(state).toStdString(), ""); }
 
   private:
     QFont font_ = QApplication::font();
     QPalette palette_ = QApplication::palette();
-    std::unique_ptr<StatePlayer> player_;
 };
 
 using Font = std::tuple<const char*, int>;
@@ -47,7 +65,7 @@ class LayoutAtFontTest : public LayoutTest, public ::testing::WithParamInterface
     LayoutAtFontTest() {
         QApplication::setFont(QFont(std::get<0>(GetParam()), std::get<1>(GetParam())));
         // The window is measured, and not looked at: painting it would take most of the time.
-        Player().window().setUpdatesEnabled(false);
+        window().setUpdatesEnabled(false);
     }
 };
 

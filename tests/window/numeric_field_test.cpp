@@ -1,8 +1,6 @@
 // The fields for numbers under real key, mouse and input method events.
-#include "tests/core/named_row.h"
-#include "tests/window/window_states.h"
+#include "tests/window/layout_fixtures.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QMenu>
@@ -12,26 +10,26 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
-#include <memory>
+#include <tuple>
+#include <utility>
 
 namespace tarvix::testing {
 namespace {
 
-class NumericFieldTest : public ::testing::Test {
+class NumericFieldTest : public PlayerTest {
   protected:
     // The flow rate, with the focus and its whole text selected, as after a Tab.
     NumericField& Enter(const QString& text = {}) {
-        NumericField& field = *player_->form().txtFlow;
-        player_->form().optCalcBeta->setFocus();
+        NumericField& field = *form().txtFlow;
+        form().optCalcBeta->setFocus();
         field.setText(text);
         field.setFocus(Qt::TabFocusReason);
         return field;
     }
 
     void UseLocale(const char* name) {
-        player_ = std::make_unique<StatePlayer>();
-        ASSERT_TRUE(player_->Act(QString("locale ") + name).isEmpty());
-        player_->window();
+        player_.reset();
+        Play({QString("locale ") + name});
     }
 
     static void CommitText(QWidget& field, const QString& text) {
@@ -39,8 +37,6 @@ class NumericFieldTest : public ::testing::Test {
         event.setCommitString(text);
         QApplication::sendEvent(&field, &event);
     }
-
-    std::unique_ptr<StatePlayer> player_ = std::make_unique<StatePlayer>();
 };
 
 // ---- Looks ----
@@ -123,49 +119,18 @@ TEST(LockedFieldTest, AnotherStyleOfTheDesktopIsFollowed) {
 
 // ---- Keys ----
 
-TEST_F(NumericFieldTest, LettersBlanksAndPunctuationAreSwallowed) {
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "1a2 E;$%(3),4");
-    QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_Eacute, QString(QChar(0x00C9)),
-                        Qt::NoModifier);
-    EXPECT_EQ(field.text(), "1234");
-}
-
-// What a key meets: the text before, its selection, the keys, the text after.
-struct KeyRow : NamedRow {
-    const char* before;
-    int start, length;
-    const char* keys;
-    const char* after;
-};
-
-class KeysInAField : public NumericFieldTest, public ::testing::WithParamInterface<KeyRow> {};
-
-TEST_P(KeysInAField, AreJudgedByTheTextAround) {
-    const auto& row = GetParam();
-    NumericField& field = Enter(row.before);
-    if (row.length > 0) {
-        field.setSelection(row.start, row.length);
-    } else {
-        field.setCursorPosition(row.start);
+// Which keys are kept is seen in the scenarios; here, that the selection is taken into account:
+// only right of it another separator is looked for.
+TEST_F(NumericFieldTest, ASeparatorIsJudgedByTheTextRightOfTheSelection) {
+    const std::tuple<const char*, int, int, const char*> rows[] = {
+        {"1.25", 2, 2, "1.."}, {"12.5", 0, 2, "12.5"}, {"1.25", 1, 1, "1.25"}};
+    for (const auto& [before, start, length, after] : rows) {
+        NumericField& field = Enter(before);
+        field.setSelection(start, length);
+        QTest::keyClicks(&field, ".");
+        EXPECT_EQ(field.text(), after) << before << " at " << start;
     }
-    QTest::keyClicks(&field, row.keys);
-    EXPECT_EQ(field.text(), row.after);
 }
-
-// clang-format off
-const KeyRow kKeyRows[] = {
-    {"SecondSeparator",          "",     0, 0, "1.2.3..4", "1.234"},
-    {"SeparatorLeftOfSelection", "1.25", 2, 2, ".",        "1.."},   // only right of it is looked
-    {"SeparatorRightOfSelection", "12.5", 0, 2, ".",       "12.5"},
-    {"SeparatorInSelection",     "1.25", 1, 1, ".",        "1.25"},
-    {"SignBehindDigits",         "",     0, 0, "-1-2+",    "-12"},
-    {"SignInFrontOfASign",       "-12",  0, 0, "+",        "+-12"},  // nor whether there is one already
-    {"SignOverTheText",          "125",  0, 3, "-3",       "-3"},
-};
-// clang-format on
-
-INSTANTIATE_TEST_SUITE_P(NumericField, KeysInAField, ::testing::ValuesIn(kKeyRows), kRowName);
 
 TEST_F(NumericFieldTest, CursorAndDeleteKeysWork) {
     NumericField& field = Enter("12345");
@@ -181,20 +146,20 @@ TEST_F(NumericFieldTest, CursorAndDeleteKeysWork) {
 
 TEST_F(NumericFieldTest, EveryKeyThatChangesTheTextCalculates) {
     NumericField& field = Enter();
-    const int before = player_->window().calculationRuns();
+    const int before = Calculations();
     QTest::keyClicks(&field, "12x3");
-    EXPECT_EQ(player_->window().calculationRuns() - before, 3);
+    EXPECT_EQ(Calculations() - before, 3);
     field.selectAll();
     QTest::keyClicks(&field, "1");
     QTest::keyClick(&field, Qt::Key_Home);
-    EXPECT_EQ(player_->window().calculationRuns() - before, 4);
+    EXPECT_EQ(Calculations() - before, 4);
     field.selectAll();
     QTest::keyClicks(&field, "1");
-    EXPECT_EQ(player_->window().calculationRuns() - before, 4) << "the text is the same";
+    EXPECT_EQ(Calculations() - before, 4) << "the text is the same";
 }
 
 TEST_F(NumericFieldTest, ALockedFieldTakesNoKeys) {
-    ASSERT_TRUE(player_->Play({"", {"click optCalcFR"}}).isEmpty());
+    Play({"click optCalcFR"});
     NumericField& field = Enter("142.3");
     ASSERT_TRUE(field.Locked());
     QTest::keyClicks(&field, "9");
@@ -203,60 +168,45 @@ TEST_F(NumericFieldTest, ALockedFieldTakesNoKeys) {
     EXPECT_EQ(field.text(), "142.3");
 }
 
-// ---- The decimal key of the number pad ----
-
-TEST_F(NumericFieldTest, TheNumberPadTypesThePointWhereThePointSeparates) {
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "1");
-    QTest::keyClick(&field, Qt::Key_Comma, Qt::KeypadModifier);
-    QTest::keyClicks(&field, "5");
-    QTest::keyClick(&field, Qt::Key_Period, Qt::KeypadModifier);
-    EXPECT_EQ(field.text(), "1.5") << "the second one is swallowed";
-}
-
-TEST_F(NumericFieldTest, TheNumberPadTypesTheCommaWhereTheCommaSeparates) {
-    UseLocale("de_DE");
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "1");
-    QTest::keyClick(&field, Qt::Key_Period, Qt::KeypadModifier);
-    QTest::keyClicks(&field, "5.");
-    QTest::keyClick(&field, Qt::Key_Comma);
-    EXPECT_EQ(field.text(), "1,5") << "the point is no separator, and a second comma is swallowed";
-}
-
-TEST_F(NumericFieldTest, TheNumberPadsDigitsAndSignsAreKeys) {
-    NumericField& field = Enter();
-    QTest::keyClick(&field, Qt::Key_Minus, Qt::KeypadModifier);
-    QTest::keyClick(&field, Qt::Key_7, Qt::KeypadModifier);
-    QTest::keyClick(&field, Qt::Key_Asterisk, Qt::KeypadModifier);
-    EXPECT_EQ(field.text(), "-7");
+TEST_F(NumericFieldTest, TheNumberPadTypesTheSeparatorOfTheUser) {
+    for (const auto& [locale, number] : {std::pair("en_US", "-7.5"), std::pair("de_DE", "-7,5")}) {
+        UseLocale(locale);
+        for (const Qt::Key key : {Qt::Key_Period, Qt::Key_Comma}) {
+            NumericField& field = Enter();
+            for (const Qt::Key pressed : {Qt::Key_Minus, Qt::Key_7, Qt::Key_Asterisk, key}) {
+                QTest::keyClick(&field, pressed, Qt::KeypadModifier);
+            }
+            QTest::keyClicks(&field, "5");
+            QTest::keyClick(&field, key, Qt::KeypadModifier);
+            EXPECT_EQ(field.text(), number) << "the second one is swallowed";
+        }
+    }
 }
 
 // ---- Input methods ----
 
 TEST_F(NumericFieldTest, WhatAnInputMethodCommitsIsFilteredOneByOne) {
     NumericField& field = Enter("99");
+    EXPECT_TRUE(field.inputMethodHints().testFlag(Qt::ImhFormattedNumbersOnly));
+    CommitText(field, "abc");
+    EXPECT_EQ(field.text(), "99");
+    EXPECT_EQ(field.selectedText(), "99") << "what commits nothing leaves the selection";
     CommitText(field, "1a.2.b3");
     EXPECT_EQ(field.text(), "1.23") << "the selected text is replaced";
     CommitText(field, "x");
     EXPECT_EQ(field.text(), "1.23");
 }
 
-TEST_F(NumericFieldTest, AnInputMethodThatCommitsNothingToKeepLeavesTheSelection) {
-    NumericField& field = Enter("99");
-    CommitText(field, "abc");
-    EXPECT_EQ(field.text(), "99");
-    EXPECT_EQ(field.selectedText(), "99");
-}
-
-TEST_F(NumericFieldTest, AskForAKeyboardForNumbers) {
-    EXPECT_TRUE(player_->form().txtBeta->inputMethodHints().testFlag(Qt::ImhFormattedNumbersOnly));
-}
-
 // ---- Editing ----
 
 TEST_F(NumericFieldTest, CopyCutPasteUndoAndSelectAll) {
     NumericField& field = Enter("12.5");
+    QTest::keyClicks(&field, "71");
+    EXPECT_EQ(field.text(), "71");
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "12.5") << "typing is taken back, too";
+    field.selectAll();
     QClipboard& clipboard = *QApplication::clipboard();
     QTest::keyClick(&field, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(clipboard.text(), "12.5");
@@ -276,15 +226,6 @@ TEST_F(NumericFieldTest, CopyCutPasteUndoAndSelectAll) {
     EXPECT_EQ(field.text(), "ab 1.2.3");
 }
 
-TEST_F(NumericFieldTest, UndoTakesTypingBack) {
-    NumericField& field = Enter("7");
-    QTest::keyClicks(&field, "12");
-    EXPECT_EQ(field.text(), "12");
-    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
-    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(field.text(), "7");
-}
-
 // ---- Focus and mouse ----
 
 class FieldMouseTest : public NumericFieldTest {
@@ -292,7 +233,7 @@ class FieldMouseTest : public NumericFieldTest {
     // The field with its text painted, and the focus elsewhere.
     NumericField& Show(const QString& text) {
         NumericField& field = Enter(text);
-        player_->form().cboTimeUnit->setFocus();
+        form().cboTimeUnit->setFocus();
         field.grab();  // a text box finds out where its text stands when it is painted
         return field;
     }
@@ -310,18 +251,6 @@ class FieldMouseTest : public NumericFieldTest {
         return {field.width() - 6 - 2 * digit + digit / 4, field.height() / 2};
     }
 };
-
-TEST_F(FieldMouseTest, TheFocusSelectsTheWholeText) {
-    for (NumericField* field : player_->form().NumericFields()) {
-        if (!player_->form().IsVisible(*field)) {
-            continue;
-        }
-        player_->form().cboTimeUnit->setFocus();
-        field->setText("0.5");
-        field->setFocus(Qt::TabFocusReason);
-        EXPECT_EQ(field->selectedText(), "0.5") << field->objectName().toStdString();
-    }
-}
 
 TEST_F(FieldMouseTest, TheFirstClickSelectsAndTheSecondSetsTheCaret) {
     NumericField& field = Show("12345");
@@ -369,27 +298,18 @@ TEST_F(FieldMouseTest, AHandThatTremblesKeepsTheSelection) {
     QTest::mouseRelease(&field, Qt::LeftButton, {}, at);
 }
 
-TEST_F(FieldMouseTest, ADragOfTheFirstClickSelectsWhatItPasses) {
+TEST_F(FieldMouseTest, ADragSelectsWhatItPassesAndThatOfTheSecondClickFromItsFirstPixel) {
     NumericField& field = Show("12345");
     const QPoint at = SecondDigitFromTheRight(field);
-    const QPoint end(2, at.y());
-    QTest::mousePress(&field, Qt::LeftButton, {}, at);
-    Drag(field, end);
-    QTest::mouseRelease(&field, Qt::LeftButton, {}, end);
-    EXPECT_EQ(field.selectedText(), "123");
-}
-
-TEST_F(FieldMouseTest, ADragOfTheSecondClickSelectsFromItsFirstPixel) {
-    NumericField& field = Show("12345");
-    const QPoint at = SecondDigitFromTheRight(field);
-    QTest::mouseClick(&field, Qt::LeftButton, {}, at);
-    EXPECT_EQ(field.selectedText(), "12345");
-    QTest::mousePress(&field, Qt::LeftButton, {}, at);
-    const int digit = field.fontMetrics().horizontalAdvance('4');
-    ASSERT_LT(digit, QApplication::startDragDistance());
-    Drag(field, at - QPoint(digit, 0));
-    QTest::mouseRelease(&field, Qt::LeftButton, {}, at - QPoint(digit, 0));
-    EXPECT_EQ(field.selectedText().size(), 1);
+    const QPoint digit(field.fontMetrics().horizontalAdvance('4'), 0);
+    ASSERT_LT(digit.x(), QApplication::startDragDistance());
+    for (const auto& [end, selected] : {std::pair(QPoint(2, at.y()), 3), {at - digit, 1}}) {
+        QTest::mousePress(&field, Qt::LeftButton, {}, at);
+        Drag(field, end);
+        QTest::mouseRelease(&field, Qt::LeftButton, {}, end);
+        EXPECT_EQ(field.selectedText(), QString("123").right(selected));
+        field.deselect();
+    }
 }
 
 TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {
@@ -400,8 +320,8 @@ TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {
     other.show();
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    player_->window().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&player_->window()));
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     EXPECT_EQ(field.selectedText(), "");
     EXPECT_EQ(field.cursorPosition(), 2);
 }
@@ -409,7 +329,7 @@ TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {
 TEST_F(FieldMouseTest, ComingBackFromTheMenuBarKeepsTheCaret) {
     NumericField& field = Enter();
     QTest::keyClicks(&field, "123");
-    QMenuBar& menus = *player_->window().menuBar();
+    QMenuBar& menus = *window().menuBar();
     QTest::keyClick(&field, Qt::Key_F, Qt::AltModifier);
     ASSERT_TRUE(menus.activeAction());
     while (QWidget* menu = QApplication::activePopupWidget()) {

@@ -21,10 +21,7 @@ struct WindowState {
 // warnings.
 std::vector<WindowState> OptionStates();
 
-// One state for each kind of text in the message line, the longest among them.
-std::vector<WindowState> MessageStates();
-
-// All of these.
+// All of these, and one state for each kind of text in the message line, the longest among them.
 std::vector<WindowState> AllWindowStates();
 
 // A window that states are played on.
