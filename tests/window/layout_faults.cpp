@@ -27,11 +27,6 @@ QString Named(const QString& name, const QString& what) {
     return name + ": " + what;
 }
 
-int TextWidth(const QWidget& widget, QString text) {
-    text.remove('&');
-    return QFontMetrics(widget.font()).horizontalAdvance(text);
-}
-
 // Where the style lets each kind of control show its text.
 QRect TextArea(const QPushButton& button) {
     QStyleOptionButton style;
@@ -58,82 +53,75 @@ QRect TextArea(const QLineEdit& field) {
         .adjusted(2, 1, -2, -1);
 }
 
-void CheckText(const QString& name, const QWidget& widget, const QString& text, const QRect& area,
-               QStringList& faults) {
-    const QSize needed(TextWidth(widget, text), QFontMetrics(widget.font()).height());
-    if (needed.width() > area.width() || needed.height() > area.height()) {
-        faults += Named(name, QString("\"%1\" needs %2 x %3 of %4 x %5")
-                                  .arg(text)
-                                  .arg(needed.width())
-                                  .arg(needed.height())
-                                  .arg(area.width())
-                                  .arg(area.height()));
+// What a control shows, and where in its own coordinates; nothing where it shows no text.
+struct ShownText {
+    QString text;
+    QRect area;
+};
+
+ShownText TextOf(QWidget* widget) {
+    if (const auto* label = qobject_cast<QLabel*>(widget)) {
+        const int indent = std::max(label->indent(), 0);
+        return {label->text(), label->contentsRect().adjusted(indent, 0, 0, 0)};
+    }
+    if (const auto* option = dynamic_cast<OptionButton*>(widget)) {
+        return {option->text(), option->TextArea()};
+    }
+    if (const auto* button = qobject_cast<QPushButton*>(widget)) {
+        return {button->text(), TextArea(*button)};
+    }
+    if (const auto* list = qobject_cast<QComboBox*>(widget)) {
+        return {list->currentText(), TextArea(*list)};
+    }
+    if (const auto* field = qobject_cast<QLineEdit*>(widget)) {
+        return {field->text(), TextArea(*field)};
+    }
+    if (const auto* frame = dynamic_cast<FrameBox*>(widget)) {
+        return {frame->title(),
+                QRect(0, 0, frame->width(), FrameBox::CaptionHeight(frame->font()))};
+    }
+    if (const auto* tab = qobject_cast<QTabWidget*>(widget)) {
+        return {tab->tabText(0), tab->tabBar()->tabRect(0)};
+    }
+    return {};
+}
+
+void CheckText(const NamedControl& control, ShownText shown, QStringList& faults) {
+    const auto* label = qobject_cast<const QLabel*>(control.widget);
+    const QFontMetrics metrics(control.widget->font());
+    const QString text = shown.text.remove('&');
+    const QSize needed =
+        label != nullptr && label->wordWrap()
+            ? metrics.boundingRect(shown.area, Qt::TextWordWrap | Qt::AlignLeft, text).size()
+            : QSize(metrics.horizontalAdvance(text), metrics.height());
+    const QSize room = shown.area.size();
+    if (needed.width() > room.width() || needed.height() > room.height()) {
+        faults += Named(control.name, QString("\"%1\" needs %2 x %3 of %4 x %5")
+                                          .arg(text)
+                                          .arg(needed.width())
+                                          .arg(needed.height())
+                                          .arg(room.width())
+                                          .arg(room.height()));
     }
 }
 
-void CheckLabel(const QString& name, const QLabel& label, QStringList& faults) {
-    QRect area = label.contentsRect();
-    if (!label.wordWrap()) {
-        area.adjust(std::max(label.indent(), 0), 0, 0, 0);
-        CheckText(name, label, label.text(), area, faults);
+void CheckContent(const NamedControl& control, QStringList& faults) {
+    if (control.kind == ControlKind::Picture) {
+        const auto& picture = *qobject_cast<QLabel*>(control.widget);
+        const QSizeF size = picture.pixmap().deviceIndependentSize();
+        if (size.width() > picture.width() || size.height() > picture.height()) {
+            faults += Named(control.name, "the picture is larger than its place");
+        }
         return;
     }
-    const QRect needed = QFontMetrics(label.font())
-                             .boundingRect(area, Qt::TextWordWrap | Qt::AlignLeft, label.text());
-    if (needed.width() > area.width() || needed.height() > area.height()) {
-        faults += Named(name, "\"" + label.text() + "\" does not fit on its lines");
+    ShownText shown = TextOf(control.widget);
+    // Results stand in their fields whole; what a user types may be longer than any field.
+    const auto* field = qobject_cast<QLineEdit*>(control.widget);
+    if (field != nullptr && !field->isReadOnly()) {
+        shown.text = "0";
     }
-}
-
-// Results stand in their fields whole; what a user types may be longer than any field.
-void CheckField(const QString& name, const QLineEdit& field, QStringList& faults) {
-    CheckText(name, field, field.isReadOnly() ? field.text() : "0", TextArea(field), faults);
-}
-
-void CheckOwnText(const NamedControl& control, QStringList& faults) {
-    QWidget* widget = control.widget;
-    switch (control.kind) {
-        case ControlKind::Label:
-            CheckLabel(control.name, *qobject_cast<QLabel*>(widget), faults);
-            break;
-        case ControlKind::Option: {
-            const auto& option = *dynamic_cast<OptionButton*>(widget);
-            CheckText(control.name, option, option.text(), option.TextArea(), faults);
-            break;
-        }
-        case ControlKind::Button: {
-            const auto& button = *qobject_cast<QPushButton*>(widget);
-            CheckText(control.name, button, button.text(), TextArea(button), faults);
-            break;
-        }
-        case ControlKind::ComboBox: {
-            const auto& list = *qobject_cast<QComboBox*>(widget);
-            CheckText(control.name, list, list.currentText(), TextArea(list), faults);
-            break;
-        }
-        case ControlKind::TextBox:
-            CheckField(control.name, *qobject_cast<QLineEdit*>(widget), faults);
-            break;
-        case ControlKind::Frame:
-            if (const auto* frame = qobject_cast<QGroupBox*>(widget)) {
-                CheckText(control.name, *frame, frame->title(), frame->rect(), faults);
-            }
-            break;
-        case ControlKind::Tab: {
-            const auto& tab = *qobject_cast<QTabWidget*>(widget);
-            CheckText(control.name, tab, tab.tabText(0), tab.tabBar()->tabRect(0), faults);
-            break;
-        }
-        case ControlKind::Picture: {
-            const auto& picture = *qobject_cast<QLabel*>(widget);
-            const QSizeF size = picture.pixmap().deviceIndependentSize();
-            if (size.width() > picture.width() || size.height() > picture.height()) {
-                faults += Named(control.name, "the picture is larger than its place");
-            }
-            break;
-        }
-        case ControlKind::MenuItem:
-            break;
+    if (!shown.text.isEmpty()) {
+        CheckText(control, shown, faults);
     }
 }
 
@@ -187,10 +175,8 @@ void CheckPair(const NamedControl& one, const NamedControl& other, QStringList& 
     }
 }
 
-using ColorCounts = QHash<QRgb, int>;
-
-ColorCounts CountColors(const QImage& picture, const QRect& area) {
-    ColorCounts counts;
+QHash<QRgb, int> CountColors(const QImage& picture, const QRect& area) {
+    QHash<QRgb, int> counts;
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {
             ++counts[picture.pixel(x, y)];
@@ -199,62 +185,15 @@ ColorCounts CountColors(const QImage& picture, const QRect& area) {
     return counts;
 }
 
-QColor MostFrequentColor(const ColorCounts& counts) {
-    return QColor(std::max_element(counts.cbegin(), counts.cend()).key());
-}
-
-// The contrast of the strongest stroke.
-double PaintedContrast(const ColorCounts& counts, const QColor& background) {
-    double strongest = 1;
-    for (auto color = counts.cbegin(); color != counts.cend(); ++color) {
-        strongest = std::max(strongest, ContrastOf(QColor(color.key()), background));
-    }
-    return strongest;
-}
-
-// Where a control shows text, in its own coordinates; empty for a control that shows none.
-QRect ReadArea(const NamedControl& control) {
-    switch (control.kind) {
-        case ControlKind::Label:
-            return qobject_cast<QLabel*>(control.widget)->text().isEmpty() ? QRect()
-                                                                           : control.widget->rect();
-        case ControlKind::Option:
-            return dynamic_cast<OptionButton*>(control.widget)->TextArea();
-        case ControlKind::Button:
-            return TextArea(*qobject_cast<QPushButton*>(control.widget));
-        case ControlKind::ComboBox:
-            return TextArea(*qobject_cast<QComboBox*>(control.widget));
-        case ControlKind::TextBox: {
-            const auto& field = *qobject_cast<QLineEdit*>(control.widget);
-            return field.text().isEmpty() ? QRect() : TextArea(field);
-        }
-        case ControlKind::Frame: {
-            const auto* frame = dynamic_cast<FrameBox*>(control.widget);
-            return frame == nullptr
-                       ? QRect()
-                       : QRect(0, 0, frame->width(), FrameBox::CaptionHeight(frame->font()));
-        }
-        case ControlKind::Tab:
-            return qobject_cast<QTabWidget*>(control.widget)->tabBar()->tabRect(0);
-        case ControlKind::Picture:
-        case ControlKind::MenuItem:
-            break;
-    }
-    return {};
-}
-
 QColor TextColor(const NamedControl& control) {
-    const QPalette& palette = control.widget->palette();
     const auto group = control.widget->isEnabled() ? QPalette::Active : QPalette::Disabled;
-    switch (control.kind) {
-        case ControlKind::TextBox:
-            return palette.color(group, QPalette::Text);
-        case ControlKind::Button:
-        case ControlKind::ComboBox:
-            return palette.color(group, QPalette::ButtonText);
-        default:
-            return palette.color(group, QPalette::WindowText);
+    auto role = QPalette::WindowText;
+    if (control.kind == ControlKind::TextBox) {
+        role = QPalette::Text;
+    } else if (control.kind == ControlKind::Button || control.kind == ControlKind::ComboBox) {
+        role = QPalette::ButtonText;
     }
+    return control.widget->palette().color(group, role);
 }
 
 }  // namespace
@@ -264,7 +203,7 @@ QStringList LayoutFaults(MainForm& form) {
     const auto visible = VisibleControls(form);
     for (size_t i = 0; i < visible.size(); ++i) {
         const NamedControl& control = *visible[i];
-        CheckOwnText(control, faults);
+        CheckContent(control, faults);
         const QWidget* parent = control.widget->parentWidget();
         if (!RoomIn(*parent).contains(control.widget->geometry())) {
             faults += Named(control.name, "sticks out of what is around it");
@@ -283,7 +222,7 @@ QStringList ListEntryFaults(MainForm& form) {
     for (const NamedControl* control : VisibleControls(form)) {
         if (const auto* list = qobject_cast<QComboBox*>(control->widget)) {
             for (int i = 0; i < list->count(); ++i) {
-                CheckText(control->name, *list, list->itemText(i), TextArea(*list), faults);
+                CheckText(*control, {list->itemText(i), TextArea(*list)}, faults);
             }
         }
     }
@@ -296,22 +235,26 @@ QStringList ContrastFaults(frmTarvix& window, bool strokesAreSolid) {
     const QWidget& whole = *window.centralWidget();
     const QImage picture = window.centralWidget()->grab().toImage();
     for (const NamedControl* control : VisibleControls(form)) {
-        const QRect area = ReadArea(*control);
+        const auto [text, area] = TextOf(control->widget);
         const bool isCovered =
             control->widget == form.cboNomSize && form.IsVisible(*form.txtMaskNomSize);
-        if (area.isEmpty() || isCovered) {
+        // The selected text of the focused field has the desktop's own colors.
+        if (text.isEmpty() || isCovered || control->widget->hasFocus()) {
             continue;
         }
         const QRect onCanvas(control->widget->mapTo(&whole, area.topLeft()), area.size());
-        const ColorCounts colors = CountColors(picture, onCanvas);
-        const QColor background = MostFrequentColor(colors);
-        // The selected text of the focused field has the desktop's own colors.
-        const bool isSelected = control->widget->hasFocus();
+        const QHash<QRgb, int> colors = CountColors(picture, onCanvas);
+        const QColor background(std::max_element(colors.cbegin(), colors.cend()).key());
         double contrast = ContrastOf(TextColor(*control), background);
         if (strokesAreSolid) {
-            contrast = std::min(contrast, PaintedContrast(colors, background));
+            // That of the strongest stroke.
+            double painted = 1;
+            for (auto color = colors.cbegin(); color != colors.cend(); ++color) {
+                painted = std::max(painted, ContrastOf(QColor(color.key()), background));
+            }
+            contrast = std::min(contrast, painted);
         }
-        if (!isSelected && contrast < kReadable) {
+        if (contrast < kReadable) {
             faults +=
                 Named(control->name,
                       QString("contrast %1 on %2").arg(contrast, 0, 'f', 2).arg(background.name()));

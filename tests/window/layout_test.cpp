@@ -2,16 +2,15 @@
 #include "tests/window/desktop_colors.h"
 #include "tests/window/layout_faults.h"
 #include "tests/window/layout_fixtures.h"
-#include "tests/window/window_states.h"
 #include "ui/controls/readable_palette.h"
 #include "units/nominal_sizes.h"
 
-#include <QApplication>
 #include <QMenu>
 
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
+#include <tuple>
 
 namespace tarvix::testing {
 namespace {
@@ -24,6 +23,11 @@ constexpr int kTitleBar = 24;
 
 INSTANTIATE_TEST_SUITE_P(Fonts, LayoutAtFontTest, Fonts(), FontName);
 
+void ExpectNone(const QStringList& faults, const QString& where) {
+    EXPECT_TRUE(faults.isEmpty()) << where.toStdString() << "\n  "
+                                  << faults.join("\n  ").toStdString();
+}
+
 TEST_P(LayoutAtFontTest, TheFontIsThere) {
     EXPECT_EQ(QFontInfo(QApplication::font()).family(), std::get<0>(GetParam()));
 }
@@ -31,16 +35,14 @@ TEST_P(LayoutAtFontTest, TheFontIsThere) {
 TEST_P(LayoutAtFontTest, EveryStateShowsItsTextsAndKeepsItsPlaces) {
     for (const WindowState& state : AllWindowStates()) {
         Play(state);
-        const QStringList faults = LayoutFaults(Player().form());
-        EXPECT_TRUE(faults.isEmpty())
-            << state.name.toStdString() << "\n  " << faults.join("\n  ").toStdString();
+        ExpectNone(LayoutFaults(form()), state.name);
     }
 }
 
 TEST_P(LayoutAtFontTest, EveryEntryOfEveryListCanBeReadWhole) {
     std::set<std::string> faults;
     const auto measure = [&] {
-        for (const QString& fault : ListEntryFaults(Player().form())) {
+        for (const QString& fault : ListEntryFaults(form())) {
             faults.insert(fault.toStdString());
         }
     };
@@ -52,7 +54,7 @@ TEST_P(LayoutAtFontTest, EveryEntryOfEveryListCanBeReadWhole) {
     measure();
     for (int unit = 0; unit < 3; ++unit) {
         Play({"", {QString("choose cboPipeIDUnit #%1").arg(unit)}});
-        const int sizes = Player().form().cboNomSize->count();
+        const int sizes = form().cboNomSize->count();
         ASSERT_EQ(sizes, static_cast<int>(kNominalSizes.size()));
         for (int size = 0; size < sizes; ++size) {
             Play({"", {QString("choose cboNomSize #%1").arg(size)}});
@@ -72,7 +74,7 @@ TEST_F(LayoutTest, EveryListAsksForRoomForTheEntriesThatItHolds) {
         Play({"",
               {QString("click ") + fluid, "choose cboPipeIDUnit Millimeters",
                "choose cboNomSize 254.0"}});
-        for (const NamedControl& control : Player().form().Controls()) {
+        for (const NamedControl& control : form().Controls()) {
             const auto* list = dynamic_cast<const DropDownList*>(control.widget);
             for (int entry = 0; list != nullptr && entry < list->count(); ++entry) {
                 EXPECT_GE(list->sizeHint().width() - aroundEntries,
@@ -91,9 +93,7 @@ TEST_P(LayoutAtFontTest, AFontChangedWhileTheWindowIsOpenChangesTheLayout) {
     QCoreApplication::processEvents();
     for (const WindowState& state : OptionStates()) {
         Play(state);
-        const QStringList faults = LayoutFaults(Player().form());
-        ASSERT_TRUE(faults.isEmpty())
-            << state.name.toStdString() << "\n  " << faults.join("\n  ").toStdString();
+        ExpectNone(LayoutFaults(form()), state.name);
     }
 }
 
@@ -101,9 +101,8 @@ TEST_F(LayoutTest, FitsOnASmallScreenUpToTenPoints) {
     for (const char* family : {"DejaVu Sans", "Liberation Sans"}) {
         for (const int size : {8, 9, 10}) {
             QApplication::setFont(QFont(family, size));
-            frmTarvix& window = Player().window();
             const QSize whole =
-                window.form().WholeSize() + QSize(0, window.menuBar()->sizeHint().height());
+                form().WholeSize() + QSize(0, window().menuBar()->sizeHint().height());
             EXPECT_LE(whole.width(), kScreenWidth) << family << size;
             EXPECT_LE(whole.height(), kScreenHeight - kTitleBar) << family << size;
         }
@@ -136,9 +135,7 @@ TEST_P(LayoutOnDesktopTest, TextsCanBeReadOnEveryColor) {
             continue;
         }
         Play(state);
-        const QStringList faults = ContrastFaults(Player().window(), true);
-        EXPECT_TRUE(faults.isEmpty())
-            << state.name.toStdString() << "\n  " << faults.join("\n  ").toStdString();
+        ExpectNone(ContrastFaults(window(), true), state.name);
     }
 }
 
@@ -148,15 +145,14 @@ TEST_P(LayoutOnDesktopTest, ColorsChangedWhileTheWindowIsOpenAreFollowed) {
     QCoreApplication::processEvents();
     for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
         Play({fluid, {QString("click ") + fluid}});
-        const QStringList faults = ContrastFaults(Player().window(), false);
-        EXPECT_TRUE(faults.isEmpty()) << fluid << "\n  " << faults.join("\n  ").toStdString();
+        ExpectNone(ContrastFaults(window(), false), fluid);
     }
 }
 
 TEST_F(LayoutTest, DisabledMenuItemsCanBeRead) {
     for (const QPalette& desktop : {QApplication::palette(), LightPalette(), DarkPalette()}) {
         QApplication::setPalette(desktop);
-        const QPalette colors = Player().form().mnuFile->palette();
+        const QPalette colors = form().mnuFile->palette();
         for (const auto background : {QPalette::Window, QPalette::Base, QPalette::Button}) {
             EXPECT_GE(ContrastOf(colors.color(QPalette::Disabled, QPalette::WindowText),
                                  colors.color(background)),
@@ -168,51 +164,34 @@ TEST_F(LayoutTest, DisabledMenuItemsCanBeRead) {
     }
 }
 
-TEST_F(LayoutTest, ResultsAreBoldAndInputsAreNot) {
-    Play({"", {"click optCalcFR"}});
-    const MainForm& form = Player().form();
-    EXPECT_TRUE(form.txtFlow->font().bold());
-    EXPECT_FALSE(form.txtBeta->font().bold());
-    EXPECT_FALSE(form.txtOriBoreDia->font().bold());
-    EXPECT_FALSE(form.txtDeltaP->font().bold());
-    Play({"", {"click optCalcBeta"}});
-    EXPECT_FALSE(form.txtFlow->font().bold());
-    EXPECT_TRUE(form.txtBeta->font().bold());
-    EXPECT_TRUE(form.txtOriBoreDia->font().bold());
-}
-
 // A mistake in the measuring would pass everything: it finds faults where there are some.
 TEST_F(LayoutTest, TheMeasuringFindsFaults) {
     Play(OptionStates().front());
-    const MainForm& form = Player().form();
-    ASSERT_TRUE(LayoutFaults(Player().form()).isEmpty());
-    const auto faultsWith = [&](QWidget* widget, const QRect& geometry) {
+    ASSERT_TRUE(LayoutFaults(form()).isEmpty());
+    QLabel& label = *form().lblPer;
+    const QRect flow = form().txtFlow->geometry();
+    const QRect per = label.geometry();
+    const std::tuple<QWidget*, QRect, QString> misplaced[] = {
+        {form().txtFlow, flow.translated(20, 0), "txtFlow and cboFlowUnit: overlap"},
+        {form().txtFlow, flow.translated(-30, 0), "txtFlow: sticks out of what is around it"},
+        {form().txtFlow, flow.translated(0, 1), "txtFlow and cboFlowUnit: stand nearly in one row"},
+        {&label, per.translated(1, 0), "cboFlowUnit and lblPer: are nearly aligned"},
+        {&label, QRect(per.topLeft(), QSize(3, per.height())), "lblPer: \"Per\" needs "}};
+    for (const auto& [widget, place, fault] : misplaced) {
         const QRect before = widget->geometry();
-        widget->setGeometry(geometry);
-        QStringList faults = LayoutFaults(Player().form());
+        widget->setGeometry(place);
+        EXPECT_EQ(LayoutFaults(form()).filter(fault).size(), 1) << fault.toStdString();
         widget->setGeometry(before);
-        return faults;
-    };
-    const QRect flow = form.txtFlow->geometry();
-    EXPECT_TRUE(faultsWith(form.txtFlow, flow.translated(20, 0))
-                    .contains("txtFlow and cboFlowUnit: overlap"));
-    EXPECT_TRUE(faultsWith(form.txtFlow, flow.translated(-30, 0))
-                    .contains("txtFlow: sticks out of what is around it"));
-    EXPECT_TRUE(faultsWith(form.txtFlow, flow.translated(0, 1))
-                    .contains("txtFlow and cboFlowUnit: stand nearly in one row"));
-    const QRect per = form.lblPer->geometry();
-    EXPECT_TRUE(faultsWith(form.lblPer, per.translated(1, 0))
-                    .contains("cboFlowUnit and lblPer: are nearly aligned"));
-    EXPECT_EQ(faultsWith(form.lblPer, per.adjusted(0, 0, 3 - per.width(), 0)).size(), 1);
+    }
 
-    ASSERT_TRUE(ContrastFaults(Player().window(), false).isEmpty());
+    ASSERT_TRUE(ContrastFaults(window(), false).isEmpty());
     QPalette pale;
     pale.setColor(QPalette::WindowText, QColor(0x90, 0x90, 0x90));
-    form.lblPer->setPalette(pale);
-    EXPECT_EQ(ContrastFaults(Player().window(), false).size(), 1);
-    form.lblPer->setPalette(QPalette());
-    form.lblPer->setText("A text that is far too long for its place");
-    EXPECT_EQ(LayoutFaults(Player().form()).size(), 1);
+    label.setPalette(pale);
+    EXPECT_EQ(ContrastFaults(window(), false).size(), 1);
+    label.setPalette(QPalette());
+    label.setText("A text that is far too long for its place");
+    EXPECT_EQ(LayoutFaults(form()).size(), 1);
 }
 
 }  // namespace

@@ -6,52 +6,44 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <ostream>
+#include <string>
+#include <tuple>
 #include <vector>
 
 namespace tarvix::testing {
 namespace {
 
-// The drawings in their own units; a picture has 640 x 160 of them.
-struct LogoCase {
-    const char* file;
-    double width;
-    double height;
-    int scale;
-};
+TEST(LogoPictureTest, IsAsSharpAsTheScreen) {
+    // The drawings in their own units; a picture has 640 x 160 of them.
+    const std::tuple<const char*, double, double, int> logos[] = {
+        {"/BrindleLogo.jpg", 618, 136, 1},
+        {"/BrindleLogo.jpg", 618, 136, 2},
+        {"/BrindleLogo.jpg", 618, 136, 3},
+        {"/VeltraneLogo.jpg", 621, 120, 3}};
+    for (const auto& [file, width, height, scale] : logos) {
+        SCOPED_TRACE(file + std::string(" at ") + std::to_string(scale));
+        RecordingPlatform platform;
+        const Logo logo(TARVIX_LOGOS + std::string(file), platform);
+        const QPixmap pixmap = logo.Pixmap(QSize(240, 60), scale);
+        // 240 points for 640 units.
+        const double dots = 240.0 / 640 * scale;
+        EXPECT_NEAR(pixmap.width(), width * dots, 1.5);
+        EXPECT_NEAR(pixmap.height(), height * dots, 1.5);
+        EXPECT_EQ(pixmap.devicePixelRatio(), scale);
 
-std::ostream& operator<<(std::ostream& out, const LogoCase& test) {
-    return out << test.file << " at " << test.scale;
-}
-
-class LogoPictureTest : public ::testing::TestWithParam<LogoCase> {};
-
-INSTANTIATE_TEST_SUITE_P(Logos, LogoPictureTest,
-                         ::testing::Values(LogoCase{"/BrindleLogo.jpg", 618, 136, 1},
-                                           LogoCase{"/BrindleLogo.jpg", 618, 136, 2},
-                                           LogoCase{"/BrindleLogo.jpg", 618, 136, 3},
-                                           LogoCase{"/VeltraneLogo.jpg", 621, 120, 3}));
-
-TEST_P(LogoPictureTest, IsAsSharpAsTheScreen) {
-    RecordingPlatform platform;
-    const Logo logo(TARVIX_LOGOS + std::string(GetParam().file), platform);
-    const QPixmap pixmap = logo.Pixmap(QSize(240, 60), GetParam().scale);
-    // 240 points for 640 units.
-    const double dots = 240.0 / 640 * GetParam().scale;
-    EXPECT_NEAR(pixmap.width(), GetParam().width * dots, 1.5);
-    EXPECT_NEAR(pixmap.height(), GetParam().height * dots, 1.5);
-    EXPECT_EQ(pixmap.devicePixelRatio(), GetParam().scale);
-
-    // Along the middle row every edge is one or two pixels wide, whatever the scale: few dots are
-    // neither white nor as dark or bright as an ink.
-    const QImage picture = pixmap.toImage();
-    int between = 0;
-    for (int x = 0; x < picture.width(); ++x) {
-        const QColor dot = picture.pixelColor(x, picture.height() * 2 / 5);
-        between += dot.saturation() > 25 && dot.saturation() < 110 && dot.lightness() > 120 ? 1 : 0;
+        // Along the middle row every edge is one or two pixels wide, whatever the scale: few dots
+        // are neither white nor as dark or bright as an ink.
+        const QImage picture = pixmap.toImage();
+        int between = 0;
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor dot = picture.pixelColor(x, picture.height() * 2 / 5);
+            const bool isEdge =
+                dot.saturation() > 25 && dot.saturation() < 110 && dot.lightness() > 120;
+            between += isEdge ? 1 : 0;
+        }
+        EXPECT_GT(between, 0);
+        EXPECT_LT(between, 36);
     }
-    EXPECT_GT(between, 0);
-    EXPECT_LT(between, 36);
 }
 
 // Whatever is darker than the white of the picture is drawing, in the outermost rows and columns,

@@ -28,12 +28,11 @@ class LooksAtFontTest : public LayoutAtFontTest {};
 
 INSTANTIATE_TEST_SUITE_P(Fonts, LooksAtFontTest, Fonts(), FontName);
 
-TEST_P(LooksAtFontTest, ThePlateWarningReadsAsOneLine) {
+TEST_P(LooksAtFontTest, WarningsReadAsOneTextEach) {
     Play(kBothWarnings);
-    const MainForm& form = Player().form();
-    ASSERT_TRUE(form.IsVisible(*form.fraPlateThicknessWarning));
-    const QLabel& first = *form.lbl1PlateThicknessWarning;
-    const QLabel& second = *form.lbl2PlateThicknessWarning;
+    ASSERT_TRUE(form().IsVisible(*form().fraPlateThicknessWarning));
+    const QLabel& first = *form().lbl1PlateThicknessWarning;
+    const QLabel& second = *form().lbl2PlateThicknessWarning;
     for (const QLabel* label : {&first, &second}) {
         EXPECT_TRUE(label->alignment().testFlag(Qt::AlignLeft));
         EXPECT_EQ(label->contentsRect(), label->rect());
@@ -44,25 +43,21 @@ TEST_P(LooksAtFontTest, ThePlateWarningReadsAsOneLine) {
     EXPECT_EQ(second.y(), first.y());
     EXPECT_EQ(second.height(), first.height());
     // Both warnings keep the same distance to the left edge.
-    ASSERT_TRUE(form.IsVisible(*form.fraZfCompWarning));
-    EXPECT_NEAR(first.x(), form.lbl1ZfCompWarning->x(), 1);
-    EXPECT_EQ(form.lbl2ZfCompWarning->x(), form.lbl1ZfCompWarning->x());
-}
-
-TEST_P(LooksAtFontTest, WarningsReachToTheMarginsOfTheirFrames) {
-    Play(kBothWarnings);
-    const MainForm& form = Player().form();
+    ASSERT_TRUE(form().IsVisible(*form().fraZfCompWarning));
+    EXPECT_NEAR(first.x(), form().lbl1ZfCompWarning->x(), 1);
+    EXPECT_EQ(form().lbl2ZfCompWarning->x(), form().lbl1ZfCompWarning->x());
+    // And reach to the margins of their frames.
     const auto rightMargin = [](const QWidget& widget) {
         return widget.parentWidget()->width() - widget.geometry().right() - 1;
     };
-    EXPECT_NEAR(rightMargin(*form.fraZfCompWarning), form.optCompCorrNone->x(), 1);
-    EXPECT_NEAR(rightMargin(*form.fraPlateThicknessWarning), form.fraPlateThicknessWarning->x(), 1);
-    EXPECT_EQ(form.fraPlateThicknessWarning->x(), form.txtDeltaP->x());
+    EXPECT_NEAR(rightMargin(*form().fraZfCompWarning), form().optCompCorrNone->x(), 1);
+    EXPECT_NEAR(rightMargin(*form().fraPlateThicknessWarning), form().fraPlateThicknessWarning->x(),
+                1);
+    EXPECT_EQ(form().fraPlateThicknessWarning->x(), form().txtDeltaP->x());
 }
 
 TEST_P(LooksAtFontTest, OnlyTheLongCaptionOfTheCompressibilityFieldBreaks) {
-    const MainForm& form = Player().form();
-    const QLabel& label = *form.lblCompCorr;
+    const QLabel& label = *form().lblCompCorr;
     const int line = QFontMetrics(label.font()).lineSpacing();
     const auto lines = [&] {
         const QRect text =
@@ -71,15 +66,16 @@ TEST_P(LooksAtFontTest, OnlyTheLongCaptionOfTheCompressibilityFieldBreaks) {
                               Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignBottom, label.text());
         // The last line stands in the row of the option beside it.
         const double middle = label.y() + text.bottom() + 1 - line / 2.0;
-        EXPECT_NEAR(middle, form.optCompDensity->y() + form.optCompDensity->height() / 2.0, 1.5);
+        EXPECT_NEAR(middle, form().optCompDensity->y() + form().optCompDensity->height() / 2.0,
+                    1.5);
         return (text.height() + line / 2) / line;
     };
     Play({"", {"click optGas", "click optCompDensity"}});
     EXPECT_EQ(lines(), 1);
-    EXPECT_EQ(form.Of(label).place.width, 735);
+    EXPECT_EQ(form().Of(label).place.width, 735);
     Play({"", {"click optCompZf"}});
     EXPECT_EQ(lines(), 2);
-    EXPECT_EQ(form.Of(label).place.width, 1700);
+    EXPECT_EQ(form().Of(label).place.width, 1700);
 }
 
 // 999,999,999 gallons per minute of mercury in grams per day are 7.4e16, and 1,000,000 inches of
@@ -94,9 +90,9 @@ TEST_P(LooksAtFontTest, TheLongestResultsAreShownWhole) {
     for (const auto& [mode, result] : longest) {
         SCOPED_TRACE(result.first.toStdString());
         Play({"", {"click optLiquid", "click " + mode}});
-        auto& field = dynamic_cast<NumericField&>(*Player().form().Find(result.first)->widget);
+        auto& field = dynamic_cast<NumericField&>(*form().Find(result.first)->widget);
         const double whole = QFontInfo(field.parentWidget()->font()).pointSizeF();
-        Player().form().txtBeta->setText("0.5");  // a bore without a beta is not current
+        form().txtBeta->setText("0.5");  // a bore without a beta is not current
         field.setText("1");
         EXPECT_NEAR(QFontInfo(field.font()).pointSizeF(), whole, 0.1);
         const QSignalBlocker noLimit(field);  // a beta is refused from 0.95 on, a bore moves beta
@@ -127,7 +123,7 @@ QRect PaintedIn(const QImage& picture, const QRect& area) {
 // Painted, too: the first digit is there.
 TEST_P(LooksAtFontTest, ALongFlowRateIsPaintedFromItsFirstDigit) {
     Play({"", {"click optLiquid", "click optCalcFR"}});
-    NumericField& field = *Player().form().txtFlow;
+    NumericField& field = *form().txtFlow;
     field.setText("88,888,888,888,888,888");
     const QImage picture = field.grab().toImage();
     // In dots of the picture, of which a scaled desktop has more.
@@ -157,7 +153,7 @@ std::vector<OptionButton*> VisibleOptions(const MainForm& form) {
 TEST_P(LooksAtFontTest, DiscsAreAsLargeAsTheirTexts) {
     for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
         Play({"", {QString("click ") + fluid}});
-        const auto options = VisibleOptions(Player().form());
+        const auto options = VisibleOptions(form());
         ASSERT_GE(options.size(), 10U);
         for (OptionButton* option : options) {
             SCOPED_TRACE(option->objectName().toStdString());
@@ -171,9 +167,9 @@ TEST_P(LooksAtFontTest, DiscsAreAsLargeAsTheirTexts) {
     }
     // And are painted that large.
     Play({"", {"click optGas"}});
-    QPixmap pixmap(Player().form().optDegC->size());
+    QPixmap pixmap(form().optDegC->size());
     pixmap.fill(Qt::white);
-    OptionButton* option = Player().form().optDegC;
+    OptionButton* option = form().optDegC;
     option->render(&pixmap, QPoint(), QRegion(), QWidget::DrawChildren);
     const QRect disc = option->DiscArea();
     const QRect painted =
@@ -184,7 +180,7 @@ TEST_P(LooksAtFontTest, DiscsAreAsLargeAsTheirTexts) {
 
 TEST_P(LooksAtFontTest, OptionsAreClickedOnAllOfTheirText) {
     Play({"", {"click optGas", "click optDegF"}});
-    OptionButton* option = Player().form().optDegC;
+    OptionButton* option = form().optDegC;
     const QRect text = option->TextArea();
     const int end =
         text.left() + QFontMetrics(option->font()).horizontalAdvance(option->text()) - 1;
@@ -200,7 +196,7 @@ TEST_F(LooksTest, ABoreThatIsNotCurrentIsDimmed) {
     Play({"",
           {"click optLiquid", "click optCalcBeta", "type txtSGf 1", "type txtSGb 1",
            "type txtDeltaP 100", "type txtFlow 30"}});
-    NumericField& bore = *Player().form().txtOriBoreDia;
+    NumericField& bore = *form().txtOriBoreDia;
     const auto colors = [&] {
         return std::pair(bore.palette().color(QPalette::Active, QPalette::Text),
                          bore.palette().color(QPalette::Active, QPalette::Base));
@@ -210,13 +206,13 @@ TEST_F(LooksTest, ABoreThatIsNotCurrentIsDimmed) {
     EXPECT_EQ(colors(), std::pair(QColor(Qt::black), QColor(Qt::green)));
 
     Play({"", {"type txtFlow 0"}});
-    ASSERT_EQ(Player().form().txtBeta->text(), "");
+    ASSERT_EQ(form().txtBeta->text(), "");
     ASSERT_NE(bore.text(), "");
     EXPECT_EQ(BackColorOf(bore), BackColor::Green);
     EXPECT_FALSE(bore.font().bold());
     EXPECT_EQ(colors().second, QColor(Qt::green));
     EXPECT_EQ(colors().first, QColor("#606060"));
-    const NumericField& closed = *Player().form().txtDensity;
+    const NumericField& closed = *form().txtDensity;
     ASSERT_FALSE(closed.isEnabled());
     EXPECT_EQ(closed.palette().color(QPalette::Disabled, QPalette::Text), QColor("#454545"));
     EXPECT_GE(ContrastOf(colors().first, Qt::green), 3);
@@ -236,9 +232,9 @@ TEST_F(LooksTest, ABoreThatIsNotCurrentIsDimmed) {
 // Where a list is covered, there is only what is around it.
 TEST_F(LooksTest, TheBlankOverTheNominalSizeLooksLikeItsFrame) {
     Play({"", {"answer text 4", "choose cboPipeID Other (User Entered)"}});
-    const QWidget& blank = *Player().form().txtMaskNomSize;
-    ASSERT_TRUE(Player().form().IsVisible(blank));
-    const QImage frame = Player().form().fraPipe->grab().toImage();
+    const QWidget& blank = *form().txtMaskNomSize;
+    ASSERT_TRUE(form().IsVisible(blank));
+    const QImage frame = form().fraPipe->grab().toImage();
     const QRgb around = frame.pixel(blank.x() + blank.width() / 2, blank.y() - 2);
     for (int x = blank.x(); x <= blank.geometry().right(); ++x) {
         for (int y = blank.y(); y <= blank.geometry().bottom(); ++y) {
@@ -263,11 +259,10 @@ TEST_F(LooksTest, RingsOfOptionsAreSeenOnDarkDesktops) {
         QApplication::setPalette(desktop);
         for (const char* fluid : {"optLiquid", "optGas", "optSteam"}) {
             Play({"", {QString("click ") + fluid, "focus txtFlow"}});
-            MainForm& form = Player().form();
-            const QImage picture = form.canvas().grab().toImage();
-            for (const OptionButton* option : VisibleOptions(form)) {
+            const QImage picture = form().canvas().grab().toImage();
+            for (const OptionButton* option : VisibleOptions(form())) {
                 const QRect disc = option->DiscArea();
-                const QRect onCanvas(option->mapTo(&form.canvas(), disc.topLeft()), disc.size());
+                const QRect onCanvas(option->mapTo(&form().canvas(), disc.topLeft()), disc.size());
                 EXPECT_GE(RingContrast(picture, onCanvas), 3.0)
                     << option->objectName().toStdString() << " on "
                     << desktop.color(QPalette::Window).name().toStdString();

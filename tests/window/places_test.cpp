@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <map>
@@ -32,6 +33,10 @@ std::vector<PlaceRow> Places() {
     return places;
 }
 
+std::array<int, 4> Edges(const TwipsRect& place) {
+    return {place.left, place.top, place.width, place.height};
+}
+
 class PlacesTest : public ::testing::Test {
   protected:
     PlacesTest() {
@@ -40,9 +45,7 @@ class PlacesTest : public ::testing::Test {
     }
 
     const NamedControl* Named(const std::string& name) const {
-        const auto found =
-            std::ranges::find(form_.Controls(), QString::fromStdString(name), &NamedControl::name);
-        return found == form_.Controls().end() ? nullptr : &*found;
+        return form_.Find(QString::fromStdString(name));
     }
 
     // A control's corner on the canvas.
@@ -63,10 +66,7 @@ TEST_F(PlacesTest, EveryControlHasThePlaceOfTheTable) {
         ASSERT_NE(control, nullptr) << row.control;
         EXPECT_EQ(control->widget->parentWidget()->objectName().toStdString(), row.frame)
             << row.control;
-        EXPECT_EQ(control->place.left, row.place.left) << row.control;
-        EXPECT_EQ(control->place.top, row.place.top) << row.control;
-        EXPECT_EQ(control->place.width, row.place.width) << row.control;
-        EXPECT_EQ(control->place.height, row.place.height) << row.control;
+        EXPECT_EQ(Edges(control->place), Edges(row.place)) << row.control;
     }
     const auto placed = std::ranges::count_if(
         form_.Controls(), [](const NamedControl& control) { return control.place.width > 0; });

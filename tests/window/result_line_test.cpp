@@ -10,25 +10,21 @@
 namespace tarvix::testing {
 namespace {
 
+const QStringList kFlowOfWater = {"click optLiquid",  "click optCalcFR",     "type txtSGf 1",
+                                  "type txtSGb 1",    "choose cboNomSize 2", "type txtDeltaP 100",
+                                  "type txtBeta 0.5", "focus txtSGf"};
+
 class ResultLineTest : public LayoutTest {
   protected:
-    ResultLineTest() { QApplication::setFont(QFont("DejaVu Sans", 14)); }
-
-    // A line that comes or goes lets the layout ask for another round.
-    static void Settle() {
-        for (int round = 0; round < 4; ++round) {
-            QApplication::processEvents();
-        }
-    }
-
-    void SolveAt(QSize size, const QStringList& actions) {
-        Play({"", actions});  // on the whole form
-        Player().window().resize(size);
+    ResultLineTest() {
+        QApplication::setFont(QFont("DejaVu Sans", 14));
+        Play({"", kFlowOfWater});  // on the whole form
+        window().resize(800, 600);
         Settle();
     }
 
-    FormView& View() { return dynamic_cast<FormView&>(*Player().window().centralWidget()); }
-    QLabel& Line() { return *Player().window().findChild<QLabel*>("resultLine"); }
+    FormView& View() { return dynamic_cast<FormView&>(*window().centralWidget()); }
+    QLabel& Line() { return *window().findChild<QLabel*>("resultLine"); }
 
     void ScrollTo(int position) {
         View().scrollArea().horizontalScrollBar()->setValue(0);
@@ -37,55 +33,48 @@ class ResultLineTest : public LayoutTest {
     }
 };
 
-const QStringList kFlowOfWater = {"click optLiquid",  "click optCalcFR",     "type txtSGf 1",
-                                  "type txtSGb 1",    "choose cboNomSize 2", "type txtDeltaP 100",
-                                  "type txtBeta 0.5", "focus txtSGf"};
-
 TEST_F(ResultLineTest, SaysTheValueWhileItsFieldIsOutOfSight) {
-    SolveAt(QSize(800, 600), kFlowOfWater);
-    const MainForm& form = Player().form();
-    ASSERT_NE(form.txtFlow->text(), "");
+    ASSERT_NE(form().txtFlow->text(), "");
     QScrollBar& down = *View().scrollArea().verticalScrollBar();
     ASSERT_GT(down.maximum(), 0);
     ScrollTo(0);
-    ASSERT_FALSE(View().Shows(*form.txtFlow));
+    ASSERT_FALSE(View().Shows(*form().txtFlow));
     EXPECT_TRUE(Line().isVisible());
-    EXPECT_EQ(Line().text(), "Flow Rate " + form.txtFlow->text() + " Gallons per Minute");
-    const QRect place(Line().mapTo(&Player().window(), QPoint()), Line().size());
-    EXPECT_TRUE(Player().window().rect().contains(place));
+    EXPECT_EQ(Line().text(), "Flow Rate " + form().txtFlow->text() + " Gallons per Minute");
+    const QRect place(Line().mapTo(&window(), QPoint()), Line().size());
+    EXPECT_TRUE(window().rect().contains(place));
     EXPECT_GE(Line().height(), Line().fontMetrics().height());
-    EXPECT_LT(place.bottom(), form.lblMsg->mapTo(&Player().window(), QPoint()).y());
+    EXPECT_LT(place.bottom(), form().lblMsg->mapTo(&window(), QPoint()).y());
+    EXPECT_EQ(form().Find("resultLine"), nullptr) << "it is no control of the form";
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&Line())->text(QAccessible::Name), "");
 
     ScrollTo(down.maximum());
-    ASSERT_TRUE(View().Shows(*form.txtFlow));
+    ASSERT_TRUE(View().Shows(*form().txtFlow));
     EXPECT_FALSE(Line().isVisible());
     ScrollTo(0);
     EXPECT_TRUE(Line().isVisible());
 }
 
 TEST_F(ResultLineTest, FollowsWhatIsTyped) {
-    SolveAt(QSize(800, 600), kFlowOfWater);
-    const MainForm& form = Player().form();
-    const QString before = form.txtFlow->text();
+    const QString before = form().txtFlow->text();
     EXPECT_EQ(Player().Act("type txtSGf 2"), "");
     Settle();
-    ASSERT_FALSE(View().Shows(*form.txtFlow));
-    EXPECT_NE(form.txtFlow->text(), before);
-    EXPECT_EQ(Line().text(), "Flow Rate " + form.txtFlow->text() + " Gallons per Minute");
+    ASSERT_FALSE(View().Shows(*form().txtFlow));
+    EXPECT_NE(form().txtFlow->text(), before);
+    EXPECT_EQ(Line().text(), "Flow Rate " + form().txtFlow->text() + " Gallons per Minute");
     EXPECT_EQ(Player().Act("type txtSGf 0"), "");
     Settle();
-    ASSERT_EQ(form.txtFlow->text(), "");
+    ASSERT_EQ(form().txtFlow->text(), "");
     EXPECT_FALSE(Line().isVisible()) << "there is no value";
 }
 
 TEST_F(ResultLineTest, TakesNoRoomWhereTheFieldIsInSight) {
-    SolveAt(QSize(800, 600), kFlowOfWater);
     Player().ShowWhole();
     Settle();
-    ASSERT_TRUE(View().Shows(*Player().form().txtFlow));
+    ASSERT_TRUE(View().Shows(*form().txtFlow));
     EXPECT_FALSE(Line().isVisible());
     const int without = View().footer().height();
-    Player().window().resize(800, 600);
+    window().resize(800, 600);
     Settle();
     ScrollTo(0);
     EXPECT_TRUE(Line().isVisible());
@@ -94,11 +83,10 @@ TEST_F(ResultLineTest, TakesNoRoomWhereTheFieldIsInSight) {
 
 // The room that the line gives back shows the field that it stood for.
 TEST_F(ResultLineTest, DoesNotHideTheFieldItself) {
-    SolveAt(QSize(800, 600), kFlowOfWater);
     ScrollTo(0);
     ASSERT_TRUE(Line().isVisible());
-    const NumericField& field = *Player().form().txtFlow;
-    Player().form().txtDeltaP->setFocus();
+    const NumericField& field = *form().txtFlow;
+    form().txtDeltaP->setFocus();
     ScrollTo(0);
     const QWidget& viewport = *View().scrollArea().viewport();
     // The lower edge of the field one pixel below what is seen.
@@ -108,34 +96,26 @@ TEST_F(ResultLineTest, DoesNotHideTheFieldItself) {
 }
 
 TEST_F(ResultLineTest, LeavesTheUserWhereHeScrolled) {
-    SolveAt(QSize(800, 600), kFlowOfWater);
-    QApplication::setActiveWindow(&Player().window());
-    Player().form().txtSGf->setFocus();
+    QApplication::setActiveWindow(&window());
+    form().txtSGf->setFocus();
     ScrollTo(0);
     const QScrollBar& down = *View().scrollArea().verticalScrollBar();
     ScrollTo(down.maximum());
     ASSERT_FALSE(Line().isVisible());
     EXPECT_EQ(down.value(), down.maximum());
-    EXPECT_FALSE(View().Shows(*Player().form().optCalcFR));
+    EXPECT_FALSE(View().Shows(*form().optCalcFR));
 }
 
 // However long the line and the message are, the window may be as small as it may.
 TEST_F(ResultLineTest, AskForNoWidth) {
-    SolveAt(QSize(800, 600), kFlowOfWater);
     ScrollTo(0);
     ASSERT_TRUE(Line().isVisible());
     const int before = View().footer().minimumSizeHint().width();
     Line().setText(QString(300, 'm'));
-    Player().form().lblMsg->setText(QString(300, 'm'));
+    form().lblMsg->setText(QString(300, 'm'));
     Settle();
     EXPECT_EQ(View().footer().minimumSizeHint().width(), before);
     EXPECT_LT(before, 100);
-}
-
-TEST_F(ResultLineTest, IsNoControlOfTheForm) {
-    EXPECT_EQ(Player().form().Find("resultLine"), nullptr);
-    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&Line());
-    EXPECT_EQ(told->text(QAccessible::Name), "");
 }
 
 }  // namespace

@@ -21,12 +21,6 @@ namespace {
 // Another processor may round a shade otherwise.
 constexpr int kShades = 6;
 
-void Settle() {
-    for (int round = 0; round < 4; ++round) {
-        QApplication::processEvents();
-    }
-}
-
 class WindowLooksTest : public LayoutTest {
   protected:
     void SetUp() override {
@@ -75,51 +69,51 @@ const QStringList kSteam = {"click optSteam",
 
 TEST_F(WindowLooksTest, LiquidWithItsPlateWarning) {
     Play({"", kLiquid});
-    Expect(Player().window(), "liquid");
+    Expect(window(), "liquid");
 }
 
 TEST_F(WindowLooksTest, ABoreOfEarlierEntries) {
     Play({"", kLiquid + QStringList{"type txtFlow 0"}});
-    Expect(Player().window(), "liquid_dimmed");
+    Expect(window(), "liquid_dimmed");
 }
 
 TEST_F(WindowLooksTest, GasWithItsCompressibilityWarning) {
     Play({"", kGas});
-    Expect(Player().window(), "gas");
+    Expect(window(), "gas");
 }
 
 TEST_F(WindowLooksTest, GasOnADarkDesktop) {
     QApplication::setPalette(DarkPalette());
     Play({"", kGas + QStringList{"click optCompDensity", "type txtZf 1.3", "click optCalcBeta"}});
-    Expect(Player().window(), "gas_dark");
+    Expect(window(), "gas_dark");
 }
 
 TEST_F(WindowLooksTest, SteamFromTheTableInTheUsersOwnPipe) {
     Play({"", kSteam});
-    Expect(Player().window(), "steam");
+    Expect(window(), "steam");
 }
 
 TEST_F(WindowLooksTest, AMessageOnALargerFont) {
     QApplication::setFont(QFont("DejaVu Sans", 13));
     Play({"", {"click optGas", "click optCompZf"}});
-    Expect(Player().window(), "message_large");
+    Expect(window(), "message_large");
 }
 
 // As the Tab key brings it; a click shows no ring.
 TEST_F(WindowLooksTest, OptionsThatHaveTheFocus) {
     Play({"", kGas});
-    Player().form().optCalcFR->setFocus();
+    form().optCalcFR->setFocus();
     const auto press = [this](int tabs) {
         for (int i = 0; i < tabs; ++i) {
-            QTest::keyClick(Player().window().focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(window().focusWidget(), Qt::Key_Tab);
         }
     };
     press(1);
-    EXPECT_TRUE(Player().form().optGas->hasFocus());
-    Expect(Player().window(), "focus_on_bar");
+    EXPECT_TRUE(form().optGas->hasFocus());
+    Expect(window(), "focus_on_bar");
     press(2);
-    EXPECT_TRUE(Player().form().optDegF->hasFocus());
-    Expect(Player().window(), "focus_on_option");
+    EXPECT_TRUE(form().optDegF->hasFocus());
+    Expect(window(), "focus_on_option");
 }
 
 TEST_F(WindowLooksTest, AFontInPixelsAndALongResult) {
@@ -128,28 +122,28 @@ TEST_F(WindowLooksTest, AFontInPixelsAndALongResult) {
     QApplication::setFont(font);
     Play({"", kGas + QStringList{"type txtDeltaP 4000", "choose cboNomSize 12",
                                  "choose cboFlowUnit Standard Cubic Meters", "type txtPf 90000"}});
-    Expect(Player().window(), "gas_pixels");
+    Expect(window(), "gas_pixels");
 }
 
 TEST_F(WindowLooksTest, AWindowThatScrolls) {
     Play({"", kGas});
-    Player().window().resize(560, 420);
+    window().resize(560, 420);
     Settle();
-    Expect(Player().window(), "scrolled_to_field");
-    auto& view = dynamic_cast<FormView&>(*Player().window().centralWidget());
+    Expect(window(), "scrolled_to_field");
+    auto& view = dynamic_cast<FormView&>(*window().centralWidget());
     view.scrollArea().verticalScrollBar()->setValue(0);
-    Expect(Player().window(), "scrolled_to_top");
+    Expect(window(), "scrolled_to_top");
 }
 
 TEST_F(WindowLooksTest, OpenMenuAndList) {
     Play({"", kLiquid});
-    Player().window().show();
-    Player().form().mnuFile->popup(QPoint(0, 0));
-    Expect(*Player().form().mnuFile, "menu");
-    Player().form().mnuFile->hide();
-    Player().form().cboPipeID->showPopup();
-    Expect(*Player().form().cboPipeID->view()->window(), "list");
-    Player().form().cboPipeID->hidePopup();
+    window().show();
+    form().mnuFile->popup(QPoint(0, 0));
+    Expect(*form().mnuFile, "menu");
+    form().mnuFile->hide();
+    form().cboPipeID->showPopup();
+    Expect(*form().cboPipeID->view()->window(), "list");
+    form().cboPipeID->hidePopup();
 }
 
 TEST_F(WindowLooksTest, AboutBox) {

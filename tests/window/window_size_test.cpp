@@ -1,6 +1,7 @@
 // How large the main window is and where it stands when it is loaded, on screens with and without
 // room for it.
 #include "app/window/frm_tarvix.h"
+#include "app/window/window_place.h"
 #include "tests/core/locales.h"
 #include "tests/window/layout_fixtures.h"
 #include "tests/window_script/script_desk.h"
@@ -12,6 +13,7 @@
 #include <QWindow>
 
 #include <stdexcept>
+#include <utility>
 
 namespace tarvix::testing {
 namespace {
@@ -52,10 +54,8 @@ TEST_P(WindowSizeTest, LeavesRoomForTheFrameAndForScrollBarsWhereTheyAreNeeded) 
     const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &window);
     const int most = whole.width() + (GetParam().high ? bar : 0);
     const int highest = whole.height() + (GetParam().wide ? bar : 0);
-    EXPECT_EQ(window.maximumWidth(), most);
-    EXPECT_EQ(window.maximumHeight(), highest);
-    EXPECT_EQ(window.width(), std::min(most, roomWidth));
-    EXPECT_EQ(window.height(), std::min(highest, roomHeight));
+    EXPECT_EQ(window.maximumSize(), QSize(most, highest));
+    EXPECT_EQ(window.size(), QSize(std::min(most, roomWidth), std::min(highest, roomHeight)));
     // A frame whole, with what surrounds it, a line more, and what stands below the form.
     const QWidget& options = *form.fraCalcOptions;
     constexpr int kMayBeLost = 3;  // of the canvas, before it scrolls
@@ -66,12 +66,20 @@ TEST_P(WindowSizeTest, LeavesRoomForTheFrameAndForScrollBarsWhereTheyAreNeeded) 
 
     // With its frame in the middle of the screen.
     EXPECT_NEAR(window.frameGeometry().center().x(), screen.center().x(), 3);
-    EXPECT_EQ(window.geometry().x(),
-              screen.x() + (screen.width() - window.width() - frame.left() - frame.right()) / 2 +
-                  frame.left());
-    EXPECT_EQ(window.geometry().y(),
-              screen.y() + (screen.height() - window.height() - frame.top() - frame.bottom()) / 2 +
-                  frame.top());
+    EXPECT_EQ(window.geometry().topLeft() - screen.topLeft(),
+              QPoint((roomWidth - window.width()) / 2 + frame.left(),
+                     (roomHeight - window.height()) / 2 + frame.top()));
+}
+
+// The place on the screen and the sizes of both.
+TEST(StartPlaceTest, IsInTheMiddleOrAtTheTopOfAScreenOf500PixelsOrLess) {
+    const std::pair<QPoint, ScreenPoint> places[] = {{{234, 118}, StartPlace(1280, 900, 811, 663)},
+                                                     {{200, 100}, StartPlace(1000, 501, 600, 301)},
+                                                     {{200, 0}, StartPlace(1000, 500, 600, 300)},
+                                                     {{200, 0}, StartPlace(1000, 499, 600, 300)}};
+    for (const auto& [expected, place] : places) {
+        EXPECT_EQ(QPoint(place.x, place.y), expected);
+    }
 }
 
 }  // namespace
