@@ -2,6 +2,7 @@
 // that no user can bring about.
 #include "app/dispatch/do_orifice_calculations.h"
 #include "app/window/frm_tarvix.h"
+#include "tests/core/recording_platform.h"
 #include "tests/window_script/script_desk.h"
 #include "ui/handlers/densities.h"
 #include "ui/handlers/flow_unit_boxes.h"
@@ -17,6 +18,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>
+#include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -27,20 +30,56 @@ struct Ended {
     int exitStatus = -1;
 };
 
-class FormProceduresTest : public ::testing::Test {
-  protected:
-    // The exit status with which a call ends the program; nothing when it doesn't.
-    template <typename Call>
-    static std::optional<int> ExitStatusOf(Call call) {
-        try {
-            call();
-        } catch (const Ended& end) {
-            return end.exitStatus;
-        }
-        return std::nullopt;
+// Keeps the buttons of the boxes, too, which a script does not state, and how the main window's
+// mouse pointer looks while its other windows are open.
+class KeepingDesk : public ScriptDesk {
+  public:
+    KeepingDesk() : ScriptDesk([](int exitStatus) { throw Ended{exitStatus}; }) {}
+
+    int ShowMessageBox(const MessageBoxRequest& request) override {
+        buttons.push_back(request.buttons);
+        return ScriptDesk::ShowMessageBox(request);
+    }
+    void ShowCustomerWindow(QWidget& owner, Module1& module) override {
+        inCustomerWindow = owner.cursor().shape();
+        module.MsgResult = prints ? 1 : 2;
+    }
+    void PrintPage(QWidget& owner, const ReportPage& /*page*/, const QImage& /*logo*/) override {
+        inPrinting = owner.cursor().shape();
     }
 
-    ScriptDesk desk_{[](int exitStatus) { throw Ended{exitStatus}; }};
+    std::vector<BoxButtons> buttons;
+    bool prints = true;
+    std::optional<Qt::CursorShape> inCustomerWindow;
+    std::optional<Qt::CursorShape> inPrinting;
+};
+
+class FormProceduresTest : public ::testing::Test {
+  protected:
+    FormProceduresTest() { state_.SuspendCalc = true; }
+
+    void LoadPipes() {
+        LoadcboPipeIDUnit(context_);
+        LoadcboNomSize(context_);
+        LoadcboPipeID(context_);
+    }
+
+    // The last box of a call that ends the program with a fatal error.
+    template <typename Call>
+    ShownBox FatalBoxOf(Call call) {
+        desk_.TakeBoxes();
+        try {
+            call();
+            ADD_FAILURE() << "the program goes on";
+        } catch (const Ended& end) {
+            EXPECT_EQ(end.exitStatus, 1);
+        }
+        const auto boxes = desk_.TakeBoxes();
+        EXPECT_FALSE(boxes.empty());
+        return boxes.empty() ? ShownBox{} : boxes.back();
+    }
+
+    KeepingDesk desk_;
     Module1 module_{desk_, NumberLocale{}};
     QWidget canvas_;
     QMenuBar menus_;
@@ -50,119 +89,63 @@ class FormProceduresTest : public ::testing::Test {
     FormContext context_{form_, state_, module_};
 };
 
-TEST_F(FormProceduresTest, TemperatureIsClosedAndOpened) {
-    state_.SuspendCalc = true;
+TEST_F(FormProceduresTest, TemperatureAndOptionsAreClosedAndOpened) {
+    using Procedure = void (*)(const FormContext&);
+    const std::tuple<Procedure, Procedure, std::vector<QWidget*>> procedures[] = {
+        {TfEnableOff, TfEnableOn, {form_.txtTf, form_.lblTf}},
+        {ToptEnableOff, ToptEnableOn, {form_.optDegF, form_.optDegC}},
+        {SGfOptEnableOff, SGfOptEnableOn, {form_.optSgUser, form_.optSgCalc}}};
+    for (const auto& [close, open, controls] : procedures) {
+        for (const bool isOpen : {false, true}) {
+            (isOpen ? open : close)(context_);
+            for (const QWidget* control : controls) {
+                EXPECT_EQ(control->isEnabled(), isOpen) << control->objectName().toStdString();
+            }
+        }
+    }
     form_.txtTf->SetText("60");
     TfEnableOff(context_);
     EXPECT_EQ(form_.txtTf->text(), "");
-    EXPECT_FALSE(form_.txtTf->isEnabled());
-    EXPECT_FALSE(form_.lblTf->isEnabled());
     EXPECT_EQ(BackColorOf(*form_.txtTf), BackColor::PaleGrey);
     TfEnableOn(context_);
-    EXPECT_TRUE(form_.txtTf->isEnabled());
-    EXPECT_TRUE(form_.lblTf->isEnabled());
     EXPECT_EQ(BackColorOf(*form_.txtTf), BackColor::WindowBackground);
 }
 
-TEST_F(FormProceduresTest, TemperatureOptionsAreClosedAndOpened) {
-    ToptEnableOff(context_);
-    EXPECT_FALSE(form_.optDegF->isEnabled());
-    EXPECT_FALSE(form_.optDegC->isEnabled());
-    ToptEnableOn(context_);
-    EXPECT_TRUE(form_.optDegF->isEnabled());
-    EXPECT_TRUE(form_.optDegC->isEnabled());
-}
-
-TEST_F(FormProceduresTest, GravityOptionsAreClosedAndOpened) {
-    SGfOptEnableOff(context_);
-    EXPECT_FALSE(form_.optSgUser->isEnabled());
-    EXPECT_FALSE(form_.optSgCalc->isEnabled());
-    SGfOptEnableOn(context_);
-    EXPECT_TRUE(form_.optSgUser->isEnabled());
-    EXPECT_TRUE(form_.optSgCalc->isEnabled());
-}
-
 TEST_F(FormProceduresTest, PressureOfAnUnknownFluidEndsTheProgram) {
-    state_.SuspendCalc = true;
     module_.FluidType = "X";
-    EXPECT_EQ(ExitStatusOf([this] { txtPf_Change(context_); }), 1);
-    const auto boxes = desk_.TakeBoxes();
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].title, "Fatal Error");
-    EXPECT_EQ(
-        boxes[0].text,
-        "Fatal Error Encountered: \n\r\n\rOrifice type not specified\n\r\n\rThis Program will "
-        "now terminate.");
+    const ShownBox box = FatalBoxOf([this] { txtPf_Change(context_); });
+    EXPECT_EQ(box.title, "Fatal Error");
+    EXPECT_EQ(box.text, testing::FatalText("Orifice type not specified"));
+    EXPECT_EQ(desk_.buttons, std::vector{BoxButtons::Ok});
 }
 
 // A length that no table has: for the diameters of the lists, and for the user's own.
 TEST_F(FormProceduresTest, AnUnknownUnitOfThePipeEndsTheProgram) {
     static constexpr Unit kFurlongs[] = {{"Furlongs", 7920.0F}};
-    state_.SuspendCalc = true;
-    LoadcboPipeIDUnit(context_);
-    LoadcboNomSize(context_);
-    LoadcboPipeID(context_);
     const std::string fatal =
-        "Fatal Error Encountered: \n\r\n\rUnrecognized pipe ID unit for 'User Entered' pipe "
-        "ID\n\r\n\rThis Program will now terminate.";
-    // The question for the diameter comes before the last box.
-    const auto expectEnd = [&](auto call) {
-        desk_.TakeBoxes();
-        EXPECT_EQ(ExitStatusOf(call), 1);
-        const auto boxes = desk_.TakeBoxes();
-        ASSERT_FALSE(boxes.empty());
-        EXPECT_EQ(boxes.back().text, fatal);
-        EXPECT_EQ(boxes.back().title, "Fatal Error");
-    };
+        testing::FatalText("Unrecognized pipe ID unit for 'User Entered' pipe ID");
+    LoadPipes();
     form_.cboPipeIDUnit->setCurrentIndex(0);
     state_.PipeIDUnitTable = kFurlongs;
-    expectEnd([this] { LoadcboPipeID(context_); });
+    EXPECT_EQ(FatalBoxOf([this] { LoadcboPipeID(context_); }).text, fatal);
     state_.PipeIDUnitTable = kLengthUnits;
     LoadcboPipeID(context_);
     state_.PipeIDUnitTable = kFurlongs;
     desk_.QueueAnswer({.ok = true, .text = "4"});
     form_.cboPipeID->setCurrentIndex(form_.cboPipeID->count() - 1);
-    expectEnd([this] { cboPipeID_Click(context_); });
+    EXPECT_EQ(FatalBoxOf([this] { cboPipeID_Click(context_); }).text, fatal);
 }
 
-// Keeps the buttons of the boxes, too, which a script does not state.
-class ButtonsDesk : public ScriptDesk {
-  public:
-    using ScriptDesk::ScriptDesk;
-
-    int ShowMessageBox(const MessageBoxRequest& request) override {
-        buttons.push_back(request.buttons);
-        return ScriptDesk::ShowMessageBox(request);
-    }
-
-    std::vector<BoxButtons> buttons;
-};
-
-TEST(Boxes, WhatIsOnlySaidHasOneButton) {
-    ButtonsDesk desk([](int exitStatus) { throw Ended{exitStatus}; });
-    Module1 module(desk, NumberLocale{});
-    QWidget canvas;
-    QWidget footer;
-    QMenuBar menus;
-    FormState state;
-    MainForm form(canvas, footer, menus);
-    const FormContext context{form, state, module};
-    state.SuspendCalc = true;
-    LoadcboPipeIDUnit(context);
-    LoadcboNomSize(context);
-    LoadcboPipeID(context);
-    desk.QueueAnswer({.ok = true, .text = "0"});
-    form.cboPipeID->setCurrentIndex(form.cboPipeID->count() - 1);
-    cboPipeID_Click(context);
-    EXPECT_EQ(desk.buttons, std::vector{BoxButtons::Ok});
-    module.FluidType = "X";
-    EXPECT_THROW(txtPf_Change(context), Ended);
-    EXPECT_EQ(desk.buttons, (std::vector{BoxButtons::Ok, BoxButtons::Ok}));
+TEST_F(FormProceduresTest, ABoxThatOnlySaysSomethingHasOneButton) {
+    LoadPipes();
+    desk_.QueueAnswer({.ok = true, .text = "0"});
+    form_.cboPipeID->setCurrentIndex(form_.cboPipeID->count() - 1);
+    cboPipeID_Click(context_);
+    EXPECT_EQ(desk_.buttons, std::vector{BoxButtons::Ok});
 }
 
 // What is solved is emptied; while no mode is chosen, whatever could be.
 TEST_F(FormProceduresTest, AResultIsCleared) {
-    state_.SuspendCalc = true;
     const std::pair<OptionButton*, std::vector<NumericField*>> modes[] = {
         {nullptr, {form_.txtFlow, form_.txtDeltaP, form_.txtBeta}},
         {form_.optCalcFR, {form_.txtFlow}},
@@ -194,10 +177,7 @@ TEST_F(FormProceduresTest, AMessageIsKept) {
     };
     module_.FluidType = "L";
     form_.optCalcBeta->setChecked(true);
-    state_.SuspendCalc = true;
-    LoadcboPipeIDUnit(context_);
-    LoadcboNomSize(context_);
-    LoadcboPipeID(context_);
+    LoadPipes();
     LoadcboDeltaPUnit(context_);
     LoadcboFlowUnit(context_);
     LoadcboTimeUnit(context_);
@@ -213,7 +193,6 @@ TEST_F(FormProceduresTest, AMessageIsKept) {
 // So is that of a density from the table.
 TEST_F(FormProceduresTest, AMessageOfTheSteamTableIsKept) {
     module_.FluidType = "S";
-    state_.SuspendCalc = true;
     LoadcboPressUnit(context_);
     LoadcboDensityUnit(context_);
     form_.optCalcFR->setChecked(true);
@@ -231,61 +210,43 @@ TEST_F(FormProceduresTest, AMessageOfTheSteamTableIsKept) {
     EXPECT_NE(form_.txtDensity->text(), "");
 }
 
-// Looks at the main window's mouse pointer while its other windows are open.
-class PointerDesk : public ScriptDesk {
-  public:
-    PointerDesk() : ScriptDesk([](int exitStatus) { throw Ended{exitStatus}; }) {}
-
-    void ShowCustomerWindow(QWidget& owner, Module1& module) override {
-        inCustomerWindow = owner.cursor().shape();
-        module.MsgResult = prints ? 1 : 2;
-    }
-    void PrintPage(QWidget& owner, const ReportPage& /*page*/, const QImage& /*logo*/) override {
-        inPrinting = owner.cursor().shape();
+class ShownFormTest : public ::testing::Test {
+  protected:
+    ShownFormTest() {
+        module_.AppPath = AppPathOf(QCoreApplication::applicationDirPath());
+        window_.Form_Load();
+        window_.show();
     }
 
-    bool prints = true;
-    std::optional<Qt::CursorShape> inCustomerWindow;
-    std::optional<Qt::CursorShape> inPrinting;
+    KeepingDesk desk_;
+    Module1 module_{desk_, NumberLocale{}};
+    frmTarvix window_{module_, desk_};
 };
 
-TEST(Printing, ThePointerIsBusyWhileThePageIsPrinted) {
-    PointerDesk desk;
-    Module1 module(desk, NumberLocale{});
-    module.AppPath = AppPathOf(QCoreApplication::applicationDirPath());
-    frmTarvix window(module, desk);
-    window.Form_Load();
-    window.show();
-    window.form().cmdPrint->setEnabled(true);
+TEST_F(ShownFormTest, ThePointerIsBusyWhileThePageIsPrinted) {
+    window_.form().cmdPrint->setEnabled(true);
+    window_.form().cmdPrint->click();
+    EXPECT_EQ(desk_.inCustomerWindow, Qt::ArrowCursor);
+    EXPECT_EQ(desk_.inPrinting, Qt::BusyCursor);
+    EXPECT_EQ(window_.cursor().shape(), Qt::ArrowCursor);
 
-    window.form().cmdPrint->click();
-    EXPECT_EQ(desk.inCustomerWindow, Qt::ArrowCursor);
-    EXPECT_EQ(desk.inPrinting, Qt::BusyCursor);
-    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
-
-    desk.inPrinting.reset();
-    desk.prints = false;
-    window.form().cmdPrint->click();
-    EXPECT_EQ(desk.inPrinting, std::nullopt) << "cancelled";
-    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+    desk_.inPrinting.reset();
+    desk_.prints = false;
+    window_.form().cmdPrint->click();
+    EXPECT_EQ(desk_.inPrinting, std::nullopt) << "cancelled";
+    EXPECT_EQ(window_.cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST(FormActivation, LaterActivationsChangeNothing) {
-    ScriptDesk desk([](int exitStatus) { throw Ended{exitStatus}; });
-    Module1 module(desk, NumberLocale{});
-    module.AppPath = AppPathOf(QCoreApplication::applicationDirPath());
-    frmTarvix window(module, desk);
-    window.Form_Load();
-    window.show();
-    EXPECT_TRUE(window.form().optGas->Value());
-    window.form().optLiquid->Select();
-    window.form().txtSGf->SetText("1");
-    const int before = window.calculationRuns();
-    window.hide();
-    window.show();
-    EXPECT_TRUE(window.form().optLiquid->Value());
-    EXPECT_EQ(window.form().txtSGf->text(), "1");
-    EXPECT_EQ(window.calculationRuns(), before);
+TEST_F(ShownFormTest, LaterActivationsChangeNothing) {
+    EXPECT_TRUE(window_.form().optGas->Value());
+    window_.form().optLiquid->Select();
+    window_.form().txtSGf->SetText("1");
+    const int before = window_.calculationRuns();
+    window_.hide();
+    window_.show();
+    EXPECT_TRUE(window_.form().optLiquid->Value());
+    EXPECT_EQ(window_.form().txtSGf->text(), "1");
+    EXPECT_EQ(window_.calculationRuns(), before);
 }
 
 }  // namespace

@@ -19,13 +19,8 @@
 namespace tarvix::testing {
 namespace {
 
-MessageBoxRequest Box(BoxButtons buttons) {
-    MessageBoxRequest request;
-    request.title = "Program Termination";
-    request.text = "One line\n\rand another";
-    request.buttons = buttons;
-    request.style = BoxStyle::Critical;
-    return request;
+MessageBoxRequest Box(BoxButtons buttons, BoxStyle style = BoxStyle::Critical) {
+    return {"One line\n\rand another", "Program Termination", style, buttons};
 }
 
 int AnswerTo(const MessageBoxRequest& request, const std::function<void(QMessageBox&)>& act) {
@@ -35,19 +30,23 @@ int AnswerTo(const MessageBoxRequest& request, const std::function<void(QMessage
     return answer;
 }
 
-TEST(QtPlatformTest, AnswersOfABoxThatCanBeCancelled) {
-    const MessageBoxRequest box = Box(BoxButtons::OkCancel);
-    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.button(QMessageBox::Ok)->click(); }), kAnswerOk);
-    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.button(QMessageBox::Cancel)->click(); }),
-              kAnswerCancel);
-    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.close(); }), kAnswerCancel);
-    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.reject(); }), kAnswerCancel);
+void Confirm(QMessageBox& box) {
+    box.button(QMessageBox::Ok)->click();
+}
+
+void Close(QMessageBox& box) {
+    box.close();
 }
 
 TEST(QtPlatformTest, ABoxWithoutCancelIsConfirmedHoweverItIsClosed) {
-    const MessageBoxRequest box = Box(BoxButtons::Ok);
-    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.button(QMessageBox::Ok)->click(); }), kAnswerOk);
-    EXPECT_EQ(AnswerTo(box, [](QMessageBox& b) { b.close(); }), kAnswerOk);
+    const MessageBoxRequest box = Box(BoxButtons::OkCancel);
+    EXPECT_EQ(AnswerTo(box, Confirm), kAnswerOk);
+    EXPECT_EQ(AnswerTo(box, [](auto& b) { b.button(QMessageBox::Cancel)->click(); }),
+              kAnswerCancel);
+    EXPECT_EQ(AnswerTo(box, Close), kAnswerCancel);
+    EXPECT_EQ(AnswerTo(box, [](auto& b) { b.reject(); }), kAnswerCancel);
+    EXPECT_EQ(AnswerTo(Box(BoxButtons::Ok), Confirm), kAnswerOk);
+    EXPECT_EQ(AnswerTo(Box(BoxButtons::Ok), Close), kAnswerOk);
 }
 
 TEST(QtPlatformTest, ABoxShowsWhatIsAsked) {
@@ -56,9 +55,7 @@ TEST(QtPlatformTest, ABoxShowsWhatIsAsked) {
         {BoxStyle::Exclamation, QMessageBox::Warning},
         {BoxStyle::Information, QMessageBox::Information}};
     for (const auto& [style, icon] : icons) {
-        MessageBoxRequest request = Box(BoxButtons::OkCancel);
-        request.style = style;
-        AnswerTo(request, [icon = icon](QMessageBox& box) {
+        AnswerTo(Box(BoxButtons::OkCancel, style), [icon = icon](QMessageBox& box) {
             EXPECT_EQ(box.icon(), icon);
             EXPECT_EQ(box.windowTitle(), "Program Termination");
             EXPECT_EQ(box.text(), "One line\nand another");
