@@ -1,6 +1,6 @@
 #include "report/page/page_writer.h"
 
-#include "tests/report/page_rows.h"
+#include "tests/report/report_page_fixture.h"
 
 #include <gtest/gtest.h>
 #include <string>

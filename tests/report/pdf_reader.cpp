@@ -34,10 +34,6 @@ std::vector<QStringList> TableRows(const QByteArray& output) {
     return rows;
 }
 
-double Number(const QRegularExpressionMatch& match, const char* name) {
-    return match.captured(name).toDouble();
-}
-
 // From the top down, on a line from left to right; the tool itself reads column after column.
 bool ReadBefore(const PdfWord& a, const PdfWord& b) {
     const double lineA = std::round(a.bottom);
@@ -89,15 +85,16 @@ std::vector<PdfPage> ReadPdf(const QString& file) {
         kPageOrWord.globalMatch(QString::fromUtf8(OutputOf("pdftotext", {"-bbox", file, "-"})));
     while (matches.hasNext()) {
         const auto match = matches.next();
+        const auto number = [&match](const char* name) { return match.captured(name).toDouble(); };
         if (!match.captured("width").isEmpty()) {
-            pages.push_back({Number(match, "width"), Number(match, "height"), {}});
+            pages.push_back({number("width"), number("height"), {}});
             continue;
         }
         QString text = match.captured("text");
         text.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"");
         text.replace("&amp;", "&");
-        pages.back().words.push_back({text, Number(match, "left"), Number(match, "top"),
-                                      Number(match, "right"), Number(match, "bottom")});
+        pages.back().words.push_back(
+            {text, number("left"), number("top"), number("right"), number("bottom")});
     }
     for (PdfPage& page : pages) {
         std::sort(page.words.begin(), page.words.end(), ReadBefore);

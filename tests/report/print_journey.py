@@ -233,6 +233,12 @@ class PrintJourney(unittest.TestCase):
         self.assertEqual(lines[-1], "going on", output)
         return [line.removeprefix("box: ") for line in lines if line.startswith("box: ")]
 
+    def assert_told(self, boxes, *texts):
+        """There was one box, and it says these texts."""
+        self.assertEqual(len(boxes), 1, boxes)
+        for text in texts:
+            self.assertIn(text, boxes[0])
+
     @contextlib.contextmanager
     def report_on_hold(self):
         """The program between finding its printer and printing; yields the list for its boxes."""
@@ -301,10 +307,8 @@ class PrintJourney(unittest.TestCase):
 
     def test_stopped_printer_is_told_and_the_page_is_not_lost(self):
         self.system.run("cupsdisable", PRINTER)
-        boxes = self.print_report()
-        self.assertEqual(len(boxes), 1, boxes)
-        self.assertIn(f'The printer "{PRINTER}" is not ready.', boxes[0])
-        self.assertIn("waits in its queue", boxes[0])
+        self.assert_told(self.print_report(), f'The printer "{PRINTER}" is not ready.',
+                         "waits in its queue")
         self.assertEqual(len(self.system.jobs()), 1)
         self.assertEqual(self.printer.pages, [])
         self.system.run("cupsenable", PRINTER)
@@ -312,11 +316,8 @@ class PrintJourney(unittest.TestCase):
 
     def test_rejecting_printer_is_told_and_the_next_report_prints(self):
         self.system.run("cupsreject", PRINTER)
-        boxes = self.print_report()
-        self.assertEqual(len(boxes), 1, boxes)
-        self.assertIn("The report could not be printed.", boxes[0])
-        self.assertIn(f"Printer: {PRINTER}", boxes[0])
-        self.assertIn("not accepting jobs", boxes[0])
+        self.assert_told(self.print_report(), "The report could not be printed.",
+                         f"Printer: {PRINTER}", "not accepting jobs")
         self.assertEqual(self.system.jobs(), [])
         self.system.run("cupsaccept", PRINTER)
         self.assertEqual(self.print_report(), [])
@@ -325,16 +326,13 @@ class PrintJourney(unittest.TestCase):
     def test_printer_that_vanishes_is_told(self):
         with self.report_on_hold() as boxes:
             self.system.run("lpadmin", "-x", PRINTER)
-        self.assertEqual(len(boxes), 1, boxes)
-        self.assertIn("The report could not be printed.", boxes[0])
-        self.assertIn("does not know this printer any more", boxes[0])
+        self.assert_told(boxes, "The report could not be printed.",
+                         "does not know this printer any more")
 
     def test_print_server_that_vanishes_is_told(self):
         with self.report_on_hold() as boxes:
             self.system.stop()
-        self.assertEqual(len(boxes), 1, boxes)
-        self.assertIn("The report could not be printed.", boxes[0])
-        self.assertIn("does not answer", boxes[0])
+        self.assert_told(boxes, "The report could not be printed.", "does not answer")
 
     def test_full_disk_is_told(self):
         # A file system of a few kilobytes in place of the folder for temporary files, seen by this
@@ -345,10 +343,8 @@ class PrintJourney(unittest.TestCase):
                 [*on_full_disk, "true"], env=self.system.environment, capture_output=True,
                 check=False).returncode != 0:
             self.skipTest("a program can't be given a file system of its own here")
-        boxes = self.print_report(on_full_disk)
-        self.assertEqual(len(boxes), 1, boxes)
-        self.assertIn("The report could not be printed.", boxes[0])
-        self.assertIn("There is no room left on the disk", boxes[0])
+        self.assert_told(self.print_report(on_full_disk), "The report could not be printed.",
+                         "There is no room left on the disk")
         self.assertEqual(self.system.jobs(), [])
 
     def test_page_leaves_nothing_behind(self):

@@ -2,30 +2,32 @@
 #pragma once
 
 #include "report/page/report_page.h"
-#include "tests/core/fatal_errors.h"
 #include "tests/core/locales.h"
-#include "tests/report/page_rows.h"
+#include "tests/core/recording_platform.h"
 #include "tests/report/sample_sheets.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
 #include <vector>
 
 namespace tarvix::testing {
 
-using Rows = std::vector<std::string>;
+// The lines with text at or below `yTwips`, in the order of printing.
+inline std::vector<ReportLine> LinesFrom(const ReportPage& page, double yTwips) {
+    std::vector<ReportLine> lines;
+    std::ranges::copy_if(page.lines, std::back_inserter(lines), [yTwips](const ReportLine& line) {
+        return line.yTwips >= yTwips && !line.text.empty();
+    });
+    return lines;
+}
 
 class ReportPageTest : public ::testing::Test {
   protected:
     ReportPageTest() { FillCustomer(module_); }
 
     ReportPage Page(const ReportSheet& sheet) { return ComposeReport(sheet, module_); }
-    Rows RowsOf(const ReportSheet& sheet) { return UpperRows(Page(sheet)); }
-    void ExpectFatal(const ReportSheet& sheet, const std::string& cause) {
-        const auto box = FatalBoxOf(platform_, [&] { Page(sheet); });
-        EXPECT_EQ(box.text, FatalText(cause));
-        EXPECT_EQ(box.title, "Fatal Error");
-    }
 
     RecordingPlatform platform_;
     Module1 module_{platform_, kUnitedStates};
