@@ -24,7 +24,9 @@ inline constexpr double kInchesOfWaterPerPsi = 27.707;
 
 // The density of air, lb per cubic foot, is this times psia / deg R.
 inline constexpr double kGasDensityConstant = 2.698825;
-inline constexpr float kBaseCompressibility = 1.0F;  // Zb, at base conditions: always 1
+
+// Zb, at base conditions. Only the search for a gas's differential pressure is written with it.
+inline constexpr float kBaseCompressibility = 1.0F;
 
 // A mass flow in lb/h divided by this quotient (the density of air at base conditions, 2.698825 x
 // 14.696 psia / 519.67 deg R, in lb per cubic foot) is its equivalent in standard cubic feet of air

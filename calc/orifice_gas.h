@@ -7,14 +7,15 @@ namespace tarvix {
 // How the gas's deviation from the ideal gas law enters.
 enum class CompCorrection { None, Density, Zf };
 
+// What is read of them depends on the kind of flow and the correction.
 struct GasProperties {
     FlowKind flowKind = FlowKind::Volume;
     CompCorrection correction = CompCorrection::None;
     float pressurePsia = 0;      // P, operating pressure, absolute
-    float basePressurePsia = 0;  // Pb
-    float flowingTempR = 0;      // Tf, deg R
-    float baseTempR = 0;         // Tb, deg R
-    float baseSG = 0;            // G, relative to air
+    float basePressurePsia = 0;  // Pb; read with FlowKind::Volume
+    float flowingTempR = 0;      // Tf, deg R; not read for a mass with CompCorrection::Density
+    float baseTempR = 0;         // Tb, deg R; read with FlowKind::Volume
+    float baseSG = 0;            // G, relative to air; not read for a mass with that correction
     float operDensity = 0;       // lb per cubic foot; read with CompCorrection::Density
     float userZf = 0;            // read with CompCorrection::Zf
 };

@@ -77,7 +77,7 @@ PHRASES = {
     "kResultDecimalsBelow": (r"\| other \| # \|",),
     # Printing.
     "kCustomerColumns": (r"is longer than # characters", r"has room for # characters"),
-    "kNarrowest": (r"at # % of their width", r"narrower, down to # %"),
+    "kNarrowest": (r"at # of their width", r"narrower, down to # %"),
     "kRoomForPage": (r"less than # bytes, which a page",),
     # The steam table.
     "the steam table's last row": (r"needs 0 to # psi gauge", r"0 to # psi, \d+ pairs",

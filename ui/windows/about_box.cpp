@@ -11,7 +11,6 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include <initializer_list>
 #include <string_view>
 
 namespace tarvix {
@@ -97,8 +96,6 @@ AboutBox::AboutBox(QWidget* parent)
 }
 
 void AboutBox::LayOut() {
-    const int line = fontMetrics().lineSpacing();
-
     QFont titleFont = font();
     titleFont.setPointSizeF(1.4 * QFontInfo(titleFont).pointSizeF());
     titleFont.setBold(true);
@@ -107,28 +104,8 @@ void AboutBox::LayOut() {
     Label(kWebSiteLabel)
         .setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 
-    // The lines of one paragraph stand close together.
-    const auto addParagraph = [this, line](QVBoxLayout& frame, std::initializer_list<int> numbers) {
-        if (frame.count() > 0) {
-            frame.addSpacing(line / 2);
-        }
-        for (const int number : numbers) {
-            frame.addWidget(&Label(number));
-        }
-    };
-    const auto frameLayout = [line](QFrame& frame) {
-        auto* layout = new QVBoxLayout(&frame);
-        layout->setSpacing(0);
-        layout->setContentsMargins(line, line / 2, line, line / 2);
-        return layout;
-    };
-    QVBoxLayout* purpose = frameLayout(*Frame1);
-    addParagraph(*purpose, {1, 2, 3, 4});
-    addParagraph(*purpose, {5, 6, 7, 8, 9, 18});
-    QVBoxLayout* limits = frameLayout(*Frame2);
-    addParagraph(*limits, {10, 11, 12});
-    addParagraph(*limits, {13, 14});
-    addParagraph(*limits, {15, 16});
+    Fill(*Frame1, {{1, 2, 3, 4}, {5, 6, 7, 8, 9, 18}});
+    Fill(*Frame2, {{10, 11, 12}, {13, 14}, {15, 16}});
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -150,6 +127,22 @@ void AboutBox::LayOut() {
     auto* window = new QVBoxLayout(this);
     window->addWidget(texts_, 1);
     window->addLayout(buttons);
+}
+
+void AboutBox::Fill(QFrame& frame, const std::vector<std::vector<int>>& paragraphs) {
+    const int line = fontMetrics().lineSpacing();
+    auto* layout = new QVBoxLayout(&frame);
+    layout->setContentsMargins(line, line / 2, line, line / 2);
+    // The lines of one paragraph stand close together.
+    layout->setSpacing(0);
+    for (const std::vector<int>& paragraph : paragraphs) {
+        if (layout->count() > 0) {
+            layout->addSpacing(line / 2);
+        }
+        for (const int number : paragraph) {
+            layout->addWidget(&Label(number));
+        }
+    }
 }
 
 void AboutBox::FitToScreen() {

@@ -8,6 +8,7 @@
 #include <QScrollArea>
 
 #include <array>
+#include <vector>
 
 namespace tarvix {
 
@@ -28,6 +29,8 @@ class AboutBox : public QDialog {
 
     QLabel& Label(int number) { return *labels_.at(static_cast<std::size_t>(number - 1)); }
     void LayOut();
+    // Puts labels into a frame, paragraph by paragraph.
+    void Fill(QFrame& frame, const std::vector<std::vector<int>>& paragraphs);
 
     // As large as the texts, or as the screen allows; the texts scroll then.
     void FitToScreen();
