@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that a folder includes only the folders that its link line names, and that the folders
-stand on each other without a circle.
+"""Checks that a folder includes the folders that its link line names and no other, and that the
+folders stand on each other without a circle.
 
     check_rooms.py [FOLDER]     FOLDER: the project's (default: the one that this script is in)
 
@@ -13,8 +13,9 @@ import re
 import sys
 
 ROOMS = ("numbers", "calc", "units", "app", "report", "ui")
+PROJECT = (*ROOMS, "bench", "tests")
 LINK_LINE = re.compile(r"target_link_libraries\((tarvix\w*)([^)]*)\)")
-INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)/[^"/]+"', re.MULTILINE)
+INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)/[^">/]+[">]', re.MULTILINE)
 
 
 def links_of(project):
@@ -31,10 +32,14 @@ def links_of(project):
 
 def faults(project, links):
     for folder, linked in links.items():
+        unused = set(linked)
         for file in sorted((project / folder).glob("*.[ch]*")):
             for included in INCLUDE.findall(file.read_text(encoding="utf-8")):
-                if included != folder and included not in linked:
+                unused.discard(included)
+                if included.split("/")[0] in PROJECT and included != folder and included not in linked:
                     yield f"{folder}/{file.name} includes {included}/, which {folder} does not link"
+        for name in sorted(unused):
+            yield f"{folder} links {name}/, of which it includes nothing"
     try:
         graphlib.TopologicalSorter(links).prepare()
     except graphlib.CycleError as circle:
