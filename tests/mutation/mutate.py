@@ -40,7 +40,9 @@ ROOT = Path(__file__).resolve().parents[2]
 EXPLAINED = Path(__file__).resolve().parent / "README.md"
 
 # What is no source of the program.
-OTHER_FOLDERS = ("bench", "build", "docs", "packaging", "tests")
+OTHER_FOLDERS = ("bench/", "build/", "docs/", "packaging/", "tests/")
+# The folders that know no window toolkit.
+CORE = ("app/shared/", "app/sheet/", "calc/", "numbers/", "report/page/", "units/")
 # The program's entry is judged by the journeys, which a machine may skip.
 NOT_JUDGED = ("main.cpp",)
 
@@ -96,27 +98,14 @@ LEAST_SECONDS = 40
 ORDER_MATTERS = ("app/", "ui/handlers/")
 
 
-def needs_toolkit(root, name, known):
-    """Whether the file, or one that it includes, however far down, names a class of the toolkit."""
-    if name not in known:
-        text = (root / name).read_text()
-        known[name] = re.search(r"\bQ[A-Z]\w", text) is not None
-        for quoted in re.findall(r'^#include "(.*)"', text, re.M):
-            if (root / quoted).is_file() and needs_toolkit(root, quoted, known):
-                known[name] = True
-    return known[name]
-
-
 def files_of(root, part):
     """The sources of the part; of the core, where nothing is compiled for long, its headers too."""
-    known, files = {}, []
     suffixes = ("cpp", "h") if part == "core" else ("cpp",)
-    for path in sorted(p for suffix in suffixes for p in root.rglob("*." + suffix)):
-        name = path.relative_to(root).as_posix()
-        if name.split("/")[0] not in OTHER_FOLDERS and path.name not in NOT_JUDGED and \
-                needs_toolkit(root, name, known) == (part == "window"):
-            files.append(name)
-    return files
+    names = [path.relative_to(root).as_posix()
+             for path in sorted(p for suffix in suffixes for p in root.rglob("*." + suffix))
+             if path.name not in NOT_JUDGED]
+    return [name for name in names if not name.startswith(OTHER_FOLDERS)
+            and name.startswith(CORE) == (part == "core")]
 
 
 def is_tried(mutant, part):
