@@ -2,11 +2,13 @@
 // discharge coefficient and the expansion factor, and the beta error is the flow error seen through
 // the flow equation.
 #include "tests/docs/document_figures.h"
+#include "tests/docs/double_solver.h"
 #include "tests/docs/estimate_error.h"
 #include "tests/docs/iso5167.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <stdexcept>
 #include <tuple>
 
 namespace tarvix::accuracy {
@@ -128,6 +130,13 @@ TEST(Accuracy, BetaErrorIsAboutHalfOfTheFlowError) {
                         fiveDecimals + 0.025 * std::fabs(c.flowErrorPercent));
         });
     }
+}
+
+TEST(UnitFactors, WhatIsNoNumberAndNoUnit) {
+    EXPECT_THROW(ValueOfText("12x"), std::runtime_error);
+    EXPECT_THROW(ValueOfText(""), std::runtime_error);
+    EXPECT_THROW((void)UnitFactors(TARVIX_UNITS).Of("press", "furlong"), std::runtime_error);
+    EXPECT_THROW(UnitFactors("no such file"), std::runtime_error);
 }
 
 // Re = 4 qm / (pi D mu), in the document's units.

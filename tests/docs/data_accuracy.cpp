@@ -14,7 +14,6 @@
 #include "units/nominal_sizes.h"
 
 #include <cstdio>
-#include <numbers>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,11 +48,6 @@ constexpr int kLastBetaPercent = 75;
 constexpr float kNormalDiffPressInH2O = 100.0F;
 constexpr double kHighPressureFraction = 0.25;
 
-float DiffPressureOf(double fractionOfPressure) {  // inches of water
-    return static_cast<float>(fractionOfPressure * double{kPressurePsia} * kPascalPerPsi /
-                              kPascalPerInchWater);
-}
-
 void PrintErrors(const Comparison& c) {
     std::printf("\t%.6f\t%.6f\t%.6f\n", c.flowErrorPercent, c.diffPressErrorPercent,
                 c.betaErrorPercent);
@@ -83,13 +77,13 @@ void ForEachCase(Print print) {
     for (const NamedFluid& fluid : kFluids) {
         print(fluid, "normal", kNormalDiffPressInH2O);
         if (fluid.fluid != Fluid::Liquid) {
-            print(fluid, "high", DiffPressureOf(kHighPressureFraction));
+            print(fluid, "high", InchesOf(kHighPressureFraction));
         }
     }
 }
 
 void PrintExpansionAt(double exponent, float beta, double fractionOfPressure) {
-    const auto y = double{ExpansionFactor(beta, DiffPressureOf(fractionOfPressure), kPressurePsia)};
+    const auto y = double{ExpansionFactor(beta, InchesOf(fractionOfPressure), kPressurePsia)};
     const double epsilon = iso5167::Expansibility(double{beta}, 1 - fractionOfPressure, exponent);
     std::printf("expansion\t%.2f\t%.2f\t%.2f\t%.6f\n", exponent, double{beta}, fractionOfPressure,
                 100 * (y / epsilon - 1));
@@ -98,20 +92,13 @@ void PrintExpansionAt(double exponent, float beta, double fractionOfPressure) {
 // The Reynolds number at which ISO 5167-2 has water of 1 cP pass this plate.
 double WaterReynolds(const NamedPipe& pipe, float beta, float diffPressInH2O) {
     constexpr double kPascalSeconds = 1e-3;
-    const double diameterM = double{pipe.diameterIn} * kMetersPerInch;
-    iso5167::MeteringConditions conditions;
-    conditions.diameterM = diameterM;
-    conditions.beta = double{beta};
-    conditions.diffPressurePa = double{diffPressInH2O} * kPascalPerInchWater;
-    conditions.upstreamDensity = kWaterKgPerM3;
-    double reynolds = 1e5;
-    for (int i = 0; i < 50; ++i) {
-        conditions.dischargeCoefficient = iso5167::DischargeCoefficient(
-            double{beta}, diameterM * 1000, reynolds, iso5167::FlangeTaps(diameterM * 1000));
-        reynolds =
-            4 * iso5167::MassFlow(conditions) / (std::numbers::pi * diameterM * kPascalSeconds);
-    }
-    return reynolds;
+    const iso5167::MeteringConditions run{
+        .diameterM = double{pipe.diameterIn} * kMetersPerInch,
+        .beta = double{beta},
+        .diffPressurePa = double{diffPressInH2O} * kPascalPerInchWater,
+        .upstreamDensity = kWaterKgPerM3};
+    const iso5167::TapSpacing taps = iso5167::FlangeTaps(run.diameterM * 1000);
+    return iso5167::Reynolds(iso5167::MassFlow(run, taps, kPascalSeconds), run, kPascalSeconds);
 }
 
 }  // namespace

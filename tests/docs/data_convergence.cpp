@@ -12,7 +12,6 @@
 //                                      the differential pressure and of beta, at beta 0.5
 //   peak BETA DP/P                     where the program's flow of a gas is largest
 // RESULT: ok, other (another root), unresolved, range (beta limits), toohigh, nothing, noflow.
-#include "calc/orifice_gas.h"
 #include "calc/orifice_steam.h"
 #include "tests/docs/data_lines.h"
 #include "tests/docs/estimate_error.h"
@@ -27,7 +26,6 @@ namespace tarvix::accuracy {
 namespace {
 
 constexpr float kDiameterIn = 4.026F;
-constexpr double kInchesPerPsi = kPascalPerPsi / kPascalPerInchWater;
 
 struct Way {
     const char* name;
@@ -35,19 +33,11 @@ struct Way {
 };
 constexpr Way kWays[] = {{"gas", false}, {"steam", true}};
 
-float InchesOf(double fraction, double psia) {
-    return static_cast<float>(fraction * psia * kInchesPerPsi);
-}
-
 Outcome SolveAt(const Way& way, const MeteringRun& run, float psia) {
     if (way.steam) {
         return SolveSteam(run, {.pressurePsia = psia, .density = 0.25704F});
     }
-    return SolveGas(run, {.pressurePsia = psia,
-                          .basePressurePsia = 14.7F,
-                          .flowingTempR = 519.67F,
-                          .baseTempR = 519.67F,
-                          .baseSG = 1.0F});
+    return SolveGas(run, GasAt(psia));
 }
 
 const char* ResultOf(const Outcome& outcome, float wanted) {
@@ -83,7 +73,7 @@ void PrintMaps(const Way& way) {
     for (int percent = 2; percent <= 120; percent += 2) {
         for (int betaPercent = 10; betaPercent <= 94; betaPercent += 2) {
             const auto beta = static_cast<float>(betaPercent / 100.0);
-            const float h = InchesOf(percent / 100.0, double{kPressurePsia});
+            const float h = InchesOf(percent / 100.0);
             std::printf("betamap\t%s\t%.2f\t%.2f\t%s\n", way.name, percent / 100.0, double{beta},
                         ThereAndBack(way, SolveFor::Beta, beta, h, kPressurePsia));
             std::printf("dpmap\t%s\t%.2f\t%.2f\t%s\n", way.name, percent / 100.0, double{beta},
@@ -119,8 +109,7 @@ void PrintDiffPressureEnds(const Way& way) {
         int thousandths = 10;
         while (thousandths < 2000 &&
                IsFound(ThereAndBack(way, SolveFor::DiffPressure, beta,
-                                    InchesOf(thousandths / 1000.0, double{kPressurePsia}),
-                                    kPressurePsia))) {
+                                    InchesOf(thousandths / 1000.0), kPressurePsia))) {
             ++thousandths;
         }
         std::printf("dpend\t%s\t%.2f\t%.3f\n", way.name, double{beta}, thousandths / 1000.0);
@@ -160,7 +149,7 @@ void PrintLowPressure(const Way& way) {
 void PrintBands() {
     for (const int percent : {1, 25, 50, 60}) {
         const testing::ReferenceMeter meter(1, 1, double{kPressurePsia}, double{kDiameterIn});
-        const auto h = double{InchesOf(percent / 100.0, double{kPressurePsia})};
+        const auto h = double{InchesOf(percent / 100.0)};
         std::printf("band\t%.2f\t%.6f\t%.6f\n", percent / 100.0,
                     1e-4 / (1 - meter.DiffPressureContraction(0.5, h)),
                     1e-4 / (1 - meter.BetaContraction(0.5, h)));
@@ -172,10 +161,9 @@ void PrintPeaks() {
         float largest = 0;
         int peak = 0;
         for (int percent = 1; percent <= 200; ++percent) {
-            const Outcome flow = SolveAt(kWays[0],
-                                         {SolveFor::FlowRate, kDiameterIn, 0,
-                                          InchesOf(percent / 100.0, double{kPressurePsia}), beta},
-                                         kPressurePsia);
+            const float h = InchesOf(percent / 100.0);
+            const Outcome flow =
+                SolveAt(kWays[0], {SolveFor::FlowRate, kDiameterIn, 0, h, beta}, kPressurePsia);
             if (flow.value.value_or(0) > largest) {
                 largest = *flow.value;
                 peak = percent;

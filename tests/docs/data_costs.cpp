@@ -1,6 +1,5 @@
 // What entries and conditions that the program does not judge cost, in percent of the flow.
 //   cost NAME PERCENT
-#include "calc/orifice_gas.h"
 #include "calc/orifice_steam.h"
 #include "tests/core/locales.h"
 #include "tests/docs/data_lines.h"
@@ -19,26 +18,18 @@ namespace tarvix::accuracy {
 
 namespace {
 
-constexpr double kInchesPerPsi = kPascalPerPsi / kPascalPerInchWater;
-
 void Print(const char* name, double ratio) {
     std::printf("cost\t%s\t%.6f\n", name, 100 * (ratio - 1));
 }
 
 double GasFlow(float psia, float h) {
-    const Outcome flow =
-        SolveGas({SolveFor::FlowRate, 4.026F, 0, h, 0.5F}, {.pressurePsia = psia,
-                                                            .basePressurePsia = 14.7F,
-                                                            .flowingTempR = 519.67F,
-                                                            .baseTempR = 519.67F,
-                                                            .baseSG = 1.0F});
-    return double{flow.value.value()};
+    return double{SolveGas({SolveFor::FlowRate, 4.026F, 0, h, 0.5F}, GasAt(psia)).value.value()};
 }
 
 // The downstream pressure, entered instead of the upstream one.
 void PrintDownstream() {
     for (const int percent : {5, 10, 25}) {
-        const auto h = static_cast<float>(percent / 100.0 * double{kPressurePsia} * kInchesPerPsi);
+        const float h = InchesOf(percent / 100.0);
         const auto downstream = static_cast<float>(double{kPressurePsia} * (100 - percent) / 100);
         const std::string name = "downstream pressure, dp/p 0." +
                                  std::string(percent < 10 ? "0" : "") + std::to_string(percent);

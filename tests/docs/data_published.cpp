@@ -43,26 +43,11 @@ void PrintConstants() {
 }
 
 constexpr double kExampleMm = 73.66;
-constexpr double kExampleBeta = 50 / 73.66;
 constexpr double kExampleViscosity = 0.0011;  // Pa s
-
-// The Reynolds number follows the flow.
-double ExampleFlow(iso5167::TapSpacing taps, double expansibility) {
-    iso5167::MeteringConditions run;
-    run.diameterM = kExampleMm / 1000;
-    run.beta = kExampleBeta;
-    run.diffPressurePa = 17000;
-    run.upstreamDensity = 999.1;
-    run.expansibility = expansibility;
-    double flow = 7.7;
-    for (int i = 0; i < 60; ++i) {
-        const double reynolds = 4 * flow / (std::numbers::pi * run.diameterM * kExampleViscosity);
-        run.dischargeCoefficient =
-            iso5167::DischargeCoefficient(kExampleBeta, kExampleMm, reynolds, taps);
-        flow = iso5167::MassFlow(run);
-    }
-    return flow;
-}
+constexpr iso5167::MeteringConditions kExample{.diameterM = kExampleMm / 1000,
+                                               .beta = 50 / kExampleMm,
+                                               .diffPressurePa = 17000,
+                                               .upstreamDensity = 999.1};
 
 // The same run as typed into the window.
 std::string ExampleInTheWindow() {
@@ -88,18 +73,23 @@ std::string ExampleInTheWindow() {
 
 void PrintExample() {
     const iso5167::TapSpacing flange = iso5167::FlangeTaps(kExampleMm);
-    const double epsilon = iso5167::Expansibility(kExampleBeta, 183.0 / 200, 1.33);
-    std::printf("example\tpublished\t7.702338\n");
-    std::printf("example\tD taps, expansibility\t%.6f\n",
-                ExampleFlow(iso5167::kDAndHalfDTaps, epsilon));
-    std::printf("example\tD taps, liquid\t%.6f\n", ExampleFlow(iso5167::kDAndHalfDTaps, 1));
-    std::printf("example\tflange taps, liquid\t%.6f\n", ExampleFlow(flange, 1));
+    const auto print = [](const char* name, double value) {
+        std::printf("example\t%s\t%.6f\n", name, value);
+    };
+    const auto flow = [](iso5167::TapSpacing taps, double expansibility) {
+        iso5167::MeteringConditions run = kExample;
+        run.expansibility = expansibility;
+        return iso5167::MassFlow(run, taps, kExampleViscosity);
+    };
+    const double epsilon = iso5167::Expansibility(kExample.beta, 183.0 / 200, 1.33);
+    const double reynolds = iso5167::Reynolds(flow(flange, 1), kExample, kExampleViscosity);
+    print("published", 7.702338);
+    print("D taps, expansibility", flow(iso5167::kDAndHalfDTaps, epsilon));
+    print("D taps, liquid", flow(iso5167::kDAndHalfDTaps, 1));
+    print("flange taps, liquid", flow(flange, 1));
     std::printf("example\twindow\t%s\n", ExampleInTheWindow().c_str());
-    const double flow = ExampleFlow(flange, 1);
-    const double reynolds = 4 * flow / (std::numbers::pi * kExampleMm / 1000 * kExampleViscosity);
-    std::printf("example\tC\t%.6f\n",
-                iso5167::DischargeCoefficient(kExampleBeta, kExampleMm, reynolds, flange));
-    std::printf("example\tepsilon\t%.6f\n", epsilon);
+    print("C", iso5167::DischargeCoefficient(kExample.beta, kExampleMm, reynolds, flange));
+    print("epsilon", epsilon);
 }
 
 void PrintCoefficients() {

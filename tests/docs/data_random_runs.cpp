@@ -7,10 +7,10 @@
 //                                            largest relative difference of the differential
 //                                            pressure, largest difference of beta
 //   invariance LIST UNITS LARGEST            the same run in every unit of a list
-#include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
 #include "tests/docs/data_lines.h"
+#include "tests/docs/estimate_error.h"
 #include "tests/docs/random_sheets.h"
 #include "units/flow_units.h"
 #include "units/unit_tables.h"
@@ -48,7 +48,7 @@ const UnitFactors& Units() {
 // What the last digit does not explain.
 double Unexplained(const std::string& shown, double exact, SolveFor mode) {
     const double difference =
-        std::max(std::fabs(ValueOfText(shown) - exact) - HalfOfLastShownDigit(shown), 0.0);
+        std::max(std::fabs(ValueOfText(shown) - exact) - HalfOfLastDigit(shown), 0.0);
     return mode == SolveFor::Beta ? difference : difference / exact;
 }
 
@@ -135,7 +135,7 @@ double FromFirstUnit(tarvix::Fluid fluid, const std::function<void(InputSheet&)>
             throw std::runtime_error("no result in a unit");
         }
         largest = std::max(largest, std::fabs(ValueOfText(*b) / ValueOfText(*a) - 1) -
-                                        2 * HalfOfLastShownDigit(*a) / ValueOfText(*a));
+                                        2 * HalfOfLastDigit(*a) / ValueOfText(*a));
     }
     return largest;
 }
@@ -193,11 +193,7 @@ Outcome SolveTrip(const NamedFluid& fluid, const MeteringRun& run, float psia, f
     if (fluid.code == tarvix::Fluid::Steam) {
         return SolveSteam(run, {psia, density});
     }
-    return SolveGas(run, {.pressurePsia = psia,
-                          .basePressurePsia = 14.7F,
-                          .flowingTempR = 519.67F,
-                          .baseTempR = 519.67F,
-                          .baseSG = density});
+    return SolveGas(run, GasAt(psia, density));
 }
 
 void PrintTrips(const NamedFluid& fluid) {

@@ -1,8 +1,6 @@
 #include "tests/docs/document_figures.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -38,29 +36,6 @@ std::string ReadDocument(std::string_view file) {
         throw std::runtime_error("cannot read " + path);
     }
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
-
-// The leading number of a text, without group separators; moves `text` behind it.
-double TakeNumber(std::string_view& text) {
-    std::string plain;
-    std::size_t used = 0;
-    for (; used < text.size(); ++used) {
-        const char c = text[used];
-        const bool sign = (c == '-' || c == '+') && used == 0;
-        if (!sign && c != '.' && c != ',' && (c < '0' || c > '9')) {
-            break;
-        }
-        if (c != ',' && c != '+') {
-            plain += c;
-        }
-    }
-    double value = 0;
-    const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (error != std::errc{} || end != plain.data() + plain.size()) {
-        throw std::runtime_error("no number: " + std::string(text));
-    }
-    text.remove_prefix(used);
-    return value;
 }
 
 }  // namespace
@@ -103,22 +78,13 @@ FigureTable ReadFigures(std::string_view file, std::string_view name) {
 }
 
 double NumberOf(std::string_view cell) {
-    const double value = TakeNumber(cell);
+    std::string text(cell);
+    std::erase(text, ',');
+    std::size_t used = 0;
+    const double value = std::stod(text, &used);  // throws where there is none
     constexpr std::string_view kDividedBy = " / ";
-    if (!cell.starts_with(kDividedBy)) {
-        return value;
-    }
-    cell.remove_prefix(kDividedBy.size());
-    return value / TakeNumber(cell);
-}
-
-double HalfOfLastDigit(std::string_view cell) {
-    const auto isNumber = [](char c) { return (c >= '0' && c <= '9') || c == '.' || c == ','; };
-    const auto* const begin = std::ranges::find_if(cell, isNumber);
-    const auto* const end = std::find_if_not(begin, cell.end(), isNumber);
-    const auto* const point = std::find(begin, end, '.');
-    const auto decimals = point == end ? 0 : std::distance(point, end) - 1;
-    return 0.5 * std::pow(10.0, -static_cast<double>(decimals));
+    const std::string rest = text.substr(used);
+    return rest.starts_with(kDividedBy) ? value / NumberOf(rest.substr(kDividedBy.size())) : value;
 }
 
 }  // namespace tarvix::docs

@@ -30,7 +30,4 @@ FigureTable ReadFigures(std::string_view file, std::string_view name);
 // when there is none.
 double NumberOf(std::string_view cell);
 
-// Half of what the last digit of a cell's number stands for: what rounding may have taken.
-double HalfOfLastDigit(std::string_view cell);
-
 }  // namespace tarvix::docs

@@ -2,6 +2,7 @@
 
 #include "tests/docs/reference_meter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -16,12 +17,10 @@ constexpr double kAtmospherePsi = 14.7;
 constexpr double kRankine = 459.67;
 constexpr double kBaseTempR = 60 + kRankine;
 
-// The letter by which the copy of the tables names a fluid.
-std::string LetterOf(tarvix::Fluid fluid) {
-    if (fluid == tarvix::Fluid::Liquid) {
-        return "L";
-    }
-    return fluid == tarvix::Fluid::Gas ? "G" : "S";
+// The copy of the tables' name of the list of a fluid's flow units.
+const char* FlowListOf(tarvix::Fluid fluid) {
+    constexpr const char* kLists[] = {"flow L", "flow G", "flow S"};
+    return kLists[static_cast<int>(fluid)];
 }
 
 struct Meter {
@@ -57,7 +56,7 @@ testing::ReferenceMeter GasMeter(const InputSheet& sheet, const UnitFactors& uni
 
 Meter MeterOf(const InputSheet& sheet, const UnitFactors& units) {
     const double diameterIn = ValueOfText(sheet.pipeDiameter.text());
-    const double flowFactor = units.Of("flow " + LetterOf(sheet.fluid), sheet.flowUnit.text) /
+    const double flowFactor = units.Of(FlowListOf(sheet.fluid), sheet.flowUnit.text) /
                               units.Of("time", sheet.timeUnit.text);
     if (sheet.fluid == tarvix::Fluid::Liquid) {
         const double base = sheet.flowKind == FlowKind::Mass ? 1 : ValueOfText(sheet.sgb.text());
@@ -80,18 +79,10 @@ UnitFactors::UnitFactors(const std::string& path) {
     std::getline(stream, line);  // the heading
     while (std::getline(stream, line)) {
         std::istringstream cells(line);
-        std::string list;
-        std::string position;
-        std::string text;
-        std::string kind;
-        std::string factor;
-        std::string exact;
-        std::getline(cells, list, '\t');
-        std::getline(cells, position, '\t');
-        std::getline(cells, text, '\t');
-        std::getline(cells, kind, '\t');
-        std::getline(cells, factor, '\t');
-        std::getline(cells, exact, '\t');
+        std::string list, position, text, kind, factor, exact;
+        for (std::string* cell : {&list, &position, &text, &kind, &factor, &exact}) {
+            std::getline(cells, *cell, '\t');
+        }
         rows_[{list, text}] = {ValueOfText(factor), ValueOfText(exact)};
     }
     if (rows_.empty()) {
@@ -136,6 +127,13 @@ double ValueOfText(std::string text) {
         throw std::runtime_error("no number: " + text);
     }
     return value;
+}
+
+double HalfOfLastDigit(std::string_view text) {
+    const auto point = std::min(text.find('.'), text.size());
+    const auto end = std::min(text.find_first_not_of("0123456789", point + 1), text.size());
+    const auto decimals = end > point ? end - point - 1 : 0;
+    return 0.5 * std::pow(10.0, -static_cast<double>(decimals));
 }
 
 }  // namespace tarvix::accuracy

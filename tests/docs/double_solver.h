@@ -47,4 +47,7 @@ double ExactResult(InputSheet sheet, SolveFor mode, const UnitFactors& units);
 // The value of a number text of the US locale, with or without group separators.
 double ValueOfText(std::string text);
 
+// Half of what the last digit of the text's number stands for: what rounding may have taken.
+double HalfOfLastDigit(std::string_view text);
+
 }  // namespace tarvix::accuracy

@@ -1,6 +1,5 @@
 #include "tests/docs/estimate_error.h"
 
-#include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
 #include "calc/steam_table.h"
@@ -70,13 +69,7 @@ Outcome Solve(Fluid fluid, const MeteringRun& run) {
             return SolveLiquid(run, {.flowingSG = 1.0F, .baseSG = 1.0F});
         case Fluid::Gas:
         case Fluid::MonatomicGas:
-            return SolveGas(run, {.flowKind = FlowKind::Volume,
-                                  .correction = CompCorrection::None,
-                                  .pressurePsia = kPressurePsia,
-                                  .basePressurePsia = kBasePressurePsia,
-                                  .flowingTempR = kBaseTempR,
-                                  .baseTempR = kBaseTempR,
-                                  .baseSG = 1.0F});
+            return SolveGas(run, GasAt(kPressurePsia));
         case Fluid::Steam:
             return SolveSteam(run, {.pressurePsia = kPressurePsia,
                                     .density = SaturatedSteamDensity(kGaugePressurePsi).density});

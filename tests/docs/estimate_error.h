@@ -1,7 +1,7 @@
 // How far the program's estimate is from the full calculation of ISO 5167-2 at one point.
 #pragma once
 
-#include "calc/equation_terms.h"
+#include "calc/orifice_gas.h"
 
 namespace tarvix::accuracy {
 
@@ -29,6 +29,22 @@ struct Point {
 };
 
 inline constexpr float kPressurePsia = 114.7F;
+inline constexpr double kInchesPerPsi = kPascalPerPsi / kPascalPerInchWater;
+
+// A share of the pressure as a differential pressure in inches of water.
+inline float InchesOf(double share, double psia = double{kPressurePsia}) {
+    return static_cast<float>(share * psia * kInchesPerPsi);
+}
+
+// A gas of 60 deg F and this gravity, ideal.
+inline GasProperties GasAt(float psia, float gravity = 1) {
+    return {.pressurePsia = psia,
+            .basePressurePsia = 14.7F,
+            .flowingTempR = 519.67F,
+            .baseTempR = 519.67F,
+            .baseSG = gravity};
+}
+
 inline constexpr double kAirExponent = 1.4;
 inline constexpr double kMonatomicExponent = 1.67;
 inline constexpr double kSteamExponent = 1.3;

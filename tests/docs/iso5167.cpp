@@ -56,4 +56,18 @@ double MassFlow(const MeteringConditions& conditions) {
            std::sqrt(2 * conditions.diffPressurePa * conditions.upstreamDensity);
 }
 
+double Reynolds(double massFlow, const MeteringConditions& conditions, double viscosity) {
+    return 4 * massFlow / (std::numbers::pi * conditions.diameterM * viscosity);
+}
+
+double MassFlow(MeteringConditions conditions, TapSpacing taps, double viscosity) {
+    double reynolds = 1e5;
+    for (int i = 0; i < 60; ++i) {
+        conditions.dischargeCoefficient =
+            DischargeCoefficient(conditions.beta, conditions.diameterM * 1000, reynolds, taps);
+        reynolds = Reynolds(MassFlow(conditions), conditions, viscosity);
+    }
+    return MassFlow(conditions);
+}
+
 }  // namespace tarvix::iso5167

@@ -41,4 +41,11 @@ struct MeteringConditions {
 // The mass flow in kg/s, equation 1 of the standard.
 double MassFlow(const MeteringConditions& conditions);
 
+// The pipe Reynolds number of a mass flow; viscosity in Pa s.
+double Reynolds(double massFlow, const MeteringConditions& conditions, double viscosity);
+
+// The mass flow of a fluid of this viscosity, with the discharge coefficient of the Reynolds number
+// that it has itself.
+double MassFlow(MeteringConditions conditions, TapSpacing taps, double viscosity);
+
 }  // namespace tarvix::iso5167

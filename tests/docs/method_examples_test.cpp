@@ -1,12 +1,13 @@
 // The worked examples of docs/method.md: every figure against an independent calculation in double
 // precision with the document's own constants, and against the program.
 #include "app/sheet/derived_densities.h"
-#include "calc/orifice_gas.h"
 #include "calc/orifice_liquid.h"
 #include "calc/orifice_steam.h"
 #include "calc/steam_table.h"
 #include "tests/core/app/sheets.h"
 #include "tests/docs/document_figures.h"
+#include "tests/docs/estimate_error.h"
+#include "tests/docs/random_sheets.h"
 #include "units/bore_and_beta.h"
 #include "units/flow_units.h"
 #include "units/unit_tables.h"
@@ -22,21 +23,13 @@ namespace tarvix::docs {
 
 namespace {
 
+using accuracy::HalfOfLastDigit;
+using accuracy::ShownResult;
+
 constexpr const char* kMethod = "method.md";
 
 // What single precision may add to a figure worked out in doubles, step after step.
 constexpr double kSingleRounding = 1.2e-7;
-
-// The text of a result field for these inputs, as the window gets it; fails on any message.
-std::string Shown(const InputSheet& sheet) {
-    testing::RecordingPlatform platform;
-    Module1 module(platform, testing::kUnitedStates);
-    const CheckResult check = CheckInputs(sheet, {}, module);
-    EXPECT_EQ(check.message, "");
-    const CalculationResult result = CalculateResult(sheet, check.working, module);
-    EXPECT_EQ(result.message, "");
-    return result.text;
-}
 
 // The figure in the document is the value in single precision, rounded to the digits that stand
 // there, and the independent value within what single precision may add.
@@ -104,16 +97,6 @@ InputSheet SteamSheet(SolveFor mode) {
     return sheet;
 }
 
-GasProperties AirExample() {
-    GasProperties gas;
-    gas.pressurePsia = kGasPsia;
-    gas.basePressurePsia = 14.7F;
-    gas.flowingTempR = kGasR;
-    gas.baseTempR = kGasR;
-    gas.baseSG = 1.0F;
-    return gas;
-}
-
 }  // namespace
 
 TEST_F(MethodExamples, Liquid) {
@@ -132,7 +115,7 @@ TEST_F(MethodExamples, Liquid) {
     ExpectFigure(t, "E", VelocityTerm(beta), CoefficientTimesApproach(0.5F));
     ExpectFigure(t, "√(h Gf)", root);
     ExpectFigure(t, "Q", q, solved.value);
-    EXPECT_EQ(t.Text("shown"), Shown(testing::LiquidSheet(SolveFor::FlowRate)));
+    EXPECT_EQ(t.Text("shown"), ShownResult(testing::LiquidSheet(SolveFor::FlowRate)));
 }
 
 TEST_F(MethodExamples, LiquidBack) {
@@ -153,10 +136,9 @@ TEST_F(MethodExamples, LiquidBack) {
 
     InputSheet sheet = testing::LiquidSheet(SolveFor::Beta);
     sheet.flow = {t.Text("Q"), testing::kUnitedStates};
-    const std::string betaText = Shown(sheet);
-    EXPECT_EQ(t.Text("β shown"), betaText);
+    EXPECT_EQ(t.Text("β shown"), ShownResult(sheet));
 
-    const auto betaValue = TextToSingle(betaText, testing::kUnitedStates);
+    const auto betaValue = TextToSingle(t.Text("β shown"), testing::kUnitedStates);
     ASSERT_TRUE(betaValue);
     const auto bore = BoreFromBeta(*betaValue, 4.026F, kLengthUnits[0].factor);
     ASSERT_TRUE(bore);
@@ -164,7 +146,7 @@ TEST_F(MethodExamples, LiquidBack) {
 
     sheet = testing::LiquidSheet(SolveFor::DiffPressure);
     sheet.flow = {t.Text("Q"), testing::kUnitedStates};
-    EXPECT_EQ(t.Text("h shown"), Shown(sheet));
+    EXPECT_EQ(t.Text("h shown"), ShownResult(sheet));
 }
 
 TEST_F(MethodExamples, Gas) {
@@ -180,7 +162,7 @@ TEST_F(MethodExamples, Gas) {
                      (tempR / Constant("Pb")) * std::sqrt(radicand);
 
     const MeteringRun run{SolveFor::FlowRate, 2.067F, 0.0F, 100.0F, 0.5F};
-    const Outcome solved = SolveGas(run, AirExample());
+    const Outcome solved = SolveGas(run, accuracy::GasAt(kGasPsia));
 
     ExpectExpansion(t, p);
     ExpectFigure(t, "Tf", tempR, kGasR);
@@ -191,7 +173,7 @@ TEST_F(MethodExamples, Gas) {
     ExpectFigure(t, "h P/(Tf G Zf)", radicand);
     ExpectFigure(t, "Q", q, solved.value);
     ExpectFigure(t, "Q/Ff", q / (60.0 / 1440));
-    EXPECT_EQ(t.Text("shown"), Shown(GasSheet(SolveFor::FlowRate)));
+    EXPECT_EQ(t.Text("shown"), ShownResult(GasSheet(SolveFor::FlowRate)));
 }
 
 TEST_F(MethodExamples, GasBack) {
@@ -206,11 +188,11 @@ TEST_F(MethodExamples, GasBack) {
 
     InputSheet sheet = GasSheet(SolveFor::DiffPressure);
     sheet.flow = "570361";
-    EXPECT_EQ(t.Text("h shown"), Shown(sheet));
+    EXPECT_EQ(t.Text("h shown"), ShownResult(sheet));
 
     const MeteringRun run{SolveFor::DiffPressure, 2.067F,
                           570361.0F * static_cast<float>(60.0 / 1440), 0.0F, 0.5F};
-    const Outcome solved = SolveGas(run, AirExample());
+    const Outcome solved = SolveGas(run, accuracy::GasAt(kGasPsia));
 
     const FigureTable steps = ReadFigures(kMethod, "gas example steps");
     const int last = std::stoi(steps.rows().back()[0]);
@@ -258,7 +240,7 @@ TEST_F(MethodExamples, Steam) {
 
     InputSheet sheet = SteamSheet(SolveFor::FlowRate);
     EXPECT_EQ(t.Text("ρ"), sheet.density.text());
-    EXPECT_EQ(t.Text("shown"), Shown(sheet));
+    EXPECT_EQ(t.Text("shown"), ShownResult(sheet));
 }
 
 TEST_F(MethodExamples, SteamBack) {
@@ -269,7 +251,7 @@ TEST_F(MethodExamples, SteamBack) {
 
     InputSheet sheet = SteamSheet(SolveFor::Beta);
     sheet.flow = {t.Text("Q"), testing::kUnitedStates};
-    EXPECT_EQ(t.Text("β shown"), Shown(sheet));
+    EXPECT_EQ(t.Text("β shown"), ShownResult(sheet));
 
     const MeteringRun run{SolveFor::Beta, 4.026F, 7000.0F, 100.0F, 0.0F};
     const Outcome solved = SolveSteam(

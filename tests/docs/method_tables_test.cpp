@@ -2,6 +2,7 @@
 #include "calc/orifice_gas.h"
 #include "calc/steam_table.h"
 #include "tests/docs/document_figures.h"
+#include "tests/docs/double_solver.h"
 #include "tests/docs/estimate_error.h"
 #include "units/flow_units.h"
 #include "units/nominal_sizes.h"
@@ -16,6 +17,8 @@
 namespace tarvix::docs {
 
 namespace {
+
+using accuracy::HalfOfLastDigit;
 
 constexpr const char* kMethod = "method.md";
 

@@ -42,12 +42,6 @@ std::optional<std::string> ShownResult(const InputSheet& sheet) {
     return result.text.empty() ? std::nullopt : std::optional(result.text);
 }
 
-double HalfOfLastShownDigit(const std::string& text) {
-    const auto point = text.find('.');
-    const auto decimals = point == std::string::npos ? 0 : text.size() - point - 1;
-    return 0.5 * std::pow(10.0, -static_cast<double>(decimals));
-}
-
 // 53 random bits, the same on every system.
 double RandomSheets::Between(double low, double high) {
     const auto high21 = static_cast<double>(random_() >> 11);

@@ -23,9 +23,6 @@ inline EnteredNumber Entry(std::string text) {
 // What the program shows for the sheet; nothing when it shows no result.
 std::optional<std::string> ShownResult(const InputSheet& sheet);
 
-// Half of what the last digit of a shown result stands for.
-double HalfOfLastShownDigit(const std::string& text);
-
 class RandomSheets {
   public:
     RandomSheets(std::uint32_t seed, const UnitFactors& units) : random_(seed), units_(units) {}
