@@ -3,11 +3,9 @@ against two states of the window in a row, as the script player writes them."""
 
 import re
 
+from tarvix_checks import RESULT_FIELDS
 from tarvix_controls import FIELDS, GREEN, WINDOW_COLOUR
 from tarvix_tables import DELTA_P_UNITS, PRESSURE_UNITS
-
-RESULTS = {"optCalcBeta": "txtBeta", "optCalcDP": "txtDeltaP", "optCalcFR": "txtFlow"}
-FLUIDS = ("optLiquid", "optGas", "optSteam")
 
 # What the checks call a field, where it says one thing only.
 NAMED = {
@@ -35,16 +33,12 @@ class Step:
 
     def edited(self):
         """The fields that the action may have typed into; with keys, any."""
-        for line in self.lines:
-            if line.startswith("keys"):
-                return set(FIELDS)
+        if any(line.startswith("keys") for line in self.lines):
+            return FIELDS
         return {line.split()[1] for line in self.lines if line.startswith(("type ", "paste "))}
 
-    def selected(self, options):
-        return next(option for option in options if self[option]["value"])
-
     def result(self):
-        return RESULTS[self.selected(RESULTS)]
+        return next(field for mode, field in RESULT_FIELDS.items() if self[mode]["value"])
 
     def number(self, text):
         """A number that the program wrote, or None."""
@@ -64,7 +58,7 @@ def locked_is_green(step):
         found = {key: step[field][key] for key in expected}
         if found != expected:
             return f"{field}: {found}"
-    for option in RESULTS:
+    for option in RESULT_FIELDS:
         if (step[option]["backcolor"] == GREEN) != step[option]["value"]:
             return f"{option} is {step[option]['backcolor']}"
     return ""
@@ -108,7 +102,7 @@ def _is_tame(step):
     drop = step.number(step["txtDeltaP"]["text"])
     if not beta or not drop or not 0.1 < beta < 0.75:
         return False
-    if step.selected(FLUIDS) == "optLiquid":
+    if step["optLiquid"]["value"]:
         return True
     pressure = step.number(step["txtPf"]["text"])
     if pressure is None:
@@ -145,15 +139,5 @@ INVARIANTS = (locked_is_green, hidden_never_blocks, no_infinity, solving_back_gi
 
 def broken(step):
     """The name of an invariant that does not hold, and how; or None."""
-    for invariant in INVARIANTS:
-        fault = invariant(step)
-        if fault:
-            return invariant.__name__, fault
-    return None
-
-
-def refused_changes_nothing(before, now):
-    """For an action of refused lines alone."""
-    same = all(before[key] == now[key] for key in ("controls", "focus"))
-    return "" if same and not now["boxes"] and not now["pages"] and not now["calculations"] else \
-        "a refused action had an effect"
+    found = ((invariant.__name__, invariant(step)) for invariant in INVARIANTS)
+    return next((pair for pair in found if pair[1]), None)

@@ -19,11 +19,12 @@ import sys
 import tempfile
 from bisect import bisect_left
 from concurrent.futures import ThreadPoolExecutor
-from itertools import accumulate
+from itertools import accumulate, zip_longest
+from typing import Any, NamedTuple
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-from invariants import Step, broken, refused_changes_nothing  # noqa: E402
+from invariants import Step, broken  # noqa: E402
 from session_generator import Generator  # noqa: E402
 from tarvix_model import Model, Undefined  # noqa: E402
 from walks import walks  # noqa: E402
@@ -31,24 +32,23 @@ from walks import walks  # noqa: E402
 PLAYER_SECONDS = 300
 
 
-class Difference:
-    def __init__(self, where, what, program, model):
-        self.where = where      # number of the script line
-        self.what = what
-        self.program = program
-        self.model = model
+class Difference(NamedTuple):
+    where: int  # number of the script line
+    what: str
+    program: Any
+    model: Any
 
 
 def script_of(actions):
     return [line for action in actions for line in action + ["state"]]
 
 
-def run_player(player, lines, environment):
-    """The JSON lines that the player wrote, and a word on how it failed or ""."""
+def run_player(player, lines, environment, folder=None):
+    """The JSON lines that the player wrote, run in the folder, and a word on how it failed or ""."""
     try:
         done = subprocess.run([player], input="\n".join(lines) + "\n", capture_output=True,
-                              text=True, encoding="utf-8", env=environment, check=False,
-                              timeout=PLAYER_SECONDS)
+                              text=True, encoding="utf-8", env=environment, cwd=folder,
+                              timeout=PLAYER_SECONDS, check=False)
     except subprocess.TimeoutExpired:
         return [], f"does not end within {PLAYER_SECONDS} s"
     written = []
@@ -73,25 +73,14 @@ def compare_states(number, program, model):
         if program[key] != model[key]:
             return Difference(number, key, program[key], model[key])
     for shown, expected in zip(program.get("page_lines", []), model.get("page_lines", [])):
-        # The last line begins with the date.
-        for line in range(max(len(shown), len(expected))):
-            same = shown[line:line + 1] == expected[line:line + 1]
-            if not same and not (line == len(expected) - 1 and len(shown) == len(expected)
-                                 and shown[line].endswith(expected[line])):
-                return Difference(number, "page line", shown[line:line + 1],
-                                  expected[line:line + 1])
+        if shown[-1].endswith(expected[-1]):  # the program's begins with the date
+            shown[-1] = expected[-1]
+        for lines in zip_longest(shown, expected):
+            if lines[0] != lines[1]:
+                return Difference(number, "page line", *lines)
     if model["focus"] is not None and program["focus"] != model["focus"]:
         return Difference(number, "focus", program["focus"], model["focus"])
     return None
-
-
-def broken_invariant(number, action, before, shown, refused, locale):
-    if before is not None and refused == len(action):
-        fault = refused_changes_nothing(before, shown)
-        if fault:
-            return Difference(number, "refused_changes_nothing", fault, "")
-    found = broken(Step(action, before, shown, locale))
-    return Difference(number, found[0], found[1], "it holds") if found else None
 
 
 def resolve_focus(number, model, name):
@@ -114,7 +103,7 @@ def compare(lines, written, failure):
     """Plays the script on a model along what the program wrote; the first difference or None."""
     model = Model()
     answers = iter(written)
-    before, action, refused = None, [], 0
+    before, action = None, []
     for number, line in enumerate(lines, 1):
         if line != "state":
             action.append(line)
@@ -134,13 +123,14 @@ def compare(lines, written, failure):
                 if difference:
                     return difference
                 expected = model.with_state_again(expected)
-            difference = compare_states(number, shown, expected) or broken_invariant(
-                number, action, before, shown, refused, model.window.locale)
+            difference = compare_states(number, shown, expected)
             if difference:
                 return difference
-            before, action, refused = shown, [], 0
+            found = broken(Step(action, before, shown, model.window.locale))
+            if found:
+                return Difference(number, *found, "it holds")
+            before, action = shown, []
         elif kind_of(shown) == "refused":
-            refused += 1
             if shown["refused"].split()[:2] != expected["refused"].split()[:2]:
                 return Difference(number, "refused", shown["refused"], expected["refused"])
         elif shown != expected:
@@ -161,6 +151,8 @@ class Comparer:
             self.environment["QT_QPA_PLATFORM"] = "offscreen"
 
     def actions_of(self, seed):
+        if self.options.walks:
+            return self.walks()[seed]
         page = os.path.join(self.folder, f"page-{seed}.pdf")
         return Generator(random.Random(seed), self.options.locale, page).session(
             self.options.actions)
@@ -174,7 +166,7 @@ class Comparer:
         return compare(lines, written, failure)
 
     def check(self, seed):
-        actions = self.walks()[seed] if self.options.walks else self.actions_of(seed)
+        actions = self.actions_of(seed)
         return seed, actions, self.difference_of(actions)
 
     def minimised(self, actions, found):
@@ -203,8 +195,7 @@ def report(comparer, seed, actions, difference):
     again = comparer.difference_of(small) or difference
     print(f"difference: seed {seed}, locale {comparer.options.locale}")
     print("script:")
-    for line in [line for action in small for line in action] + ["state"]:
-        print("    " + line)
+    print(*("    " + line for action in small for line in action), "    state", sep="\n")
     print(f"differs:  {again.what}")
     print(f"program:  {again.program!r}")
     print(f"model:    {again.model!r}", flush=True)

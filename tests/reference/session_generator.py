@@ -4,6 +4,8 @@ A session is a list of actions, an action a list of script lines. A model of the
 along, so that most actions are ones that a user could carry out just then.
 """
 
+import copy
+
 from tarvix_controls import BUTTONS, FIELDS, LISTS, OPTIONS
 from tarvix_model import Model
 
@@ -125,8 +127,8 @@ class Generator:
     def fill_in(self):
         """A whole sheet, as a user would fill it in."""
         random = self.random
-        self.do("click " + random.choice(FLUID_OPTIONS))
-        self.do("click " + random.choice(MODE_OPTIONS))
+        self.click_one_of(FLUID_OPTIONS)
+        self.click_one_of(MODE_OPTIONS)
         properties = self.usable(PROPERTY_OPTIONS)
         for option in random.sample(properties, min(2, len(properties))):
             self.do("click " + option)
@@ -159,18 +161,6 @@ class Generator:
         if fields:
             field = self.random.choice(fields)
             self.do(f"{verb} {field} {text_for(field)}")
-
-    def type_number(self):
-        self.enter("type", self.number)
-
-    def paste_number(self):
-        self.enter("paste", self.number)
-
-    def paste_odd(self):
-        self.enter("paste", lambda field: self.random.choice(ODD_TEXTS))
-
-    def type_odd(self):
-        self.enter("type", lambda field: self.random.choice(ODD_TEXTS)[:20])
 
     def keys(self):
         window = self.model.window
@@ -225,7 +215,8 @@ class Generator:
     def probe(self):
         """A model in the same state, to look ahead with."""
         probe = Model(self.locale)
-        probe.window.__dict__.update(_copy_window(self.model.window))
+        state = {key: value for key, value in vars(self.model.window).items() if key != "locale"}
+        vars(probe.window).update(copy.deepcopy(state))
         return probe
 
     def solve_for_limit(self):
@@ -255,13 +246,10 @@ class Generator:
     def click_property(self):
         options = self.usable(PROPERTY_OPTIONS)
         if options:
-            self.do("click " + self.random.choice(options))
+            self.click_one_of(options)
 
-    def click_mode(self):
-        self.do("click " + self.random.choice(MODE_OPTIONS))
-
-    def click_fluid(self):
-        self.do("click " + self.random.choice(FLUID_OPTIONS))
+    def click_one_of(self, options):
+        self.do("click " + self.random.choice(options))
 
     def print_page(self):
         if self.model.window.enabled("cmdPrint"):
@@ -296,25 +284,22 @@ class Generator:
         self.do(f"choose {name} " + self.random.choice(("#99", "furlongs", "psi", "")))
 
     STEPS = (
-        (type_number, 14), (paste_number, 22), (choose_unit, 16), (click_property, 10),
-        (click_mode, 6), (round_trip, 3), (solve_for_limit, 1), (complete, 16),
-        (pick_pipe, 6), (pick_schedule, 4), (user_pipe, 3),
-        (keys, 6), (click_fluid, 2), (fill_in, 3), (print_page, 3), (leave, 1),
-        (lambda self: self.do("click mnuAbout"), 1), (focus_anything, 3), (tab, 2), (impossible, 2), (no_such_entry, 1),
+        (lambda self: self.enter("type", self.number), 14),
+        (lambda self: self.enter("paste", self.number), 22),
+        (choose_unit, 16), (click_property, 10),
+        (lambda self: self.click_one_of(MODE_OPTIONS), 6),
+        (round_trip, 3), (solve_for_limit, 1), (complete, 16),
+        (pick_pipe, 6), (pick_schedule, 4), (user_pipe, 3), (keys, 6),
+        (lambda self: self.click_one_of(FLUID_OPTIONS), 2),
+        (fill_in, 3), (print_page, 3), (leave, 1),
+        (lambda self: self.do("click mnuAbout"), 1),
+        (focus_anything, 3), (tab, 2), (impossible, 2), (no_such_entry, 1),
     )
 
     def step(self):
         if self.random.random() < self.noise / 2:
-            self.random.choice((Generator.paste_odd, Generator.type_odd))(self)
+            verb, length = self.random.choice((("paste", None), ("type", 20)))
+            self.enter(verb, lambda field: self.random.choice(ODD_TEXTS)[:length])
             return
         steps, weights = zip(*self.STEPS)
         self.random.choices(steps, weights)[0](self)
-
-
-def _copy_window(window):
-    """The window's state for a look ahead; only what a pipe pick writes is copied deeply."""
-    import copy
-    copied = copy.deepcopy({key: value for key, value in window.__dict__.items()
-                            if key != "locale"})
-    copied["locale"] = window.locale
-    return copied

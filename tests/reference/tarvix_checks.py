@@ -80,7 +80,7 @@ class Calculator(Controls):
 
     def _judge_edited(self, fields, rules, non_numeric, not_positive):
         """The field that has the focus. `rules` holds the fields with a test of their own."""
-        field, name = next((pair for pair in fields if self.active(pair[0])), ("", ""))
+        field, name = next((pair for pair in fields if pair[0] == self.focus), ("", ""))
         if not field or self.text(field) == "":
             return ""
         if not self.numeric(field):

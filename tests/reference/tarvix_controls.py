@@ -215,9 +215,6 @@ class Controls:
         if control.kind == "field":
             control.anchor, control.cursor = 0, len(control.text)
 
-    def active(self, name):
-        return self.focus == name
-
     def state_of(self, name):
         """What the script player reports of one control."""
         control = self.all[name]

@@ -38,7 +38,6 @@ class Model:
 
     def __init__(self, locale_name="en_US"):
         self.window = Window(number_locale(locale_name))
-        self.window.customer_typed = None
         self.ended = None
         try:
             self.window.Form_Load()

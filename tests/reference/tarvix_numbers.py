@@ -40,10 +40,8 @@ class NumberLocale:
 
 _LOCALES = {
     "C": (".", ","),
-    "POSIX": (".", ","),
     "ar_EG": (".", "\u066c"),
     "en_US": (".", ","),
-    "en_GB": (".", ","),
     "de_DE": (",", "."),
     "de_CH": (".", "\u2019"),
     "es_ES": (",", ".", 3, 3, 2),
@@ -95,31 +93,15 @@ def _number_body(text, locale):
     return match.group(1).replace(locale.group, "").replace(locale.decimal, ".")
 
 
-def _round_body_to_single(body):
-    """The single nearest to a decimal text, rounded once."""
-    double = float(body)
+def _nearest_single(body):
+    """The single nearest to a decimal text, rounded once: near the middle between two singles, the
+    digits that a double on the way loses decide."""
+    double, exact = float(body), Decimal(body)
     nearest = single(double)
-    if math.isinf(nearest) or math.isinf(double) or nearest == double:
+    if math.isinf(nearest) or exact == Decimal(double):
         return nearest
-    toward = math.inf if double > nearest else -math.inf
-    other = _next_single(nearest, toward)
-    if abs(other - double) == abs(double - nearest):
-        # The double sits half-way between two singles: the digits that it lost decide.
-        exact = Decimal(body)
-        if (exact > Decimal(double)) == (toward > 0) and exact != Decimal(double):
-            return other
-    return nearest
-
-
-def _next_single(value, toward):
-    bits = ctypes.c_uint32.from_buffer(ctypes.c_float(value)).value
-    if value == 0.0:
-        bits = 1 | (0x80000000 if toward < 0 else 0)
-    elif (toward > value) == (value > 0):
-        bits += 1
-    else:
-        bits -= 1
-    return ctypes.c_float.from_buffer(ctypes.c_uint32(bits)).value
+    around = (nearest, *(single(math.nextafter(double, way)) for way in (-INFINITY, INFINITY)))
+    return min(around, key=lambda value: abs(_WIDE.subtract(Decimal(value), exact)))
 
 
 def read_single(text, locale):
@@ -127,7 +109,7 @@ def read_single(text, locale):
     body = _number_body(text, locale)
     if body is None:
         return None
-    value = _round_body_to_single(body)
+    value = _nearest_single(body)
     return None if math.isinf(value) else value
 
 
@@ -136,9 +118,7 @@ def is_numeric(text, locale):
 
 
 def read_double(text, locale):
-    if not is_numeric(text, locale):
-        return None
-    return float(_number_body(text, locale))
+    return float(_number_body(text, locale)) if is_numeric(text, locale) else None
 
 
 def local_decimal(text, locale):
@@ -159,12 +139,8 @@ def _decimal_form(value, is_double):
 def _grouped(whole, locale):
     if len(whole) < locale.lowest + locale.minimum:
         return whole
-    groups = [whole[-locale.lowest:]]
-    rest = whole[:-locale.lowest]
-    while rest:
-        groups.insert(0, rest[-locale.higher:])
-        rest = rest[:-locale.higher]
-    return locale.group.join(groups)
+    places = r"(?<=\d)(?=(?:\d{%d})*\d{%d}$)" % (locale.higher, locale.lowest)
+    return re.sub(places, locale.group, whole)
 
 
 def format_number(value, decimals, locale, grouping, is_double=False):
@@ -180,24 +156,18 @@ def format_number(value, decimals, locale, grouping, is_double=False):
     return sign + whole + (locale.decimal + fraction if decimals else "")
 
 
-def _scaled_decimals(value, below_tenth, at_zero, otherwise):
-    for limit, decimals in ((1000.0, 0), (100.0, 1), (10.0, 2), (1.0, 3), (single(0.1), 4),
-                            (single(0.01), below_tenth)):
-        if value >= limit:
-            return decimals
-    return at_zero if value == 0.0 else otherwise
+RESULT_SCALE = ((1000.0, 0), (100.0, 1), (10.0, 2), (1.0, 3), (single(0.1), 4), (single(0.01), 5))
 
 
-def format_result(value, locale):
-    return format_number(value, _scaled_decimals(value, 5, 1, 6), locale, True)
-
-
-def format_entry(value, locale):
-    return format_number(value, _scaled_decimals(value, 5, 1, 6), locale, False)
+def format_result(value, locale, grouping=True):
+    below = 1 if value == 0.0 else 6
+    decimals = next((decimals for limit, decimals in RESULT_SCALE if value >= limit), below)
+    return format_number(value, decimals, locale, grouping)
 
 
 def format_limit(value, locale):
-    return format_number(value, _scaled_decimals(value, 4, 4, 4), locale, True)
+    decimals = next((decimals for limit, decimals in RESULT_SCALE[:4] if value >= limit), 4)
+    return format_number(value, decimals, locale, True)
 
 
 def round_to_5(value, is_double):

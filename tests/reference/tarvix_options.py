@@ -133,7 +133,7 @@ class Window(MainWindow):
         self._enable(("optSteamTbl", "lblSteamTbl"), False)
         self.set_focus("txtDensity")
 
-    # --- compressibility, temperature scale, pressure reference ----------------------------------
+    # --- compressibility, temperature scale ------------------------------------------------------
 
     def optCompCorrNone_Click(self):
         for name in ("cboZfDensityUnit", "lblCompCorr", "txtZf"):
@@ -161,11 +161,6 @@ class Window(MainWindow):
         self.CheckZfCompWarning()
 
     optDegF_Click = optDegC_Click = MainWindow.recalculate
-
-    def optPgauge_Click(self):
-        self.txtPf_Change()
-
-    optPabsolute_Click = cboPressUnit_Click = optPgauge_Click
 
     # --- warnings --------------------------------------------------------------------------------
 
@@ -226,6 +221,8 @@ class Window(MainWindow):
         if self.fluid == "G":
             self.CheckZfCompWarning()
         self.recalculate()
+
+    optPgauge_Click = optPabsolute_Click = cboPressUnit_Click = txtPf_Change
 
     # --- keys ------------------------------------------------------------------------------------
 

@@ -6,7 +6,7 @@ from functools import partialmethod
 from tarvix_checks import RESULT_FIELDS, Calculator
 from tarvix_controls import GREEN, OPTION_GREY, WINDOW_COLOUR, YELLOW
 from tarvix_numbers import (
-    format_entry, format_number, is_numeric, local_decimal, read_double, read_single, single)
+    format_number, format_result, local_decimal, read_double, read_single, single)
 from tarvix_report import page_lines
 from tarvix_tables import (
     DELTA_P_UNITS, DENSITY_UNITS, FLOW_UNITS, FLUID_DEFAULTS, LENGTH_UNITS, NOMINAL_SIZES,
@@ -29,6 +29,7 @@ class MainWindow(Calculator):
         super().__init__(locale)
         self.answers = []
         self.customer = ["", "", ""]
+        self.customer_typed = None  # into the customer window, when it comes
         self.printer = False
 
     # --- boxes -----------------------------------------------------------------------------------
@@ -99,7 +100,7 @@ class MainWindow(Calculator):
         for option in former:
             field = RESULT_FIELDS[option]
             if self[option].backcolor == GREEN and self.numeric(field):
-                self.set_text(field, format_entry(self.value(field), self.locale))
+                self.set_text(field, format_result(self.value(field), self.locale, grouping=False))
         for option in RESULT_FIELDS:
             self[option].backcolor = GREEN if option == selected else OPTION_GREY
         results = [RESULT_FIELDS[selected]]
@@ -196,13 +197,10 @@ class MainWindow(Calculator):
         self["txtMaskNomSize"].visible = user_entered
         if user_entered:
             self._ask_for_diameter()
-        bore = self.text("txtOriBoreDia")
-        if is_numeric(bore, self.locale):
-            value = read_single(bore, self.locale)
-            self.set_text("txtOriBoreDia", format_number(value, 3, self.locale, False))
-            self._beta_from_bore()
-        else:
-            self.set_text("txtBeta", "")
+        if self.numeric("txtOriBoreDia"):
+            bore = format_number(self.value("txtOriBoreDia"), 3, self.locale, False)
+            self.set_text("txtOriBoreDia", bore)
+        self._beta_from_bore()
         self.recalculate()
 
     def _ask_for_diameter(self):
@@ -228,6 +226,9 @@ class MainWindow(Calculator):
     # --- bore and beta ---------------------------------------------------------------------------
 
     def _beta_from_bore(self):
+        if not self.numeric("txtOriBoreDia"):
+            self.set_text("txtBeta", "")
+            return
         bore = single(self.value("txtOriBoreDia") * self.factor("cboOriBoreUnit"))
         pipe = self.pipe_diameter()
         beta = single(bore / pipe) if pipe != 0.0 else math.nan
@@ -242,7 +243,7 @@ class MainWindow(Calculator):
         if self.numeric("txtBeta"):
             if self.value("txtBeta") >= BETA_LIMIT:
                 self._refuse_beta()
-            elif not self.active("txtOriBoreDia") and not self.active("cboOriBoreUnit"):
+            elif self.focus not in ("txtOriBoreDia", "cboOriBoreUnit"):
                 self._bore_from_beta()
         if not self.on("optCalcBeta"):
             self.recalculate()
@@ -274,12 +275,8 @@ class MainWindow(Calculator):
         self.set_text("txtBeta", "")
 
     def txtOriBoreDia_Change(self):
-        if not self.active("txtOriBoreDia"):
-            return
-        if self.numeric("txtOriBoreDia"):
+        if self.focus == "txtOriBoreDia":
             self._beta_from_bore()
-        else:
-            self.set_text("txtBeta", "")
 
     def cboOriBoreUnit_Click(self):
         self.set_text("txtOriBoreDia", "")
@@ -289,7 +286,7 @@ class MainWindow(Calculator):
     # --- printing and the end --------------------------------------------------------------------
 
     def cmdPrint_Click(self):
-        lines, self.customer_typed = getattr(self, "customer_typed", None), None
+        lines, self.customer_typed = self.customer_typed, None
         if self._next_answer()[0] == "cancel":
             return
         if lines is not None:

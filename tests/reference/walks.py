@@ -32,20 +32,12 @@ PRESSURES = (-14.7, 0.0, 67.5, 200.0, 387.5, 400.0, 3000.0)
 PLATE_WARNING = 150.0  # inches of water, from 8 inches nominal on
 
 
-def _number(value, locale):
-    text = "%.7g" % value
-    return text.replace(".", ",") if locale == "de_DE" else text
-
-
-def _entered(lines, locale):
-    return [line.replace(".", ",") if locale == "de_DE" else line for line in lines]
-
-
 def _walk(lines, locale, page):
-    return [["locale " + locale, "printer " + page]] + [[line] for line in lines]
+    entered = [line.replace(".", ",") if locale == "de_DE" else line for line in lines]
+    return [["locale " + locale, "printer " + page]] + [[line] for line in entered]
 
 
-def _fluid(fluid, locale):
+def _fluid(fluid):
     lines = ["choose cboNomSize 4", f"click opt{fluid}", "click optCalcFR"]
     lines += [f"type {field} {text}" for field, text in RUNS[fluid]]
     lines += ["type txtDeltaP 80", "type txtBeta 0.6"]
@@ -61,10 +53,10 @@ def _fluid(fluid, locale):
             lines += [f"choose {name} #{entry}" for entry in range(len(entries))]
             lines += [f"choose {name} #0", "click optCalcFR", "type txtDeltaP 80",
                       "type txtBeta 0.6"]
-    return _entered(lines, locale)
+    return lines
 
 
-def _pressures(locale):
+def _pressures():
     lines = ["choose cboNomSize 4", "click optGas"]
     for fluid in ("optGas", "optSteam"):
         lines += ["click " + fluid] + (["click optSteamTbl"] if fluid == "optSteam" else [])
@@ -73,13 +65,13 @@ def _pressures(locale):
             for unit, (_, factor) in enumerate(PRESSURE_UNITS):
                 lines.append(f"choose cboPressUnit #{unit}")
                 for psi in PRESSURES:
-                    lines += [f"paste txtPf {_number((psi + more + off) / float(factor), locale)}"
+                    lines += [f"paste txtPf {(psi + more + off) / float(factor):.7g}"
                               for off in (-0.01, 0.0, 0.01)]
     for size in ("6", "8"):
         lines.append("choose cboNomSize " + size)
         for unit, (_, factor) in enumerate(DELTA_P_UNITS):
             lines.append(f"choose cboDeltaPunit #{unit}")
-            lines += [f"paste txtDeltaP {_number((PLATE_WARNING + off) / float(factor), locale)}"
+            lines += [f"paste txtDeltaP {(PLATE_WARNING + off) / float(factor):.7g}"
                       for off in (-0.01, 0.01)]
     return lines
 
@@ -96,10 +88,10 @@ def _pipes(locale):
                       for schedule in range(len(PIPE_SCHEDULES[size]))]
         lines += [f"choose cboPipeID #{len(PIPE_SCHEDULES[NOMINAL_SIZES[-1][1]])}", "click cmdPrint"]
         lines += [f"choose cboOriBoreUnit #{bore}" for bore in range(len(LENGTH_UNITS))]
-    return _entered(lines, locale)
+    return lines
 
 
 def walks(locale, page):
     """The sessions, each a list of actions as the random sessions are."""
-    sessions = [_fluid(fluid, locale) for fluid in RUNS] + [_pressures(locale), _pipes(locale)]
+    sessions = [_fluid(fluid) for fluid in RUNS] + [_pressures(), _pipes(locale)]
     return [_walk(lines, locale, page) for lines in sessions]

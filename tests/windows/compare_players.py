@@ -8,19 +8,17 @@ Exit status 0: no difference; 1: some, each told with its session and state.
 """
 
 import argparse
-import json
 import os
 import pathlib
 import random
 import re
-import subprocess
 import sys
 import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "reference"))
-from session_generator import Generator  # noqa: E402  (found by the line above)
+from random_sessions import run_player, script_of  # noqa: E402  (found by the line above)
+from session_generator import Generator  # noqa: E402
 
-PLAYER_SECONDS = 600
 # Where a frame lies follows from the font.
 PLACE = {"left", "top", "width", "height"}
 # The last line of a page; the month's name is the system's.
@@ -28,16 +26,13 @@ DATE = re.compile(r"^\d\d \S+ \d{4} +(?=Web site)")
 
 
 def play(player, lines, folder):
-    done = subprocess.run([os.path.abspath(player)], input="\n".join(lines) + "\n",
-                          capture_output=True, text=True, encoding="utf-8", cwd=folder,
-                          timeout=PLAYER_SECONDS, check=False,
-                          env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-    states = [json.loads(line) for line in done.stdout.splitlines()]
+    states, failure = run_player(os.path.abspath(player), lines,
+                                 {**os.environ, "QT_QPA_PLATFORM": "offscreen"}, folder)
     for state in states:
         if "page_lines" in state:
             state["page_lines"] = [[DATE.sub("DATE ", line) for line in page]
                                    for page in state["page_lines"]]
-    return states, done.returncode
+    return states, failure
 
 
 def differences(one, other, path=""):
@@ -62,16 +57,14 @@ def main():
     states = different = 0
     for seed in range(options.seed, options.seed + options.sessions):
         generator = Generator(random.Random(seed), options.locale, "page.pdf")
-        lines = [line for action in generator.session(options.actions)
-                 for line in action + ["state"]]
+        lines = script_of(generator.session(options.actions))
         with tempfile.TemporaryDirectory(prefix="players-") as folder:
-            one, one_status = play(options.one, lines, folder)
-            other, other_status = play(options.other, lines, folder)
+            one, one_failure = play(options.one, lines, folder)
+            other, other_failure = play(options.other, lines, folder)
         states += len(one)
         found = []
-        if (len(one), one_status) != (len(other), other_status):
-            found.append(f"{len(one)} and {len(other)} lines, exit status {one_status} and "
-                         f"{other_status}")
+        if (len(one), one_failure) != (len(other), other_failure):
+            found.append(f"{len(one)} and {len(other)} lines, {one_failure!r}, {other_failure!r}")
         for number, (first, second) in enumerate(zip(one, other)):
             found += [f"state {number} {text}" for text in differences(first, second)]
         for text in found[:5]:
