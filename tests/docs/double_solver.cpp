@@ -3,6 +3,7 @@
 #include "tests/docs/reference_meter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -79,11 +80,11 @@ UnitFactors::UnitFactors(const std::string& path) {
     std::getline(stream, line);  // the heading
     while (std::getline(stream, line)) {
         std::istringstream cells(line);
-        std::string list, position, text, kind, factor, exact;
-        for (std::string* cell : {&list, &position, &text, &kind, &factor, &exact}) {
-            std::getline(cells, *cell, '\t');
+        std::array<std::string, 6> row;  // list, position, text, kind, factor, exact
+        for (std::string& cell : row) {
+            std::getline(cells, cell, '\t');
         }
-        rows_[{list, text}] = {ValueOfText(factor), ValueOfText(exact)};
+        rows_[{row[0], row[2]}] = {ValueOfText(row[4]), ValueOfText(row[5])};
     }
     if (rows_.empty()) {
         throw std::runtime_error("no units in " + path);

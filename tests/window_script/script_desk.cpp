@@ -15,15 +15,9 @@ namespace tarvix {
 namespace {
 
 const char* StyleName(BoxStyle style) {
-    switch (style) {
-        case BoxStyle::Critical:
-            return "critical";
-        case BoxStyle::Exclamation:
-            return "exclamation";
-        case BoxStyle::Information:
-            break;
-    }
-    return "information";
+    return style == BoxStyle::Critical      ? "critical"
+           : style == BoxStyle::Exclamation ? "exclamation"
+                                            : "information";
 }
 
 }  // namespace

@@ -8,34 +8,48 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QJsonArray>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QRegularExpression>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace tarvix {
 
 namespace {
 
+// A user could not do that.
+struct Refused {
+    QString why;
+};
+
+// Nothing that a script can say.
+struct NoCommand {
+    QString why;
+};
+
 struct NamedKey {
     QLatin1String name;
     int key = 0;
-    Qt::KeyboardModifiers modifiers;
     const char* text = "";
+    Qt::KeyboardModifiers modifiers = {};
 };
 
 const NamedKey kNamedKeys[] = {
-    {QLatin1String("{Backspace}"), Qt::Key_Backspace, Qt::NoModifier, "\b"},
-    {QLatin1String("{Delete}"), Qt::Key_Delete, Qt::NoModifier, "\x7f"},
-    {QLatin1String("{Left}"), Qt::Key_Left, Qt::NoModifier, ""},
-    {QLatin1String("{Right}"), Qt::Key_Right, Qt::NoModifier, ""},
-    {QLatin1String("{Home}"), Qt::Key_Home, Qt::NoModifier, ""},
-    {QLatin1String("{End}"), Qt::Key_End, Qt::NoModifier, ""},
-    {QLatin1String("{Tab}"), Qt::Key_Tab, Qt::NoModifier, "\t"},
-    {QLatin1String("{Enter}"), Qt::Key_Return, Qt::NoModifier, "\r"},
-    {QLatin1String("{Esc}"), Qt::Key_Escape, Qt::NoModifier, "\x1b"},
-    {QLatin1String("{SelectAll}"), Qt::Key_A, Qt::ControlModifier, "\x01"},
+    {QLatin1String("{Backspace}"), Qt::Key_Backspace, "\b"},
+    {QLatin1String("{Delete}"), Qt::Key_Delete, "\x7f"},
+    {QLatin1String("{Left}"), Qt::Key_Left},
+    {QLatin1String("{Right}"), Qt::Key_Right},
+    {QLatin1String("{Home}"), Qt::Key_Home},
+    {QLatin1String("{End}"), Qt::Key_End},
+    {QLatin1String("{Tab}"), Qt::Key_Tab, "\t"},
+    {QLatin1String("{Enter}"), Qt::Key_Return, "\r"},
+    {QLatin1String("{Esc}"), Qt::Key_Escape, "\x1b"},
+    {QLatin1String("{SelectAll}"), Qt::Key_A, "\x01", Qt::ControlModifier},
 };
 
 // The key code of a character key; 0 for characters that no such key stands for.
@@ -44,11 +58,16 @@ int KeyOf(QChar character) {
     return code >= 0x20 && code < 0x7F ? code : 0;
 }
 
+// What stands before the first blank, and what after it.
+std::pair<QString, QString> Split(const QString& text) {
+    return {text.section(' ', 0, 0), text.section(' ', 1)};
+}
+
 QJsonObject BoxState(const ShownBox& box) {
-    return {{QStringLiteral("title"), QString::fromStdString(box.title)},
-            {QStringLiteral("text"), QString::fromStdString(box.text)},
-            {QStringLiteral("style"), QString::fromStdString(box.style)},
-            {QStringLiteral("default"), QString::fromStdString(box.defaultAnswer)}};
+    return {{"title", QString::fromStdString(box.title)},
+            {"text", QString::fromStdString(box.text)},
+            {"style", QString::fromStdString(box.style)},
+            {"default", QString::fromStdString(box.defaultAnswer)}};
 }
 
 QJsonArray PageLines(const ReportPage& page) {
@@ -59,24 +78,13 @@ QJsonArray PageLines(const ReportPage& page) {
     return lines;
 }
 
-QString WithoutBlanks(QString text) {
-    while (text.startsWith(QLatin1Char(' '))) {
-        text.remove(0, 1);
-    }
-    while (text.endsWith(QLatin1Char(' '))) {
-        text.chop(1);
-    }
-    return text;
-}
-
 }  // namespace
 
 ScriptPlayer::ScriptPlayer(std::function<void(const QJsonObject&)> write, std::function<void()> end)
     : write_(std::move(write)),
-      locale_(NumberLocaleOf(QLocale(QStringLiteral("en_US")))),
+      locale_(NumberLocaleOf(QLocale("en_US"))),
       desk_([this, end = std::move(end)](int exitStatus) {
-          write_({{QStringLiteral("ended"),
-                   exitStatus == 0 ? QStringLiteral("exit") : QStringLiteral("fatal")}});
+          write_({{"ended", exitStatus == 0 ? "exit" : "fatal"}});
           end();
       }) {}
 
@@ -98,96 +106,67 @@ frmTarvix& ScriptPlayer::Window() {
     return *window_;
 }
 
-ScriptPlayer::Words ScriptPlayer::Split(const QString& line) {
-    const auto blank = line.indexOf(QLatin1Char(' '));
-    return blank < 0 ? Words{line, {}} : Words{line.left(blank), line.mid(blank + 1)};
-}
-
 QString ScriptPlayer::Play(const QString& line) {
-    QString command = line;
-    while (command.startsWith(QLatin1Char(' '))) {
-        command.remove(0, 1);
-    }
-    if (command.isEmpty() || command.startsWith(QLatin1Char('#'))) {
+    static const QHash<QString, void (ScriptPlayer::*)(const QString& rest)> kCommands{
+        {"locale", &ScriptPlayer::SetLocale},  {"click", &ScriptPlayer::Click},
+        {"focus", &ScriptPlayer::Focus},       {"type", &ScriptPlayer::Type},
+        {"keys", &ScriptPlayer::Keys},         {"paste", &ScriptPlayer::Paste},
+        {"choose", &ScriptPlayer::Choose},     {"answer", &ScriptPlayer::Answer},
+        {"customer", &ScriptPlayer::Customer}, {"printer", &ScriptPlayer::Printer},
+        {"picture", &ScriptPlayer::Picture},   {"state", &ScriptPlayer::State},
+    };
+    static const QRegularExpression kBlanks("^ +");
+    const QString command = QString(line).remove(kBlanks);
+    if (command.isEmpty() || command.startsWith('#')) {
         return {};
     }
-    const Words words = Split(command);
-    const QString argument = WithoutBlanks(words.rest);
-    const Words named = Split(words.rest);
-    const bool isFirst = !std::exchange(started_, true);
-    CloseOpenList(words.command);
-
-    QString why;
-    if (words.command == QLatin1String("locale")) {
-        if (!isFirst || !SetLocale(argument)) {
-            return QStringLiteral("locale: only as the first command, with a locale's name");
-        }
-    } else if (words.command == QLatin1String("click")) {
-        why = Click(argument);
-    } else if (words.command == QLatin1String("focus")) {
-        why = Focus(argument);
-    } else if (words.command == QLatin1String("type")) {
-        why = Type(named.command, named.rest);
-    } else if (words.command == QLatin1String("keys")) {
-        Keys(words.rest);
-    } else if (words.command == QLatin1String("paste")) {
-        why = Paste(named.command, named.rest);
-    } else if (words.command == QLatin1String("choose")) {
-        why = Choose(named.command, named.rest);
-    } else if (words.command == QLatin1String("answer")) {
-        if (!Answer(words.rest)) {
-            return QStringLiteral("answer: ok, cancel or text");
-        }
-    } else if (words.command == QLatin1String("customer")) {
-        desk_.TypeIntoCustomerWindow(words.rest.split(QLatin1Char('|')));
-    } else if (words.command == QLatin1String("printer")) {
-        desk_.SetPrinter(argument);
-    } else if (words.command == QLatin1String("picture")) {
-        QCoreApplication::processEvents();
-        if (!Window().grab().save(argument, "PNG")) {
-            why = QStringLiteral("the file can't be written");
-        }
-    } else if (command.trimmed() == QLatin1String("state")) {
-        State();
-    } else {
-        return QStringLiteral("no such command");
+    const auto [word, rest] = Split(command);
+    const auto play = kCommands.find(word.trimmed());
+    if (play == kCommands.end()) {
+        return "no such command";
     }
-    if (!why.isEmpty()) {
-        write_({{QStringLiteral("refused"), line}, {QStringLiteral("why"), why}});
+    CloseOpenList(word);
+    try {
+        (this->**play)(rest);
+    } catch (const Refused& refusal) {
+        write_({{"refused", line}, {"why", refusal.why}});
+    } catch (const NoCommand& fault) {
+        return fault.why;
     }
+    started_ = true;
     return {};
 }
 
 // A list that keys have opened is closed by whatever the user does next but look and press keys.
 void ScriptPlayer::CloseOpenList(const QString& command) {
     QWidget* open = QApplication::activePopupWidget();
-    if (open != nullptr && command != QLatin1String("keys") && command != QLatin1String("state") &&
-        command != QLatin1String("picture")) {
+    if (open != nullptr && !QStringList{"keys", "state", "picture"}.contains(command)) {
         open->close();
     }
 }
 
-bool ScriptPlayer::SetLocale(const QString& name) {
+void ScriptPlayer::SetLocale(const QString& rest) {
+    const QString name = rest.trimmed();
     const QLocale locale(name);
-    if (locale.name() != name && name != QLatin1String("C")) {
-        return false;
+    if (started_ || (locale.name() != name && name != "C")) {
+        throw NoCommand{"locale: only as the first command, with a locale's name"};
     }
     locale_ = NumberLocaleOf(locale);
-    return true;
 }
 
-QString ScriptPlayer::Unusable(const NamedControl* control) const {
+const NamedControl& ScriptPlayer::Usable(const QString& name) {
+    const NamedControl* control = Form().Find(name);
     if (control == nullptr) {
-        return QStringLiteral("there is no such control");
+        throw Refused{"there is no such control"};
     }
-    if (control->action != nullptr) {
-        return control->action->isEnabled() ? QString() : QStringLiteral("it is disabled");
+    if (control->action == nullptr && !Form().IsVisible(*control->widget)) {
+        throw Refused{"it is hidden"};
     }
-    const MainForm& form = window_->form();
-    if (!form.IsVisible(*control->widget)) {
-        return QStringLiteral("it is hidden");
+    if (control->action != nullptr ? !control->action->isEnabled()
+                                   : !Form().IsEnabled(*control->widget)) {
+        throw Refused{"it is disabled"};
     }
-    return form.IsEnabled(*control->widget) ? QString() : QStringLiteral("it is disabled");
+    return *control;
 }
 
 void ScriptPlayer::GiveFocus(QWidget& widget) {
@@ -198,113 +177,83 @@ void ScriptPlayer::GiveFocus(QWidget& widget) {
     }
 }
 
-QString ScriptPlayer::Click(const QString& name) {
-    const NamedControl* control = Form().Find(name);
-    QString why = Unusable(control);
-    if (!why.isEmpty()) {
-        return why;
-    }
-    if (control->action != nullptr) {
-        if (control->action->menu() == nullptr) {
-            control->action->trigger();
+void ScriptPlayer::Click(const QString& rest) {
+    const NamedControl& control = Usable(rest.trimmed());
+    if (control.action != nullptr) {
+        if (control.action->menu() == nullptr) {
+            control.action->trigger();
         }
-        return {};
+        return;
     }
-    auto* button = qobject_cast<QAbstractButton*>(control->widget);
+    auto* button = qobject_cast<QAbstractButton*>(control.widget);
     if (button == nullptr) {
-        return QStringLiteral("it can't be clicked");
+        throw Refused{"it can't be clicked"};
     }
     button->setFocus(Qt::MouseFocusReason);
     button->click();
-    return {};
 }
 
-QString ScriptPlayer::Focus(const QString& name) {
-    const NamedControl* control = Form().Find(name);
-    QString why = Unusable(control);
-    if (why.isEmpty() &&
-        (control->widget == nullptr || control->widget->focusPolicy() == Qt::NoFocus)) {
-        why = QStringLiteral("it takes no focus");
+void ScriptPlayer::Focus(const QString& rest) {
+    const NamedControl& control = Usable(rest.trimmed());
+    if (control.widget == nullptr || control.widget->focusPolicy() == Qt::NoFocus) {
+        throw Refused{"it takes no focus"};
     }
-    if (why.isEmpty()) {
-        GiveFocus(*control->widget);
-    }
-    return why;
+    GiveFocus(*control.widget);
 }
 
-NumericField* ScriptPlayer::EditableField(const QString& name, QString& why) {
-    const NamedControl* control = Form().Find(name);
-    why = Unusable(control);
-    if (!why.isEmpty()) {
-        return nullptr;
-    }
+NumericField& ScriptPlayer::FocusedField(const QString& name) {
     // Only the numeric fields can be typed into; the backdrops are text boxes, too.
-    auto* field = dynamic_cast<NumericField*>(control->widget);
+    auto* field = dynamic_cast<NumericField*>(Usable(name).widget);
     if (field == nullptr || field->Locked()) {
-        why = QStringLiteral("it can't be typed into");
-        return nullptr;
+        throw Refused{"it can't be typed into"};
     }
-    return field;
+    GiveFocus(*field);
+    return *field;
 }
 
-QString ScriptPlayer::Type(const QString& name, const QString& text) {
-    QString why;
-    if (NumericField* field = EditableField(name, why)) {
-        GiveFocus(*field);
-        for (const QChar character : text) {
-            PressKey(KeyOf(character), Qt::NoModifier, QString(character));
-        }
+void ScriptPlayer::Type(const QString& rest) {
+    const auto [name, text] = Split(rest);
+    FocusedField(name);
+    for (const QChar character : text) {
+        PressKey(KeyOf(character), Qt::NoModifier, character);
     }
-    return why;
 }
 
-QString ScriptPlayer::Paste(const QString& name, const QString& text) {
-    QString why;
-    if (NumericField* field = EditableField(name, why)) {
-        GiveFocus(*field);
-        field->insert(text);
-    }
-    return why;
+void ScriptPlayer::Paste(const QString& rest) {
+    const auto [name, text] = Split(rest);
+    FocusedField(name).insert(text);
 }
 
-QString ScriptPlayer::Choose(const QString& name, const QString& entry) {
-    const NamedControl* control = Form().Find(name);
-    QString why = Unusable(control);
-    if (!why.isEmpty()) {
-        return why;
-    }
-    auto* list = dynamic_cast<DropDownList*>(control->widget);
+void ScriptPlayer::Choose(const QString& rest) {
+    const auto [name, entry] = Split(rest);
+    auto* list = dynamic_cast<DropDownList*>(Usable(name).widget);
     if (list == nullptr) {
-        return QStringLiteral("it is no list");
+        throw Refused{"it is no list"};
     }
     int index = list->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index < 0 && entry.startsWith(QLatin1Char('#'))) {
+    if (index < 0 && entry.startsWith('#')) {
         bool isNumber = false;
         index = QStringView(entry).mid(1).toInt(&isNumber);
         index = isNumber && index < list->count() ? index : -1;
     }
     if (index < 0) {
-        return QStringLiteral("there is no such entry");
+        throw Refused{"there is no such entry"};
     }
     list->setFocus(Qt::MouseFocusReason);
     list->SetListIndex(index);
-    return {};
 }
 
 void ScriptPlayer::Keys(const QString& text) {
     Window();
     for (qsizetype at = 0; at < text.size();) {
-        const NamedKey* named = nullptr;
-        for (const NamedKey& key : kNamedKeys) {
-            if (QStringView(text).mid(at).startsWith(key.name)) {
-                named = &key;
-            }
-        }
-        if (named != nullptr) {
-            PressKey(named->key, named->modifiers, QString::fromLatin1(named->text));
+        const auto* const named = std::ranges::find_if(kNamedKeys, [&](const NamedKey& key) {
+            return QStringView(text).mid(at).startsWith(key.name);
+        });
+        if (named != std::end(kNamedKeys)) {
+            PressKey(named->key, named->modifiers, named->text);
             at += named->name.size();
         } else {
-            PressKey(KeyOf(text.at(at)), Qt::NoModifier, QString(text.at(at)));
+            PressKey(KeyOf(text.at(at)), Qt::NoModifier, text.at(at));
             ++at;
         }
     }
@@ -325,21 +274,33 @@ void ScriptPlayer::PressKey(int key, Qt::KeyboardModifiers modifiers, const QStr
     QCoreApplication::sendEvent(target, &release);
 }
 
-bool ScriptPlayer::Answer(const QString& answer) {
-    const Words words = Split(answer);
-    if (WithoutBlanks(answer) == QLatin1String("ok")) {
-        desk_.QueueAnswer({true, std::nullopt});
-    } else if (WithoutBlanks(answer) == QLatin1String("cancel")) {
-        desk_.QueueAnswer({false, std::nullopt});
-    } else if (words.command == QLatin1String("text")) {
-        desk_.QueueAnswer({true, words.rest.toStdString()});
+void ScriptPlayer::Answer(const QString& answer) {
+    const auto [word, text] = Split(answer);
+    if (word == "text") {
+        desk_.QueueAnswer({true, text.toStdString()});
+    } else if (answer.trimmed() == "ok" || answer.trimmed() == "cancel") {
+        desk_.QueueAnswer({answer.trimmed() == "ok", std::nullopt});
     } else {
-        return false;
+        throw NoCommand{"answer: ok, cancel or text"};
     }
-    return true;
 }
 
-void ScriptPlayer::State() {
+void ScriptPlayer::Customer(const QString& lines) {
+    desk_.TypeIntoCustomerWindow(lines.split('|'));
+}
+
+void ScriptPlayer::Printer(const QString& file) {
+    desk_.SetPrinter(file.trimmed());
+}
+
+void ScriptPlayer::Picture(const QString& file) {
+    QCoreApplication::processEvents();
+    if (!Window().grab().save(file.trimmed(), "PNG")) {
+        throw Refused{"the file can't be written"};
+    }
+}
+
+void ScriptPlayer::State(const QString& /*rest*/) {
     const frmTarvix& window = Window();
     QJsonArray boxes;
     for (const ShownBox& box : desk_.TakeBoxes()) {
@@ -350,16 +311,15 @@ void ScriptPlayer::State() {
         pages.append(PageLines(page));
     }
     const QWidget* active = Form().ActiveControl();
+    const bool isNamed = active != nullptr && Form().Find(active->objectName()) != nullptr;
     const int runs = window.calculationRuns();
-    QJsonObject state{{QStringLiteral("controls"), ControlStates(Form())},
-                      {QStringLiteral("boxes"), boxes},
-                      {QStringLiteral("calculations"), runs - std::exchange(reportedRuns_, runs)},
-                      {QStringLiteral("pages"), pages.size()},
-                      {QStringLiteral("focus"),
-                       active != nullptr && Form().Find(active->objectName()) ? active->objectName()
-                                                                              : QString()}};
+    QJsonObject state{{"controls", ControlStates(Form())},
+                      {"boxes", boxes},
+                      {"calculations", runs - std::exchange(reportedRuns_, runs)},
+                      {"pages", pages.size()},
+                      {"focus", isNamed ? active->objectName() : QString()}};
     if (!pages.isEmpty()) {
-        state.insert(QStringLiteral("page_lines"), pages);
+        state.insert("page_lines", pages);
     }
     write_(state);
 }

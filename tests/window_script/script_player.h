@@ -26,27 +26,23 @@ class ScriptPlayer {
     ScriptDesk& Desk() { return desk_; }
 
   private:
-    struct Words {
-        QString command;
-        QString rest;  // after the single blank that follows the command
-    };
-
-    // Each returns why a user could not carry the command out; empty when it is done.
-    QString Click(const QString& name);
-    QString Focus(const QString& name);
-    QString Type(const QString& name, const QString& text);
-    QString Paste(const QString& name, const QString& text);
-    QString Choose(const QString& name, const QString& entry);
-
-    // Returns false for an answer that there is none of.
-    bool Answer(const QString& answer);
+    // The commands, each with what stands behind it and a blank. They throw where a user could not
+    // carry it out, and where nobody knows what is meant.
+    void Click(const QString& rest);
+    void Focus(const QString& rest);
+    void Type(const QString& rest);
+    void Paste(const QString& rest);
+    void Choose(const QString& rest);
     void Keys(const QString& text);
-    void State();
-    bool SetLocale(const QString& name);
+    void Answer(const QString& answer);
+    void Customer(const QString& lines);
+    void Printer(const QString& file);
+    void Picture(const QString& file);
+    void State(const QString& rest);
+    void SetLocale(const QString& rest);
 
-    static Words Split(const QString& line);
-    QString Unusable(const NamedControl* control) const;
-    NumericField* EditableField(const QString& name, QString& why);
+    const NamedControl& Usable(const QString& name);
+    NumericField& FocusedField(const QString& name);
     static void GiveFocus(QWidget& widget);
     static void CloseOpenList(const QString& command);
     void PressKey(int key, Qt::KeyboardModifiers modifiers, const QString& text);

@@ -8,30 +8,21 @@ namespace tarvix {
 
 namespace {
 
-QString ColorText(BackColor color) {
-    switch (color) {
-        case BackColor::Default:
-            return QStringLiteral("default");
-        case BackColor::WindowBackground:
-            return QStringLiteral("window");
-        default:
-            return QStringLiteral("0x%1").arg(
-                QString::number(static_cast<int>(color), 16).toUpper(), 6, QLatin1Char('0'));
-    }
-}
-
 QString BackColorText(const QWidget& widget) {
-    return ColorText(BackColorOf(widget));
+    const BackColor color = BackColorOf(widget);
+    if (color == BackColor::Default || color == BackColor::WindowBackground) {
+        return color == BackColor::Default ? "default" : "window";
+    }
+    return QString::asprintf("0x%06X", static_cast<unsigned>(color));
 }
 
 void AddTextBox(QJsonObject& state, const QLineEdit& box) {
-    state[QStringLiteral("text")] = box.text();
-    state[QStringLiteral("locked")] = box.isReadOnly();
-    state[QStringLiteral("tabstop")] = (box.focusPolicy() & Qt::TabFocus) != 0;
-    state[QStringLiteral("backcolor")] = BackColorText(box);
-    state[QStringLiteral("selstart")] =
-        box.hasSelectedText() ? box.selectionStart() : box.cursorPosition();
-    state[QStringLiteral("sellength")] = box.selectedText().size();
+    state["text"] = box.text();
+    state["locked"] = box.isReadOnly();
+    state["tabstop"] = (box.focusPolicy() & Qt::TabFocus) != 0;
+    state["backcolor"] = BackColorText(box);
+    state["selstart"] = box.hasSelectedText() ? box.selectionStart() : box.cursorPosition();
+    state["sellength"] = box.selectedText().size();
 }
 
 void AddComboBox(QJsonObject& state, const QComboBox& box) {
@@ -39,32 +30,29 @@ void AddComboBox(QJsonObject& state, const QComboBox& box) {
     for (int i = 0; i < box.count(); ++i) {
         items.append(box.itemText(i));
     }
-    state[QStringLiteral("text")] = box.currentText();
-    state[QStringLiteral("index")] = box.currentIndex();
-    state[QStringLiteral("items")] = items;
+    state["text"] = box.currentText();
+    state["index"] = box.currentIndex();
+    state["items"] = items;
 }
 
 void AddFrame(QJsonObject& state, const NamedControl& control) {
     const auto* group = qobject_cast<const QGroupBox*>(control.widget);
-    state[QStringLiteral("caption")] = group != nullptr ? group->title() : QString();
-    state[QStringLiteral("backcolor")] = BackColorText(*control.widget);
-    state[QStringLiteral("left")] = control.place.left;
-    state[QStringLiteral("top")] = control.place.top;
-    state[QStringLiteral("width")] = control.place.width;
-    state[QStringLiteral("height")] = control.place.height;
+    state["caption"] = group != nullptr ? group->title() : QString();
+    state["backcolor"] = BackColorText(*control.widget);
+    state["left"] = control.place.left;
+    state["top"] = control.place.top;
+    state["width"] = control.place.width;
+    state["height"] = control.place.height;
 }
 
 QJsonObject ControlState(const MainForm& form, const NamedControl& control) {
-    QJsonObject state;
     if (control.action != nullptr) {
-        state[QStringLiteral("visible")] = control.action->isVisible();
-        state[QStringLiteral("enabled")] = control.action->isEnabled();
-        state[QStringLiteral("caption")] = control.action->text();
-        return state;
+        return {{"visible", control.action->isVisible()},
+                {"enabled", control.action->isEnabled()},
+                {"caption", control.action->text()}};
     }
     const QWidget* widget = control.widget;
-    state[QStringLiteral("visible")] = form.IsVisible(*widget);
-    state[QStringLiteral("enabled")] = form.IsEnabled(*widget);
+    QJsonObject state{{"visible", form.IsVisible(*widget)}, {"enabled", form.IsEnabled(*widget)}};
     switch (control.kind) {
         case ControlKind::TextBox:
             AddTextBox(state, *qobject_cast<const QLineEdit*>(widget));
@@ -72,25 +60,22 @@ QJsonObject ControlState(const MainForm& form, const NamedControl& control) {
         case ControlKind::ComboBox:
             AddComboBox(state, *qobject_cast<const QComboBox*>(widget));
             break;
-        case ControlKind::Option: {
-            const auto* option = qobject_cast<const QRadioButton*>(widget);
-            state[QStringLiteral("value")] = option->isChecked();
-            state[QStringLiteral("caption")] = option->text();
-            state[QStringLiteral("backcolor")] = BackColorText(*option);
-            break;
-        }
         case ControlKind::Frame:
             AddFrame(state, control);
             break;
-        case ControlKind::Label:
-            state[QStringLiteral("caption")] = qobject_cast<const QLabel*>(widget)->text();
-            state[QStringLiteral("backcolor")] = BackColorText(*widget);
-            break;
+        case ControlKind::Option:
+            state["value"] = qobject_cast<const QRadioButton*>(widget)->isChecked();
+            state["backcolor"] = BackColorText(*widget);
+            [[fallthrough]];
         case ControlKind::Button:
-            state[QStringLiteral("caption")] = qobject_cast<const QPushButton*>(widget)->text();
+            state["caption"] = qobject_cast<const QAbstractButton*>(widget)->text();
+            break;
+        case ControlKind::Label:
+            state["caption"] = qobject_cast<const QLabel*>(widget)->text();
+            state["backcolor"] = BackColorText(*widget);
             break;
         case ControlKind::Tab:
-            state[QStringLiteral("caption")] = qobject_cast<const QTabWidget*>(widget)->tabText(0);
+            state["caption"] = qobject_cast<const QTabWidget*>(widget)->tabText(0);
             break;
         case ControlKind::Picture:
         case ControlKind::MenuItem:
