@@ -27,19 +27,25 @@ SPLASH = "_NET_WM_WINDOW_TYPE_SPLASH"
 
 
 class ProgramCase(unittest.TestCase):
-    """A copy of the program in a folder of its own, on a desktop of its own."""
+    """A copy of the program in a folder of its own, on a desktop of the tests of its class."""
 
     screen = "1280x1024x24"
 
-    def setUp(self):
-        self.folder = tempfile.TemporaryDirectory(prefix="tarvix-faults-")
-        self.addCleanup(self.folder.cleanup)
-        self.desk = desk.Desk(self.folder.name, self.screen)
-        self.addCleanup(self.desk.stop)
+    @classmethod
+    def set_up_desk(cls, clean_up):
+        folder = tempfile.TemporaryDirectory(prefix="tarvix-faults-")
+        clean_up(folder.cleanup)
+        cls.desk = desk.Desk(folder.name, cls.screen)
+        clean_up(cls.desk.stop)
         # No printer of this machine, and no theme that needs a file.
-        self.desk.environment["CUPS_SERVER"] = "127.0.0.1:1"
-        self.programs = pathlib.Path(self.folder.name) / "program"
-        self.programs.mkdir()
+        cls.desk.environment["CUPS_SERVER"] = "127.0.0.1:1"
+
+    @classmethod
+    def setUpClass(cls):
+        cls.set_up_desk(cls.addClassCleanup)
+
+    def setUp(self):
+        self.programs = pathlib.Path(tempfile.mkdtemp(dir=self.desk.folder))
         for name in (pathlib.Path(TARVIX).name, *LOGOS):
             shutil.copy(pathlib.Path(TARVIX).parent / name, self.programs / name)
 
@@ -47,20 +53,10 @@ class ProgramCase(unittest.TestCase):
         return self.desk.spawn(str(self.programs / pathlib.Path(TARVIX).name))
 
     def windows(self, title=TITLE):
-        found = self.desk.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
-        return found.split()
+        return self.desk.search(f"^{title}$")
 
     def properties(self, *arguments):
-        return subprocess.run(["xprop", *arguments], text=True, env=self.desk.environment,
-                              capture_output=True, check=False).stdout
-
-    def geometry(self, window):
-        """Left, top, width and height of the window without its frame."""
-        lines = subprocess.run(["xwininfo", "-id", window], text=True, env=self.desk.environment,
-                               capture_output=True, check=True).stdout.splitlines()
-        values = dict(line.strip().split(":", 1) for line in lines if ":" in line)
-        return [int(values[key]) for key in ("Absolute upper-left X", "Absolute upper-left Y",
-                                             "Width", "Height")]
+        return self.desk.ask("xprop", *arguments)
 
     def main_windows(self):
         """The main windows that are there; the splash has the same title."""
@@ -103,20 +99,22 @@ class ProgramCase(unittest.TestCase):
 class LogoFault(ProgramCase):
     """A logo that can't be loaded is named in a box, and the program ends with status 1."""
 
-    def box(self):
-        """The title and the texts of the box that is shown."""
-        probe = pathlib.Path(__file__).with_name("read_box.py")
-        environment = {**self.desk.environment, "NO_AT_BRIDGE": "1"}
-        shown = subprocess.run([sys.executable, str(probe)], env=environment, text=True,
-                               capture_output=True, timeout=2 * desk.PATIENCE, check=False)
-        self.assertEqual(shown.returncode, 0, shown.stderr)
-        return shown.stdout.rstrip("\n").split("\n")
+    def start(self):
+        os.environ.update(self.desk.environment)
+        import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
+        return program.Program(self.desk, str(self.programs / pathlib.Path(TARVIX).name))
 
-    def expect_end_without(self, logo, process):
+    def expect_end_without(self, logo, program):
+        """A box with the program's name says it."""
+        program.application = desk.wait_until("the program on the accessibility bus",
+                                              program.look_for_it)
+        box = program.wait_for("alert", TITLE)
+        texts = [label.name for label in program.find_all("label", top=box.accessible)]
         path = str(self.programs / logo)
-        self.assertEqual(self.box(), [TITLE, f"Run-time error: File not found: {path}"])
+        self.assertEqual([text for text in texts if text],
+                         [f"Run-time error: File not found: {path}"])
         self.desk.press("Return")
-        self.assertEqual(self.ended(process), 1)
+        self.assertEqual(program.wait_for_end(), 1)
         self.assertEqual(self.windows(), [])
 
     def test_missing(self):
@@ -145,12 +143,12 @@ class LogoFault(ProgramCase):
                 self.expect_end_without(LOGOS[0], self.start())
 
     def test_vanishes_during_the_splash(self):
-        process = self.start()
+        program = self.start()
         # Both logos are on the splash by the time it is there; the main window loads one again.
         desk.wait_until("the splash", self.windows)
-        desk.wait_until("the logos are read", lambda: self.has_been_read(process))
+        desk.wait_until("the logos are read", lambda: self.has_been_read(program.process))
         (self.programs / LOGOS[0]).unlink()
-        self.expect_end_without(LOGOS[0], process)
+        self.expect_end_without(LOGOS[0], program)
 
     def has_been_read(self, process):
         """True once the splash waits: it sleeps between two looks at the clock."""
@@ -180,21 +178,21 @@ class FontFault(ProgramCase):
     """A system without the wished fonts gets the program in those that it has."""
 
     def run_without_fonts(self, folder_of_fonts):
-        config = pathlib.Path(self.folder.name) / "fonts.conf"
+        config = self.programs / "fonts.conf"
         config.write_text(f"""<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd">
-<fontconfig><dir>{folder_of_fonts}</dir><cachedir>{self.folder.name}/cache</cachedir></fontconfig>
+<fontconfig><dir>{folder_of_fonts}</dir><cachedir>{self.programs}/cache</cachedir></fontconfig>
 """, encoding="ascii")
         self.desk.environment["FONTCONFIG_FILE"] = str(config)
         process = self.start()
         window = self.wait_for_main_window()[0]
         self.assertIsNone(process.poll())
-        width, height = self.geometry(window)[2:]
+        width, height = self.desk.place_of(window)[2:]
         self.assertGreater(width, 300)
         self.assertGreater(height, 300)
         self.assertEqual(self.end_by_closing(process, window), 0)
 
     def test_only_other_fonts(self):
-        fonts = pathlib.Path(self.folder.name) / "fonts"
+        fonts = self.programs / "fonts"
         fonts.mkdir()
         found = subprocess.run(["fc-match", "-f", "%{file}", "DejaVu Sans"], text=True,
                                capture_output=True, check=True).stdout
@@ -227,12 +225,21 @@ class SmallScreen(ProgramCase):
         self.assertEqual(self.ended(process), 0)
 
     def inside(self, window, width, height):
-        place = self.geometry(window)
+        place = self.desk.place_of(window)
         return place if place[2] <= width and place[3] <= height else None
 
 
 class DisplayGone(ProgramCase):
-    """A display that goes away ends the program; it neither hangs nor crashes."""
+    """A display that goes away ends the program; it neither hangs nor crashes. Each test has its own
+    to lose."""
+
+    @classmethod
+    def setUpClass(cls):
+        """The desks come with the tests."""
+
+    def setUp(self):
+        self.set_up_desk(self.addCleanup)
+        super().setUp()
 
     def kill_display(self, process):
         screen = next(p for p in self.desk.processes if p.args[0] == "Xvfb")

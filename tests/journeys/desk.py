@@ -8,6 +8,7 @@ import contextlib
 import importlib.util
 import os
 import pathlib
+import re
 import select
 import shutil
 import signal
@@ -22,6 +23,12 @@ BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 
 class CannotRun(Exception):
     """The desktop can't be set up on this machine."""
+
+
+def need(*tools):
+    missing = [tool for tool in tools if shutil.which(tool) is None]
+    if missing:
+        raise CannotRun("not installed: " + ", ".join(missing))
 
 
 def wait_until(what, condition):
@@ -41,14 +48,9 @@ class Desk:
     def __init__(self, folder, screen="1280x1024x24", window_manager="openbox"):
         """Without a window manager where that is None."""
         self.window_manager = window_manager
-        missing = [tool for tool in (*TOOLS, window_manager or "Xvfb")
-                   if shutil.which(tool) is None]
-        if not os.path.exists(BUS_LAUNCHER):
-            missing.append(BUS_LAUNCHER)
+        need(*TOOLS, BUS_LAUNCHER, window_manager or "Xvfb")
         if importlib.util.find_spec("pyatspi") is None:
-            missing.append("pyatspi")
-        if missing:
-            raise CannotRun("not installed: " + ", ".join(missing))
+            raise CannotRun("not installed: pyatspi")
         self.folder = pathlib.Path(folder)
         self.processes = []
         for name in ("home", "runtime"):
@@ -83,9 +85,8 @@ class Desk:
             return
         if self.window_manager != "openbox":
             self.spawn(self.window_manager)
-            wait_until(f"{self.window_manager} is ready", lambda: "window id" in subprocess.run(
-                ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment, text=True,
-                capture_output=True, check=False).stdout)
+            wait_until(f"{self.window_manager} is ready", lambda: "window id" in self.ask(
+                "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
             return
         # What the window manager starts when it is ready inherits no pipe, so that has a name.
         ready = self.folder / "ready"
@@ -139,9 +140,7 @@ class Desk:
     # The hands: keys and mouse, from outside the program.
 
     def xdotool(self, *arguments):
-        result = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, text=True,
-                                capture_output=True, timeout=PATIENCE, check=False)
-        return result.stdout.strip()
+        return self.ask("xdotool", *map(str, arguments)).strip()
 
     def press(self, *keys):
         """Presses keys one after the other; each by its X name, as in ctrl+p."""
@@ -168,6 +167,17 @@ class Desk:
                                    timeout=PATIENCE, check=False)
             return None if "X Error" in found.stderr else (found.stdout.split(),)
         return wait_until("a search for windows", look)[0]
+
+    def ask(self, *command):
+        """What a command that looks at the screen says."""
+        return subprocess.run(command, env=self.environment, text=True, capture_output=True,
+                              timeout=PATIENCE, check=False).stdout
+
+    def place_of(self, window):
+        """Left, top, width and height of a window without its frame."""
+        info = self.ask("xwininfo", "-id", window)
+        return [int(re.search(rf"{what}: +(-?\d+)", info).group(1)) for what in (
+            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
 
     def take_picture(self, file):
         subprocess.run(["import", "-window", "root", str(file)], env=self.environment,

@@ -43,23 +43,8 @@ class MeteringJourneys(printing.PrintingJourney):
 
     # ---- Hands ----
 
-    def click(self, control):
-        self.desk.click(*control.middle)
-
-    def type_into(self, begins, text):
-        """Clicks on a field, which selects its text, and types."""
-        field = self.program.field(begins)
-        self.click(field)
-        wait_until(f"the focus in {begins}", lambda: self.focused_name().startswith(begins))
-        self.desk.write(text)
-        wait_until(f"'{text}' in {begins}", lambda: field.text == text)
-
-    def pick(self, begins, entry):
-        """Opens a list and clicks on an entry."""
-        unit = self.program.list(begins)
-        self.click(unit)
-        self.click(self.program.wait_for("list item", entry))
-        wait_until(f"{entry} in {begins}", lambda: unit.name.endswith(": " + entry))
+    def click(self, role, name):
+        self.program.click(self.program.wait_for(role, name))
 
     def focused_name(self):
         control = self.program.focused()
@@ -80,101 +65,87 @@ class MeteringJourneys(printing.PrintingJourney):
         self.desk.write(text)
         self.program.wait_for_text(begins, text)
 
-    # ---- What every journey ends in ----
+    # ---- What every run of a mode ends in ----
 
-    def expect(self, mode, results, message="No message"):
+    def expect(self, mode, results):
         """The results stand in the window, in fields that are results, and can be printed."""
         wait_until(mode, lambda: self.program.option(mode).checked)
         for begins, text in results.items():
             self.program.wait_for_text(begins, text)
-        self.assertEqual(self.program.message(), message)
+        self.assertEqual(self.program.message(), "No message")
         solved = self.program.field(next(iter(results)))
         self.assertRegex(solved.name, ", result$")
         self.assertTrue(self.program.button("Print").enabled)
         self.take_picture(MODES[mode].replace(" ", "_"))
 
-    def fill_customer_window(self, customer):
-        line = self.program.wait_for("text", "Customer")
-        wait_until("the customer's line has the focus", lambda: self.focused_name() == "Customer")
-        self.desk.write(customer)
-        wait_until(f"'{customer}' in the customer's line", lambda: line.text == customer)
-
-    def expect_page(self, mode, fluid, customer, lines):
-        """The page lies in the printer: title, customer and the lines, each label with its value."""
-        number = list(MODES).index(mode) + 1
-        wait_until(f"page {number} in the printer; the print system says: {self.system.log()}",
-                   lambda: len(self.printer.pages) >= number)
-        data = self.printer.pages[number - 1]
-        file = self.pictures / f"{self.id().split('.')[-1]}-{MODES[mode].replace(' ', '_')}.pdf"
-        file.write_bytes(data[data.index(b"%PDF"):])
-        page = self.system.run("pdftotext", "-layout", str(file), "-")
-        self.assertIn(f"Orifice calculation for {MODES[mode]} - Flange Taps - {fluid}\n", page)
-        self.assertRegex(page, re.compile(rf"^ *Customer: {customer}$", re.MULTILINE))
-        for label, value in lines.items():
+    def print_and_expect(self, mode, customer, lines):
+        """Prints; the page lies in the printer: title, customer and each label with its value."""
+        self.way_to_print()
+        self.program.write_customer(customer)
+        if self.by_mouse:
+            dialog = self.program.wait_for("dialog", "Brindle Tarvix")
+            self.program.click(
+                self.program.find_all("push button", "Print", top=dialog.accessible)[0])
+        else:
+            self.desk.press("Return")
+        _, file = self.page_in_printer(
+            list(MODES).index(mode) + 1,
+            f"{self.id().split('.')[-1]}-{MODES[mode].replace(' ', '_')}")
+        page = self.system.run("pdftotext", "-layout", file, "-")
+        self.assertIn(f"Orifice calculation for {MODES[mode]} - Flange Taps - {self.fluid}\n", page)
+        for label, value in {"Customer:": customer, **lines}.items():
             self.assertRegex(page, re.compile(rf"^ *{re.escape(label)} +{re.escape(value)}$",
                                               re.MULTILINE))
 
+    def solve(self, mode, results, customer, lines):
+        self.expect(mode, results)
+        self.print_and_expect(mode, customer, lines)
+
     # ---- Liquid, with the mouse ----
 
-    def print_with_mouse(self, customer):
-        self.click(self.program.button("Print"))
-        self.fill_customer_window(customer)
-        dialog = self.program.wait_for("dialog", "Brindle Tarvix")
-        buttons = self.program.find_all("push button", "Print", top=dialog.accessible)
-        self.click(buttons[0])
-
     def test_liquid(self):
+        self.fluid, self.way_to_print, self.by_mouse = "Liquid", self.by_button, True
         self.start()
-        self.click(self.program.option("Liquid"))
+        self.click("radio button", "Liquid")
         wait_until("the liquid's fields", lambda: self.program.find_all(
             "text", begins="Flowing Specific Gravity"))
 
         # E = 0.6 / sqrt(1 - 0.5^4) = 0.619677; Q = E 5.66646 x 0.25 x 4.026^2 sqrt(100) = 142.29
-        mode = "Calculate Flow Rate"
-        self.click(self.program.option(mode))
-        self.pick("Nominal Size", "4")
-        self.type_into("Base Specific Gravity", "1")
-        self.type_into("Flowing Specific Gravity", "1")
-        self.type_into("Differential Pressure", "100")
-        self.type_into("Beta Ratio", "0.5")
-        self.expect(mode, {"Flow Rate, Gallons per Minute": "142.3",
-                           "Orifice Bore Diameter": "2.013"})
-        self.print_with_mouse("Northfield")
-        self.expect_page(mode, "Liquid", "Northfield",
-                         {"Flow Rate": "142.30 Gallons/Minute",
-                          "Differential Pressure": "100.00 Inches Water",
-                          "Pipe Diameter": "4.026 Inches",
-                          "Bore Diameter (approximate)": "2.013 Inches",
-                          "Beta (approximate)": "0.50000"})
+        self.click("radio button", "Calculate Flow Rate")
+        self.program.pick("Nominal Size", "4")
+        self.program.type_into("Base Specific Gravity", "1")
+        self.program.type_into("Flowing Specific Gravity", "1")
+        self.program.type_into("Differential Pressure", "100")
+        self.program.type_into("Beta Ratio", "0.5")
+        self.solve("Calculate Flow Rate",
+                   {"Flow Rate, Gallons per Minute": "142.3", "Orifice Bore Diameter": "2.013"},
+                   "Northfield",
+                   {"Flow Rate": "142.30 Gallons/Minute",
+                    "Differential Pressure": "100.00 Inches Water",
+                    "Pipe Diameter": "4.026 Inches",
+                    "Bore Diameter (approximate)": "2.013 Inches",
+                    "Beta (approximate)": "0.50000"})
 
         # From the 142.3 in the field: h = 100 (142.3 / 142.2869)^2 = 100.018
-        mode = "Calculate Differential Pressure"
-        self.click(self.program.option(mode))
-        self.expect(mode, {"Differential Pressure": "100.0"})
-        self.print_with_mouse("Northfield Two")
-        self.expect_page(mode, "Liquid", "Northfield Two",
-                         {"Flow Rate": "142.30 Gallons/Minute",
-                          "Differential Pressure": "100.00 Inches Water"})
+        self.click("radio button", "Calculate Differential Pressure")
+        self.solve("Calculate Differential Pressure", {"Differential Pressure": "100.0"},
+                   "Northfield Two", {"Flow Rate": "142.30 Gallons/Minute",
+                                      "Differential Pressure": "100.00 Inches Water"})
 
         # A = 142.3 / (5.66646 x 4.026^2 x 10), beta = (A^2 / (A^2 + 0.36))^0.25 = 0.500022
-        mode = "Calculate Beta Ratio"
-        self.click(self.program.option(mode))
-        self.expect(mode, {"Beta Ratio": "0.50002", "Orifice Bore Diameter": "2.013"})
-        self.print_with_mouse("Northfield Three")
-        self.expect_page(mode, "Liquid", "Northfield Three", {"Beta (approximate)": "0.50002"})
+        self.click("radio button", "Calculate Beta Ratio")
+        self.solve("Calculate Beta Ratio",
+                   {"Beta Ratio": "0.50002", "Orifice Bore Diameter": "2.013"},
+                   "Northfield Three", {"Beta (approximate)": "0.50002"})
 
-        self.click(self.program.button("Exit"))
-        self.click(self.program.button("OK"))
+        self.click("push button", "Exit")
+        self.click("push button", "OK")
         self.assertEqual(self.program.wait_for_end(), 0)
 
     # ---- Gas, without the mouse ----
 
-    def print_with_keys(self, customer):
-        self.desk.press("ctrl+p")
-        self.fill_customer_window(customer)
-        self.desk.press("Return")
-
     def test_gas(self):
+        self.fluid, self.way_to_print, self.by_mouse = "Gas", self.by_key, False
         self.start()
         self.assertEqual(self.focused_name(), "Calculate Beta Ratio")
 
@@ -182,7 +153,6 @@ class MeteringJourneys(printing.PrintingJourney):
         # Y = 1 - (0.41 + 0.35 x 0.0625) (100 / (27.707 x 114.7)) / 1.3 = 0.989546,
         # Q = 218.468 E Y 0.25 x 2.067^2 (519.67 / 14.7) sqrt(100 x 114.7 / 519.67) an hour, 24 of
         # which are 570361.
-        mode = "Calculate Flow Rate"
         self.desk.press("Up")
         self.tab_and_type("Operating Temperature", "60")
         self.tab_and_type("Operating Pressure, PSI gauge", "100")
@@ -190,31 +160,27 @@ class MeteringJourneys(printing.PrintingJourney):
         self.tab_to("Nominal Size of the pipe, Inches: 2")
         self.tab_and_type("Differential Pressure, Inches Water", "100")
         self.tab_and_type("Beta Ratio", "0.5")
-        self.expect(mode, {"Flow Rate, Standard Cubic Feet per Day": "570,361",
-                           "Orifice Bore Diameter": "1.034"})
-        self.print_with_keys("Ridge Gas")
-        self.expect_page(mode, "Gas", "Ridge Gas",
-                         {"Flow Rate": "570,361.00 Standard Cubic Feet/Day",
-                          "Operating Temperature": "60.00 Deg F",
-                          "Operating Pressure": "100.00 PSI (gauge)",
-                          "Base Specific Gravity": "1.00",
-                          "Zf": "1.00000 (assumed)",
-                          "Pipe Diameter": "2.067 Inches"})
+        self.solve("Calculate Flow Rate",
+                   {"Flow Rate, Standard Cubic Feet per Day": "570,361",
+                    "Orifice Bore Diameter": "1.034"},
+                   "Ridge Gas",
+                   {"Flow Rate": "570,361.00 Standard Cubic Feet/Day",
+                    "Operating Temperature": "60.00 Deg F",
+                    "Operating Pressure": "100.00 PSI (gauge)",
+                    "Base Specific Gravity": "1.00",
+                    "Zf": "1.00000 (assumed)",
+                    "Pipe Diameter": "2.067 Inches"})
 
         # Back from 570361: the iteration from 50 inches ends at 99.9996.
-        mode = "Calculate Differential Pressure"
         self.tab_to("Calculate Flow Rate")
         self.desk.press("Up")
-        self.expect(mode, {"Differential Pressure": "100.00"})
-        self.print_with_keys("Ridge Gas Two")
-        self.expect_page(mode, "Gas", "Ridge Gas Two",
-                         {"Differential Pressure": "100.00 Inches Water"})
+        self.solve("Calculate Differential Pressure", {"Differential Pressure": "100.00"},
+                   "Ridge Gas Two", {"Differential Pressure": "100.00 Inches Water"})
 
-        mode = "Calculate Beta Ratio"
         self.desk.press("Up")
-        self.expect(mode, {"Beta Ratio": "0.50000", "Orifice Bore Diameter": "1.034"})
-        self.print_with_keys("Ridge Gas Three")
-        self.expect_page(mode, "Gas", "Ridge Gas Three", {"Beta (approximate)": "0.50000"})
+        self.solve("Calculate Beta Ratio",
+                   {"Beta Ratio": "0.50000", "Orifice Bore Diameter": "1.034"},
+                   "Ridge Gas Three", {"Beta (approximate)": "0.50000"})
 
         self.desk.press("alt+f")
         self.program.wait_for("menu item", "Exit")
@@ -225,49 +191,36 @@ class MeteringJourneys(printing.PrintingJourney):
 
     # ---- Steam, with the mouse and the menu ----
 
-    def print_with_menu(self, customer):
-        self.desk.press("alt+f")
-        self.program.wait_for("menu item", "Print")
-        self.desk.press("p")
-        self.fill_customer_window(customer)
-        self.desk.press("Return")
-
     def test_steam(self):
+        self.fluid, self.way_to_print, self.by_mouse = "Steam", self.by_menu, False
         self.start()
-        self.click(self.program.option("Steam"))
-        self.click(self.program.option("From ASME Table (Op.Press. based)"))
+        self.click("radio button", "Steam")
+        self.click("radio button", "From ASME Table (Op.Press. based)")
         wait_until("the pressure has the focus",
                    lambda: self.focused_name() == "Operating Pressure, PSI gauge")
 
         # Saturated at 100 psi gauge: 0.25704 lb per cubic foot in the table.
         # Q = 358.927 x 0.619677 x 0.989546 x 0.25 x 2.067^2 sqrt(100 x 0.25704) = 1191.87 an hour
-        mode = "Calculate Flow Rate"
         self.desk.write("100")
         self.program.wait_for_text("Operating Density, lb/cubic foot, from ASME Table", "0.25704")
-        self.click(self.program.option(mode))
-        self.type_into("Differential Pressure", "100")
-        self.type_into("Beta Ratio", "0.5")
-        self.expect(mode, {"Flow Rate, Pounds per Hour": "1,192"})
-        self.print_with_menu("Mill 7")
-        self.expect_page(mode, "Steam", "Mill 7",
-                         {"Flow Rate": "1,192.00 Pounds/Hour",
-                          "Operating Density": "0.257 lb/cubic foot",
-                          "Operating Pressure": "100.00 PSI (gauge)",
-                          "Beta (approximate)": "0.50000"})
+        self.click("radio button", "Calculate Flow Rate")
+        self.program.type_into("Differential Pressure", "100")
+        self.program.type_into("Beta Ratio", "0.5")
+        self.solve("Calculate Flow Rate", {"Flow Rate, Pounds per Hour": "1,192"}, "Mill 7",
+                   {"Flow Rate": "1,192.00 Pounds/Hour",
+                    "Operating Density": "0.257 lb/cubic foot",
+                    "Operating Pressure": "100.00 PSI (gauge)",
+                    "Beta (approximate)": "0.50000"})
 
         # Back from 1192: h = 100 (1192 / 1191.87)^2 and a little for Y = 100.03
-        mode = "Calculate Differential Pressure"
-        self.click(self.program.option(mode))
-        self.expect(mode, {"Differential Pressure": "100.0"})
-        self.print_with_menu("Mill 7 Two")
-        self.expect_page(mode, "Steam", "Mill 7 Two",
-                         {"Differential Pressure": "100.00 Inches Water"})
+        self.click("radio button", "Calculate Differential Pressure")
+        self.solve("Calculate Differential Pressure", {"Differential Pressure": "100.0"},
+                   "Mill 7 Two", {"Differential Pressure": "100.00 Inches Water"})
 
-        mode = "Calculate Beta Ratio"
-        self.click(self.program.option(mode))
-        self.expect(mode, {"Beta Ratio": "0.50003", "Orifice Bore Diameter": "1.034"})
-        self.print_with_menu("Mill 7 Three")
-        self.expect_page(mode, "Steam", "Mill 7 Three", {"Beta (approximate)": "0.50003"})
+        self.click("radio button", "Calculate Beta Ratio")
+        self.solve("Calculate Beta Ratio",
+                   {"Beta Ratio": "0.50003", "Orifice Bore Diameter": "1.034"},
+                   "Mill 7 Three", {"Beta (approximate)": "0.50003"})
 
         self.desk.press("alt+F4")
         self.assertEqual(self.program.wait_for_end(), 0)

@@ -71,78 +71,53 @@ def description_with_more_papers(folder):
 class PaperJourney(printing.PrintingJourney):
     def setUp(self):
         self.start()
-        self.calculate()
-
-    def calculate(self):
-        self.program.option("Liquid").act("Press")
-        self.program.option("Calculate Flow Rate").act("Press")
-        size = self.program.list("Nominal Size")
-        self.desk.click(*size.middle)
-        self.desk.click(*self.program.wait_for("list item", "4").middle)
+        self.choose("Liquid")
+        self.choose("Calculate Flow Rate")
+        self.program.pick("Nominal Size", "4")
         for begins, text in (("Flowing Specific Gravity", "1"), ("Base Specific Gravity", "1"),
                              ("Differential Pressure", "100"), ("Beta Ratio", "0.5")):
-            field = self.program.field(begins)
-            self.desk.click(*field.middle)
-            wait_until(f"the focus in {begins}",
-                       lambda name=begins: self.program.focused().name.startswith(name))
-            self.desk.write(text)
-            self.program.wait_for_text(begins, text)
+            self.program.type_into(begins, text)
         self.program.wait_for_text("Flow Rate", "142.3")
-
-    # ---- The three ways to print ----
-
-    def by_button(self):
-        self.desk.click(*self.program.button("Print").middle)
-
-    def by_menu(self):
-        self.desk.press("alt+f")
-        self.program.wait_for("menu item", "Print")
-        self.desk.press("p")
-
-    def by_key(self):
-        self.desk.press("ctrl+p")
 
     def print_report(self, way):
         """Prints for the same customer; the first time the customer window is empty."""
         way()
         line = self.program.wait_for("text", "Customer")
-        wait_until("the customer's line has the focus",
-                   lambda: (self.program.focused() or line).name == "Customer")
-        for begins, text in (("Customer", "Northfield Refinery"), ("Tag", "FE-4102/B")):
-            field = self.program.wait_for("text", begins)
+        wait_until("the customer's line has the focus", lambda: line.focused)
+        for field, text in ((line, "Northfield Refinery"),
+                            (self.program.field("Tag"), "FE-4102/B")):
             field.write(text)
-            wait_until(f"'{text}' in {begins}", lambda said=text, in_=field: in_.text == said)
+            wait_until(f"'{text}' is written", lambda said=text, in_=field: in_.text == said)
         self.desk.press("Return")
 
     # ---- What is on paper ----
 
     def expect_page(self, file, title, sheet, scale):
-        info = self.system.run("pdfinfo", str(file))
+        info = self.system.run("pdfinfo", file)
         self.assertRegex(info, rf"Title: +{title}\n")
         self.assertRegex(info, r"Pages: +1\n")
         size = re.search(r"Page size: +([\d.]+) x ([\d.]+) pts", info)
         for seen, wanted in zip(size.groups(), sheet):
             self.assertAlmostEqual(float(seen), wanted, delta=1)
-        text = self.system.run("pdftotext", "-layout", str(file), "-")
+        text = self.system.run("pdftotext", "-layout", file, "-")
         for line in LINES:
             self.assertRegex(text, re.compile(rf"^ *{line}$", re.MULTILINE))
         # Nothing hangs over the edge, and the words are as large as they should be.
-        words = re.findall(r'<word xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" '
-                           r'yMax="([\d.-]+)">([^<]*)</word>',
-                           self.system.run("pdftotext", "-bbox", str(file), "-"))
-        page = re.search(r'<page width="([\d.]+)" height="([\d.]+)">',
-                         self.system.run("pdftotext", "-bbox", str(file), "-"))
-        width, height = (float(side) for side in page.groups())
+        places = self.system.run("pdftotext", "-bbox", file, "-")
+        words = [(*map(float, place), word) for *place, word in re.findall(
+            r'<word xMin="(.*)" yMin="(.*)" xMax="(.*)" yMax="(.*)">(.*)</word>', places)]
+        page = re.search(r'<page width="([\d.]+)" height="([\d.]+)">', places)
+        width, height = map(float, page.groups())
         if re.search(r"Page rot: +(90|270)\n", info):
             width, height = height, width  # the words are told as they stand, the sheet as it lies
         for left, top, right, bottom, word in words:
-            self.assertGreater(min(float(left), float(top)), 0.03 * min(width, height), word)
-            self.assertLess(float(right), 0.97 * width, word)
-            self.assertLess(float(bottom), 0.97 * height, word)
+            self.assertGreater(min(left, top), 0.03 * min(width, height), word)
+            self.assertLess(right, 0.97 * width, word)
+            self.assertLess(bottom, 0.97 * height, word)
         left, top, right, bottom, _ = next(word for word in words if word[4] == "Differential")
-        length = max(float(right) - float(left), float(bottom) - float(top))
+        length = max(right - left, bottom - top)
         self.assertAlmostEqual(length, 12 * 7.2012 * scale, delta=0.6)
-        pictures_on_page = self.system.run("pdfimages", "-list", str(file)).splitlines()[2:]
+        pictures_on_page = self.system.run("pdfimages", "-list", file).splitlines()[2:]
         self.assertEqual(len(pictures_on_page), 1)
         self.assertIn(" 1272 ", pictures_on_page[0])
 
@@ -153,13 +128,8 @@ class PaperJourney(printing.PrintingJourney):
             with self.subTest(name):
                 self.system.add_printer(self.printer.port, name, description, **settings)
                 self.print_report(way)
-                wait_until(f"page {number} in the printer; the print system: {self.system.log()}",
-                           lambda count=number: len(self.printer.pages) >= count)
-                data = self.printer.pages[number - 1]
-                self.assertIn(b'JOB NAME = "Orifice calculation FE-4102-B"',
-                              data[:data.index(b"%PDF")])
-                file = self.pictures / f"{name}.pdf"
-                file.write_bytes(data[data.index(b"%PDF"):])
+                told, file = self.page_in_printer(number, name)
+                self.assertIn(b'JOB NAME = "Orifice calculation FE-4102-B"', told)
                 self.expect_page(file, "Orifice calculation FE-4102-B", sheet, scale)
         for name, *_ in PAPERS:
             self.system.run("lpadmin", "-x", name)
@@ -176,7 +146,7 @@ class PaperJourney(printing.PrintingJourney):
             wait_until(f"there is {name}", (home / name).exists)
             wait_until("the dialog is gone", lambda: self.proposed_file() is None)
             # American paper: the locale names no country.
-            self.expect_page(home / name, "Orifice calculation FE-4102/B", (612, 792), 1)
+            self.expect_page(str(home / name), "Orifice calculation FE-4102/B", (612, 792), 1)
         self.assertEqual(sorted(file.name for file in home.glob("*.pdf")), sorted(names))
 
     def proposed_file(self):

@@ -182,6 +182,32 @@ class Program:
         control = self.field(begins)
         wait_until(f"'{text}' in {begins}; it says '{control.text}'", lambda: control.text == text)
 
+    def click(self, control):
+        self.desk.click(*control.middle)
+
+    def type_into(self, begins, text):
+        """Clicks on a field, which selects its text, and types."""
+        field = self.field(begins)
+        self.click(field)
+        wait_until(f"the focus in {begins}", lambda: field.focused)
+        self.desk.write(text)
+        self.wait_for_text(begins, text)
+
+    def pick(self, begins, entry):
+        """Opens a list and clicks on an entry."""
+        entries = self.list(begins)
+        self.click(entries)
+        self.click(self.wait_for("list item", entry))
+        wait_until(f"{entry} in {begins}", lambda: entries.name.endswith(": " + entry))
+
+    def write_customer(self, text):
+        """Types into the first line of the customer window, which has the focus."""
+        line = self.wait_for("text", "Customer")
+        wait_until("the customer's line has the focus", lambda: line.focused)
+        self.desk.write(text)
+        wait_until(f"'{text}' in the customer's line", lambda: line.text == text)
+        return line
+
     def wait_for_end(self):
         return self.process.wait(PATIENCE)
 

@@ -9,10 +9,9 @@ import contextlib
 import os
 import pathlib
 import re
-import shutil
 import subprocess
 
-from desk import CannotRun, wait_until
+from desk import CannotRun, need, wait_until
 
 TOOLS = ("orca", "speech-dispatcher", "pgrep", "xkbcomp")
 
@@ -52,9 +51,7 @@ class Reader:
     """A running Orca. What it says is heard in order, each text once."""
 
     def __init__(self, desk):
-        missing = [tool for tool in TOOLS if shutil.which(tool) is None]
-        if missing:
-            raise CannotRun("not installed: " + ", ".join(missing))
+        need(*TOOLS)
         if runs_already():
             raise CannotRun("another Orca is running")
         self.desk = desk

@@ -68,12 +68,9 @@ class Places:
 
 
 class Window:
-    """The running window."""
+    """The window of window_on_screen, which runs."""
 
-    def __init__(self, desk, file, scale, dpi):
-        self.desk = desk
-        environment = {**desk.environment, "QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": str(scale),
-                       "QT_FONT_DPI": str(dpi)}
+    def __init__(self, file, environment):
         self.process = subprocess.Popen([file], env=environment, stdin=subprocess.PIPE,
                                         stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                                         text=True)
@@ -85,28 +82,23 @@ class Window:
         assert answer, f"the window ended after '{line}'"
         return json.loads(answer)
 
-    def output_of(self, *command):
-        return subprocess.run(command, env=self.desk.environment, text=True, capture_output=True,
-                              check=True).stdout
-
-    def frame(self):
-        """Left, top, right and bottom on the screen, with what the window manager adds."""
-        window = desks.wait_until("the window", lambda: self.desk.search(
-            "^Brindle Tarvix$"))[-1]
-        info = self.output_of("xwininfo", "-id", window)
-        left, top, width, height = (
-            int(re.search(rf"{what}: +(-?\d+)", info).group(1))
-            for what in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-        west = east = north = south = 0
-        if self.desk.window_manager:
-            extents = self.output_of("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS")
-            west, east, north, south = (int(side) for side in extents.split("=")[1].split(","))
-        return left - west, top - north, left + width + east, top + height + south
-
     def close(self):
+        """Ends the window; its exit status."""
         self.process.stdin.close()
-        self.process.wait(desks.PATIENCE)
+        status = self.process.wait(desks.PATIENCE)
         self.process.stdout.close()
+        return status
+
+
+def frame_on(desk):
+    """Left, top, right and bottom of the window, with what the window manager adds."""
+    window = desks.wait_until("the window", lambda: desk.search("^Brindle Tarvix$"))[-1]
+    left, top, width, height = desk.place_of(window)
+    west = east = north = south = 0
+    if desk.window_manager:
+        extents = desk.ask("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS")
+        west, east, north, south = (int(side) for side in extents.split("=")[1].split(","))
+    return left - west, top - north, left + width + east, top + height + south
 
 
 def faults_of(measured, frame, screen, scale):
@@ -143,10 +135,11 @@ def faults_of(measured, frame, screen, scale):
 def check(desk, file, screen, scale, dpi, picture):
     """The faults of one window."""
     places = Places(desk)
-    window = Window(desk, file, scale, dpi)
+    window = Window(file, {**desk.environment, "QT_QPA_PLATFORM": "xcb",
+                           "QT_SCALE_FACTOR": str(scale), "QT_FONT_DPI": str(dpi)})
     try:
         window.ask("measure")  # answered when it is on the screen
-        frame = window.frame()
+        frame = frame_on(desk)
         measured = window.ask("measure")
         faults = faults_of(measured, frame, screen, scale)
         faults += [f"jumps: {jump}" for jump in places.jumps()]

@@ -9,35 +9,25 @@ Where the desktop can't be set up, the journey says so and ends with exit status
 The expected results are worked out beside each run.
 """
 
-import shutil
 import subprocess
 import sys
 
 import journey as journeys
-from desk import PATIENCE, CannotRun, wait_until
+from desk import PATIENCE, need, wait_until
 
 
 class UseJourney(journeys.Journey):
     @classmethod
     def set_up(cls, stack):
-        if shutil.which("xclip") is None:
-            raise CannotRun("not installed: xclip")
-
-    def enter(self, begins, text):
-        field = self.program.field(begins)
-        field.take_focus()
-        self.desk.press("ctrl+a")
-        self.desk.write(text)
-        wait_until(f"'{text}' in {begins}; it says '{field.text}'", lambda: field.text == text)
+        need("xclip")
 
     def liquid_run(self):
         """Water through a 2 inch pipe, solved for the flow rate."""
         self.choose("Calculate Flow Rate")
         self.choose("Liquid")
-        self.enter("Flowing Specific Gravity", "1")
-        self.enter("Base Specific Gravity", "1")
-        self.enter("Differential Pressure", "100")
-        self.enter("Beta Ratio", "0.5")
+        for begins, text in (("Flowing Specific Gravity", "1"), ("Base Specific Gravity", "1"),
+                             ("Differential Pressure", "100"), ("Beta Ratio", "0.5")):
+            self.program.type_into(begins, text)
         # E = 0.6 / sqrt(1 - 0.5^4) = 0.619677; Q = E 5.66646 x 0.25 x 2.067^2 sqrt(100) = 37.506
         self.program.wait_for_text("Flow Rate", "37.51")
 
@@ -60,7 +50,7 @@ class UseJourney(journeys.Journey):
         self.liquid_run()
         self.go_through("Flow Rate unit", "Cubic Centimeters")
         self.go_through("Flow Rate per time", "Day")
-        self.enter("Base Specific Gravity", "0.000001")
+        self.program.type_into("Base Specific Gravity", "0.000001")
         # 37.5057 x 10^6 gallons per minute / 0.000264172 x 1440 = 2.0444e14
         flow = self.program.field("Flow Rate")
         wait_until("a flow rate of 15 digits",
@@ -99,7 +89,7 @@ class UseJourney(journeys.Journey):
         self.start()
         self.liquid_run()
         self.choose("Calculated (from density)")
-        self.enter("Operating Density", "62.4")
+        self.program.type_into("Operating Density", "62.4")
         wait_until("printing is possible", lambda: self.program.button("Print").enabled)
         for begins in ("Flow Rate,", "Flowing Specific Gravity"):
             field = self.program.field(begins)
@@ -124,7 +114,7 @@ class UseJourney(journeys.Journey):
             with self.subTest(locale):
                 self.start(LC_ALL=locale)
                 field = self.program.field("Operating Pressure")
-                self.enter("Operating Pressure", number)
+                self.program.type_into("Operating Pressure", number)
                 self.desk.press("End")
                 place = field.place
                 text = field.accessible.queryText()
@@ -143,8 +133,7 @@ class UseJourney(journeys.Journey):
     def test_covered_nominal_size(self):
         self.start()
         sizes = self.program.list("Nominal Size")
-        place = sizes.place
-        middle = (place.x + place.width // 2, place.y + place.height // 2)
+        middle = sizes.middle
         pipes = self.program.list("Pipe ID and schedule")
         pipes.take_focus()
         self.desk.press("End")
@@ -204,16 +193,10 @@ class UseJourney(journeys.Journey):
         self.start()
         self.liquid_run()
         self.program.button("Print").act("Press", answers_late=True)
-        line = self.program.wait_for("text", "Customer")
-        wait_until("the customer's line has the focus",
-                   lambda: self.program.focused() and self.program.focused().name == "Customer")
-        self.desk.write("ACME")
-        wait_until("the line", lambda: line.text == "ACME")
-        place = self.program.button("Clear").middle
-        self.desk.click(*place)
+        line = self.program.write_customer("ACME")
+        self.program.click(self.program.button("Clear"))
         wait_until("the line is empty", lambda: line.text == "")
-        self.desk.write("Northfield")
-        wait_until("the first line is typed into", lambda: line.text == "Northfield")
+        self.program.write_customer("Northfield")
         self.desk.press("Return")
         # Without a printer, a dialog offers a file.
         wait_until("the window is gone and the print dialog there", lambda: self.desk.search(
@@ -226,18 +209,14 @@ class UseJourney(journeys.Journey):
         sizes = self.program.list("Nominal Size")
         self.assertEqual(sizes.name, "Nominal Size of the pipe, Inches: 2")
         # On the list, 1-1/2 and 2-1/2 are its neighbors, and end the program when they are picked.
-        for key in ("Up", "Down", "1"):
+        for way in (("key", "Up"), ("key", "Down"), ("key", "1"),
+                    ("mousemove", *sizes.middle, "click", 5)):
             sizes.take_focus()
-            self.desk.press(key)
+            self.desk.xdotool(*way)
             self.program.wait_for("list item", "2-1/2")
             self.desk.press("Escape")
             wait_until("the list is closed",
                        lambda: not self.program.find_all("list item", "2-1/2"))
-        sizes.take_focus()
-        self.desk.xdotool("mousemove", *sizes.middle, "click", 5)
-        self.program.wait_for("list item", "2-1/2")
-        self.desk.press("Escape")
-        wait_until("the list is closed", lambda: not self.program.find_all("list item", "2-1/2"))
         self.assertTrue(self.program.is_running())
         self.assertEqual(sizes.name, "Nominal Size of the pipe, Inches: 2")
         # Down opens, two more pass 2-1/2 by, Enter picks.

@@ -7,29 +7,21 @@ its screen is the window with the result.
 Where the compositor can't be started, the journey says so and ends with exit status 77: skipped.
 """
 
-import json
 import os
 import pathlib
-import shutil
 import subprocess
 import sys
 import tempfile
 
-from desk import PATIENCE, CannotRun, wait_until
-
-SKIPPED = 77
-RUN = ("click optLiquid", "click optCalcFR", "type txtSGf 1", "type txtSGb 1",
-       "choose cboNomSize 4", "type txtDeltaP 100", "type txtBeta 0.5", "focus optCalcFR")
+from desk import PATIENCE, CannotRun, need, wait_until
+from screen_matrix import RUN, SKIPPED, Window
 
 
 class Compositor:
     """Weston without a screen, of which pictures can be taken."""
 
     def __init__(self, folder):
-        tools = ("weston", "weston-screenshooter", "convert")
-        missing = [tool for tool in tools if shutil.which(tool) is None]
-        if missing:
-            raise CannotRun("not installed: " + ", ".join(missing))
+        need("weston", "weston-screenshooter", "convert")
         self.folder = pathlib.Path(folder)
         self.folder.chmod(0o700)
         self.environment = {
@@ -90,37 +82,28 @@ def check(what, is_so):
 
 
 def play(compositor, file):
-    with subprocess.Popen([file], env=compositor.environment, stdin=subprocess.PIPE,
-                          stdout=subprocess.PIPE, text=True) as window:
-        def ask(line):
-            window.stdin.write(line + "\n")
-            window.stdin.flush()
-            answer = window.stdout.readline()
-            assert answer, f"the window ended after '{line}'"
-            return json.loads(answer)
+    window = Window(file, compositor.environment)
+    measured = window.ask("measure")
+    check("the window is whole and without scroll bars",
+          measured["message"] and not measured["across"] and not measured["down"])
+    for line in (*RUN, "focus optCalcFR"):
+        check(line, window.ask(line)["played"])
+    flow = window.ask("state")["controls"]["txtFlow"]["text"]
+    window.process.stdout.readline()
+    check(f"the flow rate is 142.3: {flow}", flow == "142.3")
+    own = compositor.folder / "window.png"
+    window.ask(f"picture {own}")
+    rows = rows_of(own)
+    # Each row of the window, without the rounded ends, stands on the screen.
+    margin = 3 * 8
 
-        measured = ask("measure")
-        check("the window is whole and without scroll bars",
-              measured["message"] and not measured["across"] and not measured["down"])
-        for line in RUN:
-            check(line, ask(line)["played"])
-        flow = ask("state")["controls"]["txtFlow"]["text"]
-        window.stdout.readline()
-        check(f"the flow rate is 142.3: {flow}", flow == "142.3")
-        own = compositor.folder / "window.png"
-        ask(f"picture {own}")
-        rows = rows_of(own)
-        # Each row of the window, without the rounded ends, stands on the screen.
-        margin = 3 * 8
-
-        def shown():
-            screen = compositor.picture()
-            return sum(row[margin:-margin] in screen for row in rows)
-        wait_until(f"the {len(rows)} rows of the window on the screen",
-                   lambda: shown() >= 0.98 * len(rows))
-        print("ok: the screen shows the window with its result")
-        window.stdin.close()
-        check("the window ends", window.wait(PATIENCE) == 0)
+    def shown():
+        screen = compositor.picture()
+        return sum(row[margin:-margin] in screen for row in rows)
+    wait_until(f"the {len(rows)} rows of the window on the screen",
+               lambda: shown() >= 0.98 * len(rows))
+    print("ok: the screen shows the window with its result")
+    check("the window ends", window.close() == 0)
 
 
 def start_and_end(compositor, program):
