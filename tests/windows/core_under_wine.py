@@ -11,11 +11,9 @@ import pathlib
 import re
 import subprocess
 import sys
-import tempfile
 
 import wine as windows
 
-SKIPPED = 77
 COMPARE = pathlib.Path(__file__).resolve().parent.parent / "bits/compare_bits.py"
 
 
@@ -38,23 +36,15 @@ def main():
     parser.add_argument("windows_bits")
     parser.add_argument("tests", nargs="+")
     options = parser.parse_args()
-    good = True
-    with tempfile.TemporaryDirectory(prefix="tarvix-wine-") as folder:
-        try:
-            wine = windows.Wine(folder)
-        except windows.CannotRun as reason:
-            print(f"SKIPPED: the calculator under Wine: {reason}")
-            return SKIPPED
-        try:
-            for program in options.tests:
-                good = run_tests(wine, program) and good
-            sys.stdout.flush()
-            good = subprocess.run([sys.executable, str(COMPARE), "--sheets", options.sheets,
+
+    def work(wine):
+        good = [run_tests(wine, program) for program in options.tests]
+        sys.stdout.flush()
+        compared = subprocess.run([sys.executable, str(COMPARE), "--sheets", options.sheets,
                                    options.linux_bits, wine.wrapper(options.windows_bits)],
-                                  check=False).returncode == 0 and good
-        finally:
-            wine.stop()
-    return 0 if good else 1
+                                  check=False)
+        return all(good) and compared.returncode == 0
+    return windows.run_in_wine("the calculator", work)
 
 
 if __name__ == "__main__":

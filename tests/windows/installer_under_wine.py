@@ -15,7 +15,6 @@ import unittest
 import windows_desk
 
 wait_until = windows_desk.desks.wait_until
-SKIPPED = 77
 UNINSTALL = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall"
 
 setup = program_folder = pathlib.Path()
@@ -101,12 +100,7 @@ def main():
         print(__doc__, file=sys.stderr)
         return 2
     setup, program_folder = (pathlib.Path(argument).absolute() for argument in sys.argv[1:3])
-    result = unittest.main(argv=[sys.argv[0], *sys.argv[3:]], exit=False, verbosity=2,
-                           warnings="ignore").result
-    if result.skipped:
-        print(f"SKIPPED: the installer under Wine: {result.skipped[0][1]}")
-        return SKIPPED
-    return 0 if result.wasSuccessful() else 1
+    return windows_desk.run_tests("the installer under Wine", sys.argv[3:])
 
 
 if __name__ == "__main__":

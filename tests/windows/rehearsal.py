@@ -25,18 +25,13 @@ class Rehearsal:
         assert all("controls" in answer for answer in answers), answers[:-1]
         return answers[-1]
 
-    def tab_to(self, name):
+    def press(self, name, keys):
+        """The Tab key until it leads to a control, and the keys there."""
         start = len(self.keys)
         while self.play()["focus"] != name:
             self.keys.append("{Tab}")
             assert len(self.keys) < start + 40, f"no way by Tab to {name}"
-
-    def press(self, *keys):
         self.keys += keys
-
-    def type_into(self, name, text):
-        self.tab_to(name)
-        self.press(*text)
 
     def text(self, name):
         return self.play()["controls"][name]["text"]

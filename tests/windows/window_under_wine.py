@@ -12,11 +12,9 @@ import argparse
 import pathlib
 import subprocess
 import sys
-import tempfile
 
 import wine as windows
 
-SKIPPED = 77
 TESTS = pathlib.Path(__file__).resolve().parent.parent
 # What Windows says of these locales: the decimal separator, a grouped number, its separator.
 SYSTEM_LOCALES = {"en_US": (".", "1_234_567", "2C"), "de_DE": (",", "1_234_567", "2E")}
@@ -64,20 +62,13 @@ def main():
     parser.add_argument("windows_player")
     parser.add_argument("locale_tests")
     options = parser.parse_args()
-    with tempfile.TemporaryDirectory(prefix="tarvix-wine-") as folder:
-        try:
-            wine = windows.Wine(folder)
-        except windows.CannotRun as reason:
-            print(f"SKIPPED: the window under Wine: {reason}")
-            return SKIPPED
-        try:
-            good = ask_for_system_locale(wine, options.locale_tests)
-            sys.stdout.flush()
-            good = play_scenarios(wine, options.windows_player, options.every) and good
-            good = compare_sessions(wine, options) and good
-        finally:
-            wine.stop()
-    return 0 if good else 1
+
+    def work(wine):
+        good = ask_for_system_locale(wine, options.locale_tests)
+        sys.stdout.flush()
+        good = play_scenarios(wine, options.windows_player, options.every) and good
+        return compare_sessions(wine, options) and good
+    return windows.run_in_wine("the window", work)
 
 
 if __name__ == "__main__":

@@ -7,11 +7,13 @@ import re
 import subprocess
 import sys
 import time
+import unittest
 
 TESTS = pathlib.Path(__file__).resolve().parent.parent
 sys.path[:0] = [str(TESTS / "journeys"), str(TESTS / "report")]
 import desk as desks  # noqa: E402  (found by the line above)
 import print_journey  # noqa: E402
+import printing  # noqa: E402
 import wine as windows  # noqa: E402
 
 TITLE = "Brindle Tarvix"
@@ -21,8 +23,17 @@ SOON = 10
 KEYS = {"{Tab}": "Tab", "{Left}": "Left", "{Right}": "Right", "{Enter}": "Return",
         ",": "comma", ".": "period"}
 
-
 CANNOT_RUN = (desks.CannotRun, print_journey.CannotRun, windows.CannotRun)
+
+
+def run_tests(what, names):
+    """Runs the tests of the program, or those named; the exit status, 77 where one was skipped."""
+    result = unittest.main(argv=[sys.argv[0], *names], exit=False, verbosity=2,
+                           warnings="ignore").result
+    if result.skipped:
+        print(f"SKIPPED: {what}: {result.skipped[0][1]}")
+        return windows.SKIPPED
+    return 0 if result.wasSuccessful() else 1
 
 
 class WindowsDesk:
@@ -43,7 +54,7 @@ class WindowsDesk:
                 self.printer = print_journey.NetworkPrinter()
                 self.system.add_printer(self.printer.port)
                 self.printing = {name: self.system.environment[name]
-                                 for name in ("CUPS_SERVER", "CUPS_SERVERROOT", "TMPDIR")}
+                                 for name in printing.PRINT_SETTINGS}
             self.wine = windows.Wine(folder / "windows", self.printing |
                                      {"DISPLAY": self.desk.environment["DISPLAY"]})
         except BaseException:
@@ -111,8 +122,7 @@ class WindowsDesk:
         return self.desk.search(f"^{re.escape(title)}$")
 
     def has_frame(self, window):
-        extents = subprocess.run(["xprop", "-id", window, "_NET_FRAME_EXTENTS"], text=True,
-                                 env=self.desk.environment, capture_output=True, check=False).stdout
+        extents = self.desk.ask("xprop", "-id", window, "_NET_FRAME_EXTENTS")
         return any(number != "0" for number in re.findall(r"\d+", extents))
 
     def wait_for_window(self, title=TITLE, other_than=None):

@@ -7,8 +7,10 @@ import os
 import pathlib
 import shutil
 import subprocess
+import tempfile
 
 PATIENCE = 300  # seconds for one program
+SKIPPED = 77
 LOCALES = ("en_US", "de_DE")
 
 # What the program asks Windows for, and what the machine has in its place.
@@ -19,6 +21,20 @@ FONTS = {"Segoe UI": "DejaVu Sans", "Tahoma": "DejaVu Sans", "MS Shell Dlg": "De
 
 class CannotRun(Exception):
     """Wine can't be set up on this machine."""
+
+
+def run_in_wine(what, work):
+    """Calls `work` with a Wine, and returns the exit status: 0 where it returns that all is good."""
+    with tempfile.TemporaryDirectory(prefix="tarvix-wine-") as folder:
+        try:
+            wine = Wine(folder)
+        except CannotRun as reason:
+            print(f"SKIPPED: {what} under Wine: {reason}")
+            return SKIPPED
+        try:
+            return 0 if work(wine) else 1
+        finally:
+            wine.stop()
 
 
 class Wine:
