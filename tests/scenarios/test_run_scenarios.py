@@ -31,6 +31,64 @@ STATE = {
     "focus": "txtFlow",
 }
 
+# On a player that shows that state: the script, and what is said of it.
+RED = (
+    # The state is another.
+    ('state\n#= txtFlow.text "142.4"\n',
+     'topic.script:2: txtFlow.text: expected "142.4", found "142.3"'),
+    ("state\n#= txtFlow.selstart true\n", "expected true, found 1"),
+    ("state\n#= txtFlow.visible 1\n", "expected 1, found true"),
+    ("state\n#= txtFlow.text 142.3\n", "expected 142.3"),
+    ('state\n#= cboTimeUnit.items ["Minute"]\n', "cboTimeUnit.items"),
+    ('state\n#= txtFlaw.text "142.3"\n', "there is no control txtFlaw"),
+    ('state\n#= txtFlow.texd "142.3"\n', "txtFlow has no texd"),
+    ("state\n#= boxes []\n", "expected 0, found 1"),
+    ('state\n#= boxes [{"title": "Pipe ID"}, {}]\n', "expected 2, found 1"),
+    ('state\n#= boxes [{"title": "Pipe"}]\n', "title of box 1"),
+    ('state\n#= boxes [{"text": "Enter a Pipe ID"}]\n', "text of box 1"),
+    ('state\n#= boxes [{"titel": "Pipe ID"}]\n', "a box has no titel"),
+    ('state\n#= page 1\n#| "Title"\n#| "Tag: "\n', 'page 1: expected "Tag: ", found ""'),
+    ('state\n#= page 1\n#| "Tag:"\n', 'expected "Tag:", found no such line'),
+    ('state\n#= page 2\n#| "Beta"\n#| ""\n', 'expected "", found no such'),
+    ('state\n#= page 3\n#| "Beta"\n', "there are 2 pages"),
+    # The notation is another.
+    ('state\n#= page 1\n', "from 1 and lines"),
+    ('state\n#= page 0\n#| "Beta"\n', "from 1 and lines"),
+    ('state\n#| "Beta"\n', "must follow #= page N"),
+    ('state\n#= page 1\n#| Beta\n', "not a JSON value"),
+    *((f"state\n#= calculations 3\n{line}\n", "unknown notation") for line in (
+        "#=txtFlow.text 1", "#? txtFlow.text 1", "#! Refused", "#! ended", "#! ended happily",
+        "#comment")),
+    ("state\n#= txtFlow 1\n", "neither NAME.PROPERTY nor"),
+    ("state\n#= txtFlow.text\n", "a path and a JSON value"),
+    ("state\n#= txtFlow.text 142.3 gpm\n", "not a JSON value"),
+    ('state\n#= calculations "3"\n', "needs a whole number"),
+    ("state\n#= pages true\n", "needs a whole number"),
+    ("state\n#= focus 1\n", "needs a text"),
+    ('state\n#= boxes {"title": "x"}\n', "needs a list of objects"),
+    ("#= calculations 3\nstate\n", "must follow a state command"),
+    ("state\nclick optGas\n#= calculations 3\n", "must follow a state command"),
+    ("#! refused\nstate\n", "must follow the command"),
+    ("state\n#! refused\n", "must follow the command"),
+    ("click cmdExit\n#! ended exit\nstate\n", "after the program's end"),
+    ("click optGas\nstate\n", "without any expectation"),
+    ("", "without any expectation"),
+    (b"# \xff\nstate\n#= pages 0\n", "not UTF-8"),
+)
+REFUSED = {"refused": "click optGas", "why": "hidden"}
+# The script, what is said of it, and what the player writes.
+WRONG_OUTPUT = (
+    ("click optGas\nstate\n#= calculations 3\n", "expected a state, found", [REFUSED, STATE]),
+    ("click optGas\n#! refused\nstate\n#= calculations 3\n",
+     "topic.script:2: expected a refusal of: click optGas, found a state", [STATE]),
+    ("click optSteam\n#! refused\n", "expected a refusal of: click optSteam", [REFUSED]),
+    ("state\n#= calculations 3\nclick cmdExit\n", "expected nothing more",
+     [STATE, {"ended": "exit"}]),
+    ("click cmdExit\n#! ended exit\n", "expected the program's end (exit)", [{"ended": "fatal"}]),
+    ("state\n#= calculations 3\nstate\n#= calculations 0\n", "found the end of the output", [STATE]),
+    ("state\n#= calculations 3\n", "no JSON", ["QWidget: warning"]),
+)
+
 
 class RunnerTest(unittest.TestCase):
     def setUp(self):
@@ -55,14 +113,12 @@ class RunnerTest(unittest.TestCase):
         player.chmod(player.stat().st_mode | stat.S_IXUSR)
         path = root / "area" / "topic.script"
         path.write_bytes(script if isinstance(script, bytes) else script.encode("utf-8"))
-        printed = io.StringIO()
-        with contextlib.redirect_stdout(printed), contextlib.redirect_stderr(printed):
-            result = run_scenarios.main([*extra, str(player), str(root / "area")])
-        return result, printed.getvalue()
+        return self.run_main(*extra, str(player), str(root / "area"))
 
     def run_main(self, *arguments):
         """Exit status and printed text of the runner."""
-        with contextlib.redirect_stdout(io.StringIO()) as printed:
+        printed = io.StringIO()
+        with contextlib.redirect_stdout(printed), contextlib.redirect_stderr(printed):
             result = run_scenarios.main(list(arguments))
         return result, printed.getvalue()
 
@@ -88,7 +144,9 @@ class RunnerTest(unittest.TestCase):
                           "#= pages 0\n"
                           '#= focus "txtFlow"\n')
 
-    def test_refusal_and_end(self):
+    def test_pages_refusal_and_end(self):
+        self.assert_green('state\n#= page 1\n#| "Title"\n#| ""\n#| "Tag: "\n'
+                          '#= page 2\n#| "Beta"\n')
         self.assert_green("type txtBeta 0.5\n#! refused\nclick cmdExit\n#! ended exit\n",
                           [{"refused": "type txtBeta 0.5", "why": "locked"}, {"ended": "exit"}])
 
@@ -106,65 +164,19 @@ class RunnerTest(unittest.TestCase):
 
     # What must fail, with its line.
 
-    def test_wrong_value_names_file_line_expected_and_found(self):
-        self.assert_red('state\n#= txtFlow.text "142.4"\n',
-                        'topic.script:2: txtFlow.text: expected "142.4", found "142.3"')
-
     def test_every_wrong_value_is_reported(self):
         script = 'state\n#= txtFlow.text "1"\n#= calculations 4\n#= focus "txtBeta"\n'
         _, printed = self.run_script(script)
         for line in (2, 3, 4):
             self.assertIn(f"topic.script:{line}: ", printed)
 
-    def test_true_is_not_one(self):
-        self.assert_red("state\n#= txtFlow.selstart true\n", "expected true, found 1")
-        self.assert_red("state\n#= txtFlow.visible 1\n", "expected 1, found true")
-
-    def test_number_is_not_text(self):
-        self.assert_red("state\n#= txtFlow.text 142.3\n", "expected 142.3")
-
-    def test_list_must_be_whole(self):
-        self.assert_red('state\n#= cboTimeUnit.items ["Minute"]\n', "cboTimeUnit.items")
-
-    def test_unknown_control_and_property(self):
-        self.assert_red('state\n#= txtFlaw.text "142.3"\n', "there is no control txtFlaw")
-        self.assert_red('state\n#= txtFlow.texd "142.3"\n', "txtFlow has no texd")
-
-    def test_boxes(self):
-        self.assert_red("state\n#= boxes []\n", "expected 0, found 1")
-        self.assert_red('state\n#= boxes [{"title": "Pipe ID"}, {}]\n', "expected 2, found 1")
-        self.assert_red('state\n#= boxes [{"title": "Pipe"}]\n', "title of box 1")
-        self.assert_red('state\n#= boxes [{"text": "Enter a Pipe ID"}]\n', "text of box 1")
-        self.assert_red('state\n#= boxes [{"titel": "Pipe ID"}]\n', "a box has no titel")
-
-    def test_page(self):
-        self.assert_green('state\n#= page 1\n#| "Title"\n#| ""\n#| "Tag: "\n'
-                          '#= page 2\n#| "Beta"\n')
-        self.assert_red('state\n#= page 1\n#| "Title"\n#| "Tag: "\n',
-                        'page 1: expected "Tag: ", found ""')
-        self.assert_red('state\n#= page 1\n#| "Tag:"\n', 'expected "Tag:", found no such line')
-        self.assert_red('state\n#= page 2\n#| "Beta"\n#| ""\n', 'expected "", found no such')
-        self.assert_red('state\n#= page 3\n#| "Beta"\n', "there are 2 pages")
-        self.assert_red('state\n#= page 1\n', "from 1 and lines")
-        self.assert_red('state\n#= page 0\n#| "Beta"\n', "from 1 and lines")
-        self.assert_red('state\n#| "Beta"\n', "must follow #= page N")
-        self.assert_red('state\n#= page 1\n#| Beta\n', "not a JSON value")
+    def test_what_does_not_hold_or_says_nothing(self):
+        for script, message in RED:
+            with self.subTest(script):
+                self.assert_red(script, message)
 
     def test_output_that_is_not_the_expected(self):
-        refused = {"refused": "click optGas", "why": "hidden"}
-        for script, message, outputs in (
-                ("click optGas\nstate\n#= calculations 3\n", "expected a state, found",
-                 [refused, STATE]),
-                ("click optGas\n#! refused\nstate\n#= calculations 3\n",
-                 "topic.script:2: expected a refusal of: click optGas, found a state", [STATE]),
-                ("click optSteam\n#! refused\n", "expected a refusal of: click optSteam", [refused]),
-                ("state\n#= calculations 3\nclick cmdExit\n", "expected nothing more",
-                 [STATE, {"ended": "exit"}]),
-                ("click cmdExit\n#! ended exit\n", "expected the program's end (exit)",
-                 [{"ended": "fatal"}]),
-                ("state\n#= calculations 3\nstate\n#= calculations 0\n",
-                 "found the end of the output", [STATE]),
-                ("state\n#= calculations 3\n", "no JSON", ["QWidget: warning"])):
+        for script, message, outputs in WRONG_OUTPUT:
             with self.subTest(message):
                 self.assert_red(script, message, outputs)
         self.assert_red("state\n#= calculations 3\n", "exit status 2", status=2)
@@ -184,42 +196,13 @@ class RunnerTest(unittest.TestCase):
         self.assertEqual(result, 1)
         self.assertIn("did not end within 0.5 seconds", printed)
 
-    def test_script_without_any_expectation(self):
-        self.assert_red("click optGas\nstate\n", "without any expectation")
-        self.assert_red("", "without any expectation", [])
-
-    def test_unknown_notation(self):
-        for line in ("#=txtFlow.text 1", "#? txtFlow.text 1", "#! Refused", "#! ended",
-                     "#! ended happily", "#comment"):
-            self.assert_red(f"state\n#= calculations 3\n{line}\n", "unknown notation")
-        self.assert_red("state\n#= txtFlow 1\n", "neither NAME.PROPERTY nor")
-        self.assert_red("state\n#= txtFlow.text\n", "a path and a JSON value")
-        self.assert_red("state\n#= txtFlow.text 142.3 gpm\n", "not a JSON value")
-        self.assert_red('state\n#= calculations "3"\n', "needs a whole number")
-        self.assert_red("state\n#= pages true\n", "needs a whole number")
-        self.assert_red("state\n#= focus 1\n", "needs a text")
-        self.assert_red('state\n#= boxes {"title": "x"}\n', "needs a list of objects")
-
-    def test_expectation_without_its_command(self):
-        self.assert_red("#= calculations 3\nstate\n", "must follow a state command")
-        self.assert_red("state\nclick optGas\n#= calculations 3\n", "must follow a state command")
-        self.assert_red("#! refused\nstate\n", "must follow the command")
-        self.assert_red("state\n#! refused\n", "must follow the command")
-
-    def test_command_after_the_end(self):
-        self.assert_red("click cmdExit\n#! ended exit\nstate\n", "after the program's end")
-
-    def test_script_that_is_not_utf8(self):
-        self.assert_red(b"# \xff\nstate\n#= pages 0\n", "not UTF-8")
-
     def test_file_that_is_not_there(self):
         result, printed = self.run_main("/bin/true", self.folder.name + "/none.script")
         self.assertEqual(result, 1)
         self.assertIn("can't be read", printed)
 
     def test_folder_without_scenarios(self):
-        with contextlib.redirect_stderr(io.StringIO()):
-            self.assertEqual(run_scenarios.main(["/bin/true", self.folder.name]), 2)
+        self.assertEqual(self.run_main("/bin/true", self.folder.name)[0], 2)
 
 
 if __name__ == "__main__":
