@@ -59,7 +59,7 @@ Usage CurrentUsage() {
         }
     }
     usage.files =
-        static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))
+        static_cast<int>(QDir("/proc/self/fd")
                              .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
                              .size());
     return usage;
@@ -67,8 +67,8 @@ Usage CurrentUsage() {
 
 class LongUse {
   public:
-    explicit LongUse(const QString& folder) : page_(folder + QStringLiteral("/page.pdf")) {
-        Play(QStringLiteral("printer ") + page_);
+    explicit LongUse(const QString& folder) : page_(folder + "/page.pdf") {
+        Play("printer " + page_);
     }
 
     // Types flows, differential pressures and betas until there have been so many calculations, and
@@ -78,22 +78,21 @@ class LongUse {
         for (int i = 0; player_.Window().calculationRuns() < target; ++i) {
             Complete(i);
             for (const char* mode : {"optCalcDP", "optCalcBeta", "optCalcFR"}) {
-                Play(QStringLiteral("click %1").arg(QLatin1String(mode)));
-                Type(QStringLiteral("txtFlow"), QString::number(100 + i % 900));
-                Type(QStringLiteral("txtDeltaP"),
-                     QStringLiteral("%1.%2").arg(10 + i % 90).arg(i % 10));
-                Type(QStringLiteral("txtBeta"), QStringLiteral("0.5%1").arg(i % 10));
+                Play(QString("click %1").arg(mode));
+                Type("txtFlow", QString::number(100 + i % 900));
+                Type("txtDeltaP", QString("%1.%2").arg(10 + i % 90).arg(i % 10));
+                Type("txtBeta", QString("0.5%1").arg(i % 10));
             }
-            Play(QStringLiteral("choose cboTimeUnit #%1").arg(i % 4));
-            Play(QStringLiteral("choose cboDeltaPunit #%1").arg(i % 8));
-            Play(QStringLiteral("choose cboPipeIDUnit #%1").arg(i % 3));
+            Play(QString("choose cboTimeUnit #%1").arg(i % 4));
+            Play(QString("choose cboDeltaPunit #%1").arg(i % 8));
+            Play(QString("choose cboPipeIDUnit #%1").arg(i % 3));
             QCoreApplication::processEvents();
         }
     }
 
     void SwitchFluids(int count) {
         for (int i = 0; i < count; ++i) {
-            Play(QStringLiteral("click %1").arg(Name({"optLiquid", "optSteam", "optGas"}, i)));
+            Play(QString("click %1").arg(kFluids[i % 3]));
             QCoreApplication::processEvents();
         }
     }
@@ -101,9 +100,9 @@ class LongUse {
     void PrintReports(int count) {
         for (int i = 0; i < count; ++i) {
             Complete(i);
-            Play(QStringLiteral("customer Customer %1|Second line|FT-%1").arg(i));
-            Play(QStringLiteral("click cmdPrint"));
-            Play(QStringLiteral("click mnuAbout"));
+            Play(QString("customer Customer %1|Second line|FT-%1").arg(i));
+            Play("click cmdPrint");
+            Play("click mnuAbout");
             QCoreApplication::processEvents();
             if (QFileInfo(page_).size() < 1000) {
                 Fail("a report was not printed");
@@ -113,9 +112,7 @@ class LongUse {
     }
 
   private:
-    static QString Name(std::initializer_list<const char*> names, int i) {
-        return QLatin1String(names.begin()[i % static_cast<int>(names.size())]);
-    }
+    static constexpr const char* kFluids[] = {"optLiquid", "optSteam", "optGas"};
 
     [[noreturn]] static void Fail(const char* what) {
         std::printf("FAILED: %s\n", what);
@@ -124,13 +121,13 @@ class LongUse {
 
     // A complete run of one of the fluids, in the flow rate mode.
     void Complete(int i) {
-        Play(QStringLiteral("click %1").arg(Name({"optLiquid", "optGas", "optSteam"}, i)));
-        Play(QStringLiteral("click optCalcFR"));
-        Play(QStringLiteral("choose cboDeltaPunit Inches Water"));
+        Play(QString("click %1").arg(kFluids[i % 3]));
+        Play("click optCalcFR");
+        Play("choose cboDeltaPunit Inches Water");
         for (const char* entry :
              {"txtSGf 0.9", "txtSGb 0.95", "txtPf 120", "txtTf 75", "txtGasSGb 0.65",
               "txtDensity 0.3", "txtDeltaP 50", "txtBeta 0.6"}) {
-            const QStringList words = QString::fromLatin1(entry).split(QLatin1Char(' '));
+            const QStringList words = QString(entry).split(' ');
             Type(words.first(), words.last());
         }
         if (!player_.Window().form().cmdPrint->isEnabled()) {
@@ -143,7 +140,7 @@ class LongUse {
         const MainForm& form = player_.Window().form();
         const auto& widget = dynamic_cast<const NumericField&>(*form.Find(field)->widget);
         if (form.IsVisible(widget) && form.IsEnabled(widget) && !widget.Locked()) {
-            Play(QStringLiteral("type %1 %2").arg(field, text));
+            Play("type " + field + ' ' + text);
         }
     }
 
@@ -155,10 +152,9 @@ class LongUse {
     }
 
     QString page_;
-    ScriptPlayer player_{[](const QJsonObject& line) {
-                             Fail(qPrintable(line.value(QStringLiteral("refused")).toString()));
-                         },
-                         [] { Fail("the program ended"); }};
+    ScriptPlayer player_{
+        [](const QJsonObject& line) { Fail(qPrintable(line.value("refused").toString())); },
+        [] { Fail("the program ended"); }};
 };
 
 int Run(int recalculations, int switches, int reports) {
@@ -205,16 +201,11 @@ int main(int argc, char* argv[]) {
     }
     QApplication application(argc, argv);
     QCommandLineParser parser;
-    const auto option = [](const char* name, const char* value) {
-        return QCommandLineOption(QLatin1String(name), QStringLiteral("How many."),
-                                  QStringLiteral("N"), QLatin1String(value));
-    };
-    const QCommandLineOption recalculations = option("recalculations", "100000");
-    const QCommandLineOption switches = option("switches", "1000");
-    const QCommandLineOption reports = option("reports", "200");
     parser.addHelpOption();
-    parser.addOptions({recalculations, switches, reports});
+    parser.addOptions({{"recalculations", "How many.", "N", "100000"},
+                       {"switches", "How many.", "N", "1000"},
+                       {"reports", "How many.", "N", "200"}});
     parser.process(application);
-    return tarvix::Run(parser.value(recalculations).toInt(), parser.value(switches).toInt(),
-                       parser.value(reports).toInt());
+    return tarvix::Run(parser.value("recalculations").toInt(), parser.value("switches").toInt(),
+                       parser.value("reports").toInt());
 }
