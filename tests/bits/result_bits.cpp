@@ -99,27 +99,16 @@ InputSheet SheetOf(Choices& choices) {
     return sheet;
 }
 
-char LetterOf(Fluid fluid) {
-    switch (fluid) {
-        case Fluid::Liquid:
-            return 'L';
-        case Fluid::Gas:
-            return 'G';
-        case Fluid::Steam:
-            break;
-    }
-    return 'S';
+std::string Bits(float value) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%08x",
+                  static_cast<unsigned>(std::bit_cast<std::uint32_t>(value)));
+    return text;
 }
 
 // The bits of what an equation gives; "-" for nothing.
 std::string Bits(const Outcome& outcome) {
-    if (!outcome.value) {
-        return outcome.message.empty() ? "-" : "message";
-    }
-    char text[16];
-    std::snprintf(text, sizeof text, "%08x",
-                  static_cast<unsigned>(std::bit_cast<std::uint32_t>(*outcome.value)));
-    return text;
+    return outcome.value ? Bits(*outcome.value) : outcome.message.empty() ? "-" : "message";
 }
 
 // The equations on values that no text has rounded.
@@ -145,13 +134,10 @@ std::string EquationBits(Choices& choices, SolveFor mode) {
     gas.userZf = choices.Between(0, 2, 1000000);
     const SteamProperties steam{choices.Between(0, 700, 100000), choices.Between(0, 3, 1000000)};
     const SteamDensity table = SaturatedSteamDensity(choices.Between(0, 600, 100000));
-    char density[16];
-    std::snprintf(density, sizeof density, "%08x",
-                  static_cast<unsigned>(std::bit_cast<std::uint32_t>(table.density)));
     MeteringRun large = run;  // gas and steam flow in other units
     large.flow *= 40;
     return Bits(SolveLiquid(run, liquid)) + ' ' + Bits(SolveGas(large, gas)) + ' ' +
-           Bits(SolveSteam(large, steam)) + ' ' + density;
+           Bits(SolveSteam(large, steam)) + ' ' + Bits(table.density);
 }
 
 // The working values of the checks, in the order of their declaration.
@@ -160,10 +146,7 @@ std::string WorkingBits(const WorkingValues& working) {
     for (const float value :
          {working.FlowingSG, working.BaseSG, working.FlowTempF, working.BaseTempF,
           working.OperPress, working.BasePress, working.OperDensity, working.UserZf}) {
-        char text[16];
-        std::snprintf(text, sizeof text, " %08x",
-                      static_cast<unsigned>(std::bit_cast<std::uint32_t>(value)));
-        all += text;
+        all += ' ' + Bits(value);
     }
     return all;
 }
@@ -182,8 +165,8 @@ void WriteSheets(std::uint64_t sheets, std::uint64_t seed) {
         } else {
             result = "refused: " + check.message;
         }
-        std::printf("%llu %c%d%s %s | %s\n", static_cast<unsigned long long>(number),
-                    LetterOf(sheet.fluid), static_cast<int>(*sheet.mode),
+        std::printf("%llu %d%d%s %s | %s\n", static_cast<unsigned long long>(number),
+                    static_cast<int>(sheet.fluid), static_cast<int>(*sheet.mode),
                     WorkingBits(check.working).c_str(), EquationBits(choices, *sheet.mode).c_str(),
                     result.c_str());
     }

@@ -101,8 +101,6 @@ double WaterReynolds(const NamedPipe& pipe, float beta, float diffPressInH2O) {
     return iso5167::Reynolds(iso5167::MassFlow(run, taps, kPascalSeconds), run, kPascalSeconds);
 }
 
-}  // namespace
-
 void PrintErrorGrid() {
     ForEachCase([](const NamedFluid& fluid, const char* caseName, float h) {
         PrintPoints("point", kPipes, fluid, caseName, h, true);
@@ -147,6 +145,15 @@ void PrintWaterLines() {
             }
         }
     }
+}
+
+}  // namespace
+
+void PrintAccuracy() {
+    PrintErrorGrid();
+    PrintExpansion();
+    PrintSmallPipes();
+    PrintWaterLines();
 }
 
 }  // namespace tarvix::accuracy

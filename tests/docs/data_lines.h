@@ -5,16 +5,11 @@
 
 namespace tarvix::accuracy {
 
-void PrintErrorGrid();
-void PrintExpansion();
-void PrintSmallPipes();
-void PrintWaterLines();
-
+void PrintAccuracy();
 void PrintConvergence();
 void PrintCosts();
 void PrintPublished();
 void PrintRandomRuns(int runsPerMode);
-void PrintRoundTrips();
 void PrintSteam();
 void PrintUnits();
 

@@ -231,9 +231,6 @@ void PrintRandomRuns(int runsPerMode) {
         }
     }
     PrintInvariances();
-}
-
-void PrintRoundTrips() {
     for (const NamedFluid& fluid : kFluids) {
         PrintTrips(fluid);
     }

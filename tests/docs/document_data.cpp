@@ -13,15 +13,11 @@ constexpr int kRandomRuns = 1000;
 
 void PrintAll(int randomRuns) {
     using namespace tarvix::accuracy;
-    PrintErrorGrid();
-    PrintExpansion();
-    PrintSmallPipes();
-    PrintWaterLines();
+    PrintAccuracy();
     PrintConvergence();
     PrintCosts();
     PrintPublished();
     PrintRandomRuns(randomRuns);
-    PrintRoundTrips();
     PrintSteam();
     PrintUnits();
 }
