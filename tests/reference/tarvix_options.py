@@ -209,11 +209,7 @@ class Window(MainWindow):
         if self.suspended or not self.enabled("txtDensity"):
             return
         self.message = ""
-        if self.fluid == "L" and self.on("optSgCalc"):
-            self.CalcSGf()
-        if self.fluid == "S" and self.on("optSteamTbl") and not self.CalcSteamDensity():
-            return
-        self.DoOrificeCalculations()
+        self.cboDensityUnit_Click()
 
     def txtPf_Change(self):
         if self.fluid == "S" and self.on("optSteamTbl") and not self.CalcSteamDensity():
