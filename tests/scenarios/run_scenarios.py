@@ -16,6 +16,7 @@ import re
 import subprocess
 import sys
 import tempfile
+from itertools import zip_longest
 from pathlib import Path
 
 COUNTS = ("calculations", "pages")
@@ -103,11 +104,12 @@ class Answer:
         self.expectations = []
 
     def __str__(self):
-        if self.kind == "state":
-            return "a state"
-        if self.kind == "refused":
-            return f"a refusal of: {self.value}"
-        return f"the program's end ({self.value})"
+        return {"state": "a state", "refused": f"a refusal of: {self.value}",
+                "ended": f"the program's end ({self.value})"}[self.kind]
+
+    def fits(self, found):
+        kind = kind_of(found)
+        return kind == self.kind and (kind == "state" or found[kind].strip() == self.value)
 
 
 def show(value):
@@ -193,7 +195,7 @@ def kind_of(found):
     for kind, key in (("state", "controls"), ("refused", "refused"), ("ended", "ended")):
         if isinstance(found, dict) and key in found:
             return kind
-    return "unknown"
+    return "nothing" if found is None else "unknown"
 
 
 def check_output(answers, output):
@@ -205,29 +207,17 @@ def check_output(answers, output):
             found_lines.append(json.loads(text))
         except ValueError:
             return [(1, f"the player wrote a line that is no JSON: {text}")]
-    for index, answer in enumerate(answers):
-        if index >= len(found_lines):
-            problems.append((answer.line, f"expected {answer}, found the end of the output"))
-            return problems
-        found = found_lines[index]
-        kind = kind_of(found)
-        same = kind == answer.kind
-        if same and kind == "refused":
-            same = found["refused"].strip() == answer.value
-        elif same and kind == "ended":
-            same = found["ended"] == answer.value
-        if not same:
-            what = "a state" if kind == "state" else show(found)
+    for answer, found in zip_longest(answers, found_lines):
+        what = {"state": "a state", "nothing": "the end of the output"}.get(
+            kind_of(found), show(found))
+        if answer is None:
+            problems.append((answers[-1].line, f"expected nothing more, found {what}"))
+        elif not answer.fits(found):
             problems.append((answer.line, f"expected {answer}, found {what}"))
             return problems  # what follows no longer belongs together
-        for expectation in answer.expectations:
-            problem = expectation.problem(found)
-            if problem:
-                problems.append((expectation.line, problem))
-    for found in found_lines[len(answers):]:
-        line = answers[-1].line
-        what = "a state" if kind_of(found) == "state" else show(found)
-        problems.append((line, f"expected nothing more, found {what}"))
+        else:
+            judged = ((each.line, each.problem(found)) for each in answer.expectations)
+            problems += [(line, problem) for line, problem in judged if problem]
     return problems
 
 
