@@ -4,6 +4,7 @@
 #include "app/window/frm_tarvix.h"
 #include "tests/core/recording_platform.h"
 #include "tests/window_script/script_desk.h"
+#include "ui/form/input_reader.h"
 #include "ui/handlers/densities.h"
 #include "ui/handlers/flow_unit_boxes.h"
 #include "ui/handlers/fluid_options.h"
@@ -13,6 +14,7 @@
 #include "ui/windows/frm_splash.h"
 
 #include <QCoreApplication>
+#include <QImage>
 #include <QMenuBar>
 
 #include <algorithm>
@@ -44,14 +46,16 @@ class KeepingDesk : public ScriptDesk {
         inCustomerWindow = owner.cursor().shape();
         module.MsgResult = prints ? 1 : 2;
     }
-    void PrintPage(QWidget& owner, const ReportPage& /*page*/, const QImage& /*logo*/) override {
+    void PrintPage(QWidget& owner, const ReportPage& /*page*/, const QImage& logo) override {
         inPrinting = owner.cursor().shape();
+        printedLogo = logo;
     }
 
     std::vector<BoxButtons> buttons;
     bool prints = true;
     std::optional<Qt::CursorShape> inCustomerWindow;
     std::optional<Qt::CursorShape> inPrinting;
+    QImage printedLogo;
 };
 
 class FormProceduresTest : public ::testing::Test {
@@ -136,6 +140,25 @@ TEST_F(FormProceduresTest, AnUnknownUnitOfThePipeEndsTheProgram) {
     EXPECT_EQ(FatalBoxOf([this] { cboPipeID_Click(context_); }).text, fatal);
 }
 
+// Positions that the table of a list does not have, and none.
+TEST_F(FormProceduresTest, AListPositionOutsideItsTableEndsTheProgram) {
+    LoadPipes();
+    LoadcboPressUnit(context_);
+    module_.FluidType = "G";
+    const auto fatal = testing::FatalText("List position outside its table.");
+    state_.PressUnitTable = state_.PressUnitTable.first(1);
+    for (const int position : {-1, 1}) {
+        form_.cboPressUnit->setCurrentIndex(position);
+        EXPECT_EQ(FatalBoxOf([this] { ReadInputSheet(context_); }).text, fatal) << position;
+    }
+    form_.cboPressUnit->setCurrentIndex(0);
+    ReadInputSheet(context_);
+    // The user's own pipe stands behind all others.
+    state_.PipeIDTable.pop_back();
+    form_.cboPipeID->setCurrentIndex(form_.cboPipeID->count() - 1);
+    EXPECT_EQ(FatalBoxOf([this] { cboPipeID_Click(context_); }).text, fatal);
+}
+
 TEST_F(FormProceduresTest, ABoxThatOnlySaysSomethingHasOneButton) {
     LoadPipes();
     desk_.QueueAnswer({.ok = true, .text = "0"});
@@ -188,6 +211,7 @@ TEST_F(FormProceduresTest, AMessageIsKept) {
     EXPECT_NE(messageAfter("99999999"), "");
     EXPECT_EQ(form_.lblMsg->palette().color(QPalette::Window), QColor(Qt::red));
     EXPECT_EQ(messageAfter("2"), "");
+    EXPECT_EQ(messageAfter("0.1"), "Warning: Beta value exceeds standard range (0.15 to 0.67).");
 }
 
 // So is that of a density from the table.
@@ -228,6 +252,8 @@ TEST_F(ShownFormTest, ThePointerIsBusyWhileThePageIsPrinted) {
     window_.form().cmdPrint->click();
     EXPECT_EQ(desk_.inCustomerWindow, Qt::ArrowCursor);
     EXPECT_EQ(desk_.inPrinting, Qt::BusyCursor);
+    EXPECT_EQ(desk_.printedLogo,
+              QImage(QString::fromStdString(module_.AppPath) + "BrindleLogo.jpg"));
     EXPECT_EQ(window_.cursor().shape(), Qt::ArrowCursor);
 
     desk_.inPrinting.reset();
