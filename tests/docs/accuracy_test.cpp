@@ -136,7 +136,7 @@ TEST(UnitFactors, WhatIsNoNumberAndNoUnit) {
     EXPECT_THROW(ValueOfText("12x"), std::runtime_error);
     EXPECT_THROW(ValueOfText(""), std::runtime_error);
     EXPECT_THROW((void)UnitFactors(TARVIX_UNITS).Of("press", "furlong"), std::runtime_error);
-    EXPECT_THROW(UnitFactors("no such file"), std::runtime_error);
+    EXPECT_THROW(const UnitFactors none("no such file"), std::runtime_error);
 }
 
 // Re = 4 qm / (pi D mu), in the document's units.
