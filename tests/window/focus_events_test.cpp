@@ -14,7 +14,7 @@ namespace {
 class FocusEventsTest : public PlayerTest {
   protected:
     // The window tells of what happens to its fields until it has gone.
-    ~FocusEventsTest() override { player_.reset(); }
+    void TearDown() override { player_.reset(); }
 
     // Shows the window, and listens to the field where the toolkit tells of it.
     void ListenTo(NumericField& field) {
