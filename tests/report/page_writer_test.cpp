@@ -64,19 +64,19 @@ TEST(PageWriterTest, GoesOnBelowAndBeside) {
     writer.PrintPiece("e");
 
     EXPECT_EQ(PrintedLines(writer.Page()), (std::vector<std::string>{"", "", "abc", "", "d", "e"}));
+    constexpr double kRow12 = 271.875;
+    const ReportLine expected[] = {{"ab", {12}, 0, 2 * kRow12},
+                                   {"c", {8}, 2 * 240 * 0.60009765625, 2 * kRow12},
+                                   {"d", {8}, 0, 2 * kRow12 + 2 * 181.25},
+                                   {"e", {8}, 0, 8000}};
     const std::vector<ReportLine> lines = LinesFrom(writer.Page(), 0);
-    ASSERT_EQ(lines.size(), 4U);
-    EXPECT_EQ(lines[0].text, "ab");
-    EXPECT_EQ(lines[0].xTwips, 0);
-    EXPECT_NEAR(lines[0].yTwips, 2 * 271.875, 1e-6);
-    EXPECT_EQ(lines[1].text, "c");
-    EXPECT_NEAR(lines[1].xTwips, 2 * 240 * 0.60009765625, 1e-6);
-    EXPECT_EQ(lines[1].yTwips, lines[0].yTwips);
-    EXPECT_EQ(lines[1].font.sizePt, 8);
-    EXPECT_EQ(lines[2].text, "d");
-    EXPECT_EQ(lines[2].xTwips, 0);
-    EXPECT_NEAR(lines[2].yTwips, lines[0].yTwips + 2 * 181.25, 1e-6);
-    EXPECT_EQ(lines[3].yTwips, 8000);
+    ASSERT_EQ(lines.size(), std::size(expected));
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        EXPECT_EQ(lines[i].text, expected[i].text);
+        EXPECT_EQ(lines[i].font.sizePt, expected[i].font.sizePt) << lines[i].text;
+        EXPECT_NEAR(lines[i].xTwips, expected[i].xTwips, 1e-6) << lines[i].text;
+        EXPECT_NEAR(lines[i].yTwips, expected[i].yTwips, 1e-6) << lines[i].text;
+    }
 }
 
 TEST(PageWriterTest, OnlyWhatTheCustomerTypedIsMarked) {

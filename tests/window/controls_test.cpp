@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <utility>
 
@@ -67,87 +68,62 @@ TEST_F(EntryLineTest, OnlyThePressThatBringsTheFocusKeepsTheSelection) {
 
 // ---- The arrow keys among options ----
 
-class OptionKeysTest : public ::testing::Test {
-  protected:
-    OptionKeysTest() {
-        for (OptionButton*& option : options_) {
-            option = new OptionButton(&window_);
-        }
-        window_.show();
-        window_.activateWindow();
-        options_[0]->Select();
-        options_[0]->setFocus();
-    }
-
-    // The option that is selected after a key, by its place.
-    int After(Qt::Key key) {
-        QTest::keyClick(window_.focusWidget(), key);
-        for (int i = 0; i < 3; ++i) {
-            if (options_[i]->Value()) {
-                EXPECT_EQ(window_.focusWidget(), options_[i]);
-                return i;
-            }
-        }
-        return -1;
-    }
-
-    QWidget window_;
-    OptionButton* options_[3]{};
-};
-
 // How they go round is seen in the main window.
-TEST_F(OptionKeysTest, PassByWhatCannotBeUsed) {
-    EXPECT_EQ(After(Qt::Key_A), 0) << "other keys do nothing";
-    options_[1]->setEnabled(false);
-    EXPECT_EQ(After(Qt::Key_Down), 2);
-    options_[1]->setEnabled(true);
-    options_[1]->hide();
-    EXPECT_EQ(After(Qt::Key_Up), 0);
-    EXPECT_EQ(After(Qt::Key_Up), 2);
+TEST(OptionKeysTest, PassByWhatCannotBeUsed) {
+    QWidget window;
+    OptionButton* options[] = {new OptionButton(&window), new OptionButton(&window),
+                               new OptionButton(&window)};
+    window.show();
+    window.activateWindow();
+    options[0]->Select();
+    options[0]->setFocus();
+    // The option that is selected after a key, and has the focus.
+    const auto after = [&](Qt::Key key) {
+        QTest::keyClick(window.focusWidget(), key);
+        const auto* selected = std::ranges::find_if(options, &OptionButton::Value);
+        EXPECT_EQ(window.focusWidget(), *selected);
+        return *selected;
+    };
+    EXPECT_EQ(after(Qt::Key_A), options[0]) << "other keys do nothing";
+    options[1]->setEnabled(false);
+    EXPECT_EQ(after(Qt::Key_Down), options[2]);
+    options[1]->setEnabled(true);
+    options[1]->hide();
+    EXPECT_EQ(after(Qt::Key_Up), options[0]);
+    EXPECT_EQ(after(Qt::Key_Up), options[2]);
 }
 
 // ---- The mnemonic of the tab ----
 
-class TabControlTest : public ::testing::Test {
-  protected:
-    TabControlTest() {
-        auto* layout = new QVBoxLayout(&window_);
-        layout->addWidget(&before_);
-        layout->addWidget(&tab_);
-        auto* page = new QWidget;
-        auto* lines = new QVBoxLayout(page);
-        for (QLineEdit*& line : lines_) {
-            line = new QLineEdit(page);
-            lines->addWidget(line);
-        }
-        tab_.addTab(page, "&Tab");
-        window_.show();
-        window_.activateWindow();
-        before_.setFocus();
+TEST(TabControlTest, LeadsToTheFirstControlThatCanBeUsed) {
+    QWidget window;
+    QVBoxLayout inWindow(&window);
+    QLineEdit before;
+    TabControl tab(&window);
+    inWindow.addWidget(&before);
+    inWindow.addWidget(&tab);
+    QWidget page;
+    QVBoxLayout onPage(&page);
+    QLineEdit lines[4];
+    for (QLineEdit& line : lines) {
+        onPage.addWidget(&line);
     }
-
+    tab.addTab(&page, "&Tab");
+    window.show();
+    window.activateWindow();
     // What Alt and the mnemonic do to the row of tabs.
-    QWidget* FocusAfterMnemonic() {
-        auto* bar = tab_.findChild<QTabBar*>();
+    const auto focusAfterMnemonic = [&] {
+        before.setFocus();
         QShortcutEvent shortcut(QKeySequence("Alt+T"), 0);
-        QCoreApplication::sendEvent(bar, &shortcut);
-        return window_.focusWidget();
-    }
-
-    QWidget window_;
-    QLineEdit before_{&window_};
-    TabControl tab_{&window_};
-    QLineEdit* lines_[4]{};
-};
-
-TEST_F(TabControlTest, LeadsToTheFirstControlThatCanBeUsed) {
-    lines_[0]->setEnabled(false);
-    lines_[1]->hide();
-    lines_[2]->setFocusPolicy(Qt::ClickFocus);
-    EXPECT_EQ(FocusAfterMnemonic(), lines_[3]);
-    before_.setFocus();
-    tab_.widget(0)->setEnabled(false);
-    EXPECT_EQ(FocusAfterMnemonic(), &before_);
+        QCoreApplication::sendEvent(tab.findChild<QTabBar*>(), &shortcut);
+        return window.focusWidget();
+    };
+    lines[0].setEnabled(false);
+    lines[1].hide();
+    lines[2].setFocusPolicy(Qt::ClickFocus);
+    EXPECT_EQ(focusAfterMnemonic(), &lines[3]);
+    page.setEnabled(false);
+    EXPECT_EQ(focusAfterMnemonic(), &before);
 }
 
 }  // namespace

@@ -197,36 +197,34 @@ TEST_F(LooksTest, ABoreThatIsNotCurrentIsDimmed) {
           {"click optLiquid", "click optCalcBeta", "type txtSGf 1", "type txtSGb 1",
            "type txtDeltaP 100", "type txtFlow 30"}});
     NumericField& bore = *form().txtOriBoreDia;
-    const auto colors = [&] {
-        return std::pair(bore.palette().color(QPalette::Active, QPalette::Text),
-                         bore.palette().color(QPalette::Active, QPalette::Base));
+    const auto expectLook = [&](bool isResult, const QColor& text, const QColor& base) {
+        ASSERT_NE(bore.text(), "");
+        EXPECT_EQ(bore.font().bold(), isResult);
+        EXPECT_EQ(bore.palette().color(QPalette::Active, QPalette::Text), text);
+        EXPECT_EQ(bore.palette().color(QPalette::Active, QPalette::Base), base);
     };
-    ASSERT_NE(bore.text(), "");
-    EXPECT_TRUE(bore.font().bold());
-    EXPECT_EQ(colors(), std::pair(QColor(Qt::black), QColor(Qt::green)));
-
+    const QColor dimmed("#606060");
+    expectLook(true, Qt::black, Qt::green);
     Play({"", {"type txtFlow 0"}});
     ASSERT_EQ(form().txtBeta->text(), "");
-    ASSERT_NE(bore.text(), "");
     EXPECT_EQ(BackColorOf(bore), BackColor::Green);
-    EXPECT_FALSE(bore.font().bold());
-    EXPECT_EQ(colors().second, QColor(Qt::green));
-    EXPECT_EQ(colors().first, QColor("#606060"));
+    expectLook(false, dimmed, Qt::green);
+    EXPECT_GE(ContrastOf(dimmed, Qt::green), 3);
     const NumericField& closed = *form().txtDensity;
     ASSERT_FALSE(closed.isEnabled());
     EXPECT_EQ(closed.palette().color(QPalette::Disabled, QPalette::Text), QColor("#454545"));
-    EXPECT_GE(ContrastOf(colors().first, Qt::green), 3);
 
     Play({"", {"click optCalcFR"}});
     EXPECT_TRUE(bore.Current()) << "it is an input now";
     EXPECT_EQ(BackColorOf(bore), BackColor::WindowBackground);
-    EXPECT_EQ(colors().first, QGuiApplication::palette().color(QPalette::Text));
+    EXPECT_EQ(bore.palette().color(QPalette::Active, QPalette::Text),
+              QGuiApplication::palette().color(QPalette::Text));
     Play({"", {"type txtBeta x", "click optCalcBeta"}});
     EXPECT_FALSE(bore.Current()) << "beta is empty when the mode begins";
-    EXPECT_FALSE(bore.font().bold());
+    expectLook(false, dimmed, Qt::green);
     Play({"", {"type txtFlow 30"}});
     EXPECT_TRUE(bore.Current());
-    EXPECT_TRUE(bore.font().bold());
+    expectLook(true, Qt::black, Qt::green);
 }
 
 // Where a list is covered, there is only what is around it.

@@ -15,6 +15,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <utility>
+
 namespace tarvix::testing {
 namespace {
 
@@ -67,30 +69,24 @@ const QStringList kSteam = {"click optSteam",
                             "type txtBeta 0.5",
                             "type txtFlow 12500"};
 
-TEST_F(WindowLooksTest, LiquidWithItsPlateWarning) {
-    Play({"", kLiquid});
-    Expect(window(), "liquid");
-}
-
-TEST_F(WindowLooksTest, ABoreOfEarlierEntries) {
-    Play({"", kLiquid + QStringList{"type txtFlow 0"}});
-    Expect(window(), "liquid_dimmed");
-}
-
-TEST_F(WindowLooksTest, GasWithItsCompressibilityWarning) {
-    Play({"", kGas});
-    Expect(window(), "gas");
+// With its warning, with a bore of earlier entries, from the table in the user's own pipe.
+TEST_F(WindowLooksTest, EachFluid) {
+    const std::pair<const char*, QStringList> looks[] = {
+        {"liquid", kLiquid},
+        {"liquid_dimmed", kLiquid + QStringList{"type txtFlow 0"}},
+        {"gas", kGas},
+        {"steam", kSteam}};
+    for (const auto& [picture, actions] : looks) {
+        player_.reset();
+        Play({"", actions});
+        Expect(window(), picture);
+    }
 }
 
 TEST_F(WindowLooksTest, GasOnADarkDesktop) {
     QApplication::setPalette(DarkPalette());
     Play({"", kGas + QStringList{"click optCompDensity", "type txtZf 1.3", "click optCalcBeta"}});
     Expect(window(), "gas_dark");
-}
-
-TEST_F(WindowLooksTest, SteamFromTheTableInTheUsersOwnPipe) {
-    Play({"", kSteam});
-    Expect(window(), "steam");
 }
 
 TEST_F(WindowLooksTest, AMessageOnALargerFont) {
