@@ -3,6 +3,7 @@
 // TARVIX_KEEP_PICTURES=1 makes the kept pictures anew. Look at them before they are committed.
 #pragma once
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QString>
 
@@ -28,8 +29,8 @@ inline int DotsThatDiffer(const QImage& one, const QImage& other, int shades) {
     return dots;
 }
 
-// Fails when more than `strayDots` differ, and leaves what was seen as NAME.png in the folder that
-// the test runs in.
+// Fails when more than `strayDots` differ, and leaves what was seen as NAME.png beside the test's
+// program, wherever it was started.
 inline void ExpectKeptPicture(const QImage& seen, const QString& folder, const QString& name,
                               int shades, int strayDots) {
     const QString file = QString("%1/%2.png").arg(folder, name);
@@ -40,9 +41,10 @@ inline void ExpectKeptPicture(const QImage& seen, const QString& folder, const Q
     const bool sameSize = seen.size() == kept.size();
     const int dots = sameSize ? DotsThatDiffer(seen, kept, shades) : strayDots + 1;
     if (dots > strayDots) {
-        seen.save(name + ".png");
+        const QString left = QString("%1/%2.png").arg(QCoreApplication::applicationDirPath(), name);
+        seen.save(left);
         ADD_FAILURE() << (sameSize ? dots : -1)
-                      << " dots differ; what was seen: " << name.toStdString() << ".png";
+                      << " dots differ; what was seen: " << left.toStdString();
     }
 }
 
