@@ -50,7 +50,16 @@ class ProgramCase(unittest.TestCase):
             shutil.copy(pathlib.Path(TARVIX).parent / name, self.programs / name)
 
     def start(self):
-        return self.desk.spawn(str(self.programs / pathlib.Path(TARVIX).name))
+        process = self.desk.spawn(str(self.programs / pathlib.Path(TARVIX).name))
+        self.end_after_test(process)
+        return process
+
+    def end_after_test(self, process):
+        """A program that a failed test has left must not be taken for that of the next."""
+        def end():
+            process.kill()
+            process.wait(desk.PATIENCE)
+        self.addCleanup(end)
 
     def windows(self, title=TITLE):
         return self.desk.search(f"^{title}$")
@@ -77,7 +86,7 @@ class ProgramCase(unittest.TestCase):
         comes while the window manager is still busy with the window is lost, and pressed again."""
         def has_ended():
             if window in self.main_windows():
-                self.desk.xdotool("windowactivate", "--sync", window)
+                self.desk.activate(window)
                 self.desk.press("alt+F4")
             with contextlib.suppress(subprocess.TimeoutExpired):
                 process.wait(5)
@@ -87,10 +96,10 @@ class ProgramCase(unittest.TestCase):
 
     def ask_to_exit(self, window):
         """Chooses Exit in the menu, which asks whether it shall be."""
-        self.desk.xdotool("windowactivate", "--sync", window)
+        self.desk.activate(window)
         self.desk.press("alt+f")
         self.desk.press("x")
-        desk.wait_until("the question", lambda: self.windows("Program Termination"))
+        self.desk.wait_for_keyboard(self.desk.wait_for_window("^Program Termination$"))
 
     def ended(self, process):
         return process.wait(desk.PATIENCE)
@@ -101,8 +110,10 @@ class LogoFault(ProgramCase):
 
     def start(self):
         os.environ.update(self.desk.environment)
-        import program  # pylint: disable=import-outside-toplevel  (needs the desk's environment)
-        return program.Program(self.desk, str(self.programs / pathlib.Path(TARVIX).name))
+        import program as programs  # pylint: disable=import-outside-toplevel  (needs the environment)
+        program = programs.Program(self.desk, str(self.programs / pathlib.Path(TARVIX).name))
+        self.end_after_test(program.process)
+        return program
 
     def expect_end_without(self, logo, program):
         """A box with the program's name says it."""
@@ -113,6 +124,7 @@ class LogoFault(ProgramCase):
         path = str(self.programs / logo)
         self.assertEqual([text for text in texts if text],
                          [f"Run-time error: File not found: {path}"])
+        program.wait_for_keyboard("push button", "OK")
         self.desk.press("Return")
         self.assertEqual(program.wait_for_end(), 1)
         self.assertEqual(self.windows(), [])

@@ -157,9 +157,23 @@ class Desk:
 
     # The eyes.
 
-    def active_window(self):
-        """The title of the window that has the keyboard."""
-        return self.xdotool("getactivewindow", "getwindowname")
+    def wait_for_window(self, title):
+        """The one window on the screen whose title matches."""
+        def look():
+            windows = self.search(title)
+            return windows[0] if len(windows) == 1 else None
+        return wait_until(f"one window {title}", look)
+
+    def wait_for_keyboard(self, window):
+        """Waits until keys go to a window: a busy window manager gives it the keyboard long after it
+        can be seen, and keys pressed before that are lost."""
+        wait_until(f"the window {window} has the keyboard",
+                   lambda: self.xdotool("getwindowfocus", "-f") == window)
+
+    def activate(self, window):
+        """Brings a window to the front, with the keyboard."""
+        self.xdotool("windowactivate", window)
+        self.wait_for_keyboard(window)
 
     def search(self, title):
         """The windows on the screen whose titles match. The search breaks off without an answer where

@@ -82,8 +82,7 @@ class PaperJourney(printing.PrintingJourney):
     def print_report(self, way):
         """Prints for the same customer; the first time the customer window is empty."""
         way()
-        line = self.program.wait_for("text", "Customer")
-        wait_until("the customer's line has the focus", lambda: line.focused)
+        line = self.program.wait_for_keyboard("text", "Customer")
         for field, text in ((line, "Northfield Refinery"),
                             (self.program.field("Tag"), "FE-4102/B")):
             field.write(text)
@@ -142,6 +141,7 @@ class PaperJourney(printing.PrintingJourney):
             self.print_report(way)
             field = wait_until("the dialog proposes a file", self.proposed_file)
             self.assertEqual(field.text, str(home / name))
+            self.desk.wait_for_keyboard(self.desk.wait_for_window("^Print$"))
             self.desk.press("Return")
             wait_until(f"there is {name}", (home / name).exists)
             wait_until("the dialog is gone", lambda: self.proposed_file() is None)

@@ -37,11 +37,13 @@ class PrintingJourney(journeys.Journey):
         self.program.click(self.program.button("Print"))
 
     def by_menu(self):
+        self.program.wait_for_main_keyboard()
         self.desk.press("alt+f")
         self.program.wait_for("menu item", "Print")
         self.desk.press("p")
 
     def by_key(self):
+        self.program.wait_for_main_keyboard()
         self.desk.press("ctrl+p")
 
     def page_in_printer(self, number, name):

@@ -108,7 +108,7 @@ class Program:
     def wait_for_main_window(self):
         self.application = wait_until("the program on the accessibility bus", self.look_for_it)
         self.wait_for("frame", "Brindle Tarvix", containing=("menu bar", ""))
-        wait_until("the main window has the keyboard", self.focused)
+        self.wait_for_main_keyboard()
 
     def is_running(self):
         assert self.process.poll() is None, f"the program ended: {self.desk.log()}"
@@ -117,10 +117,11 @@ class Program:
     def look_for_it(self):
         self.is_running()
         for application in children(pyatspi.Registry.getDesktop(0)):
-            if application.name == "Tarvix":
-                # Nothing is remembered: what is read is what the program says now.
-                application.setCacheMask(pyatspi.cache.NONE)
-                return application
+            with contextlib.suppress(*GONE):
+                if application.get_process_id() == self.process.pid:
+                    # Nothing is remembered: what is read is what the program says now.
+                    application.setCacheMask(pyatspi.cache.NONE)
+                    return application
         return None
 
     def find_all(self, role, name=None, begins=None, top=None):
@@ -173,6 +174,17 @@ class Program:
                     return control
         return None
 
+    def wait_for_keyboard(self, role, name=None, begins=None):
+        """A control, once the keys go to it. A dialog can be seen before the window manager gives it
+        the keyboard, and keys pressed between are lost."""
+        control = self.wait_for(role, name, begins)
+        wait_until(f"the focus in {name or begins}", lambda: control.focused)
+        return control
+
+    def wait_for_main_keyboard(self):
+        """The main window has the keyboard, again after another has gone."""
+        wait_until("the main window has the keyboard", self.focused)
+
     def message(self):
         """What the message line says; the warnings above it are alerts, too."""
         alerts = self.find_all("alert")
@@ -202,8 +214,7 @@ class Program:
 
     def write_customer(self, text):
         """Types into the first line of the customer window, which has the focus."""
-        line = self.wait_for("text", "Customer")
-        wait_until("the customer's line has the focus", lambda: line.focused)
+        line = self.wait_for_keyboard("text", "Customer")
         self.desk.write(text)
         wait_until(f"'{text}' in the customer's line", lambda: line.text == text)
         return line

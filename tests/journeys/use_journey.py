@@ -137,12 +137,13 @@ class UseJourney(journeys.Journey):
         pipes = self.program.list("Pipe ID and schedule")
         pipes.take_focus()
         self.desk.press("End")
-        self.program.wait_for("text", begins="Enter a Pipe ID")
+        self.program.wait_for_keyboard("text", begins="Enter a Pipe ID")
         self.desk.write("4")
         self.desk.press("Return")
         user_entered = 'Pipe ID and schedule: 4.000" (User Entered)'
         wait_until("the user's pipe", lambda: pipes.name == user_entered)
         self.assertEqual(self.program.find_all("combo box", begins="Nominal Size"), [])
+        self.program.wait_for_main_keyboard()
         for button in (1, 3, 4, 5):
             self.desk.xdotool("mousemove", *middle, "click", button)
         self.desk.press("Down", "Down")
@@ -185,7 +186,7 @@ class UseJourney(journeys.Journey):
         self.desk.press("Escape")
         wait_until("the menu is closed", lambda: not self.program.find_all("menu item", "Exit"))
         self.desk.press("Escape", "ctrl+q")
-        self.program.button("OK")
+        self.program.wait_for_keyboard("push button", "OK")
         self.desk.press("Return")
         self.assertEqual(self.program.wait_for_end(), 0)
 
@@ -199,8 +200,7 @@ class UseJourney(journeys.Journey):
         self.program.write_customer("Northfield")
         self.desk.press("Return")
         # Without a printer, a dialog offers a file.
-        wait_until("the window is gone and the print dialog there", lambda: self.desk.search(
-            "^Print$"))
+        self.desk.wait_for_window("^Print$")
 
     # ---- The nominal sizes in a comma system ----
 
