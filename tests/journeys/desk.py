@@ -208,6 +208,15 @@ class Desk:
         return [int(re.search(rf"{what}: +(-?\d+)", info).group(1)) for what in (
             "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
 
+    def frame_of(self, window):
+        """Left, top, right and bottom of a window with what the window manager adds to it."""
+        left, top, width, height = self.place_of(window)
+        west = east = north = south = 0
+        if self.window_manager:
+            extents = self.ask("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS")
+            west, east, north, south = (int(side) for side in extents.split("=")[1].split(","))
+        return left - west, top - north, left + width + east, top + height + south
+
     def take_picture(self, file):
         subprocess.run(["import", "-window", "root", str(file)], env=self.environment,
                        timeout=PATIENCE, check=True)

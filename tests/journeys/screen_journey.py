@@ -8,7 +8,6 @@ Where the desktop can't be set up, the journey says so and ends with exit status
 """
 
 import os
-import re
 import subprocess
 import sys
 import tempfile
@@ -29,21 +28,8 @@ def check(what, is_so):
         raise AssertionError(what)
 
 
-def ask(desk, *command):
-    return subprocess.run(command, env=desk.environment, text=True, capture_output=True,
-                          check=True).stdout
-
-
 def window_frame(desk):
-    """Left, top, right and bottom of the window with what the window manager adds to it."""
-    window = desk.xdotool("getactivewindow")
-    info = ask(desk, "xwininfo", "-id", window)
-    left, top, width, height = (
-        int(re.search(rf"{what}: +(-?\d+)", info).group(1))
-        for what in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-    extents = ask(desk, "xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS").split("=")[1]
-    west, east, north, south = (int(extent) for extent in extents.split(","))
-    return left - west, top - north, left + width + east, top + height + south
+    return desk.frame_of(desk.xdotool("getactivewindow"))
 
 
 def size_of(frame):
@@ -62,22 +48,20 @@ def fits(desk, program, width, height):
           left >= 0 and top >= 0 and right <= width and bottom <= height)
     check("it is centered", abs(left + right - width) <= 2 and abs(top + bottom - height) <= 40)
     check("there are no scroll bars", scroll_bars(program) == [])
-    icon = ask(desk, "xprop", "-id", desk.xdotool("getactivewindow"), "_NET_WM_ICON")
+    icon = desk.ask("xprop", "-id", desk.xdotool("getactivewindow"), "_NET_WM_ICON")
     check("the window has an icon for title bars", "Icon (48 x 48)" in icon)
     message = max(program.find_all("alert"), key=lambda alert: alert.place.y).place
     check("the message line, which is the last, is on the screen",
           message.y + message.height <= bottom)
-
-
     keeps_a_size(desk, program)
 
 
 def keeps_a_size(desk, program):
     """No button to maximize is asked for; where the window manager maximizes all the same, that changes
     nothing. Made as small as can be, the window still shows a frame and the message line."""
-    window = desk.xdotool("getactivewindow").strip()
+    window = desk.xdotool("getactivewindow")
     whole = window_frame(desk)
-    hints = ask(desk, "xprop", "-id", window, "-notype", "_MOTIF_WM_HINTS").split("=")[1]
+    hints = desk.ask("xprop", "-id", window, "-notype", "_MOTIF_WM_HINTS").split("=")[1]
     _, functions, decorations, *_ = (int(word, 16) for word in hints.split(","))
     check("it asks for a button to minimize and for none to maximize",
           functions & 0x18 == 0x08 and decorations & 0x60 == 0x20)
@@ -91,8 +75,8 @@ def keeps_a_size(desk, program):
     # maximized.
     wait_until("the window is moved", has_moved)
     wait_until("after a double click the window is as large as it was, and not maximized",
-               lambda: size_of(window_frame(desk)) == size_of(whole) and "MAXIMIZED" not in ask(
-                   desk, "xprop", "-id", window, "-notype", "_NET_WM_STATE"))
+               lambda: size_of(window_frame(desk)) == size_of(whole) and (
+                   "MAXIMIZED" not in desk.ask("xprop", "-id", window, "_NET_WM_STATE")))
     desk.xdotool("windowsize", window, 1, 1)
     wait_until("the window is smaller",
                lambda: size_of(window_frame(desk)) != size_of(whole))

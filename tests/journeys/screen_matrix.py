@@ -39,7 +39,7 @@ class Places:
                        r"(?:, \((-?\d+),(-?\d+)\), width (\d+), height (\d+))?", re.S)
 
     def __init__(self, desk):
-        self.log = pathlib.Path(desk.folder) / f"places.log"
+        self.log = pathlib.Path(desk.folder) / "places.log"
         with open(self.log, "wb") as output:
             self.process = subprocess.Popen(
                 ["stdbuf", "-oL", "xev", "-root", "-event", "substructure", "-event", "property"],
@@ -90,17 +90,6 @@ class Window:
         return status
 
 
-def frame_on(desk):
-    """Left, top, right and bottom of the window, with what the window manager adds."""
-    window = desks.wait_until("the window", lambda: desk.search("^Brindle Tarvix$"))[-1]
-    left, top, width, height = desk.place_of(window)
-    west = east = north = south = 0
-    if desk.window_manager:
-        extents = desk.ask("xprop", "-id", window, "-notype", "_NET_FRAME_EXTENTS")
-        west, east, north, south = (int(side) for side in extents.split("=")[1].split(","))
-    return left - west, top - north, left + width + east, top + height + south
-
-
 def faults_of(measured, frame, screen, scale):
     """What is wrong with the window as it has opened."""
     left, top, right, bottom = frame
@@ -139,7 +128,7 @@ def check(desk, file, screen, scale, dpi, picture):
                            "QT_SCALE_FACTOR": str(scale), "QT_FONT_DPI": str(dpi)})
     try:
         window.ask("measure")  # answered when it is on the screen
-        frame = frame_on(desk)
+        frame = desk.frame_of(desk.wait_for_window("^Brindle Tarvix$"))
         measured = window.ask("measure")
         faults = faults_of(measured, frame, screen, scale)
         faults += [f"jumps: {jump}" for jump in places.jumps()]
