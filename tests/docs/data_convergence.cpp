@@ -116,28 +116,28 @@ void PrintDiffPressureEnds(const Way& way) {
     }
 }
 
-enum class Found { None, Some, All };
+constexpr int kLowPressureRuns = 25;
 
-// Of the differential pressures from a dp/p of 0.01 to 0.25.
-Found FoundAt(const Way& way, float beta, double psia) {
+// How many of the runs of a dp/p from 0.01 to 0.25 get their differential pressure back.
+int FoundAt(const Way& way, float beta, double psia) {
     int found = 0;
-    for (int percent = 1; percent <= 25; ++percent) {
-        if (IsFound(ThereAndBack(way, SolveFor::DiffPressure, beta, InchesOf(percent / 100.0, psia),
-                                 static_cast<float>(psia)))) {
-            ++found;
-        }
+    for (int percent = 1; percent <= kLowPressureRuns; ++percent) {
+        found += IsFound(ThereAndBack(way, SolveFor::DiffPressure, beta,
+                                      InchesOf(percent / 100.0, psia), static_cast<float>(psia)))
+                     ? 1
+                     : 0;
     }
-    return found == 25 ? Found::All : found == 0 ? Found::None : Found::Some;
+    return found;
 }
 
 void PrintLowPressure(const Way& way) {
     for (const float beta : {0.2F, 0.5F, 0.67F, 0.75F}) {
         int all = 300;
-        while (all > 1 && FoundAt(way, beta, (all - 1) / 100.0) == Found::All) {
+        while (all > 1 && FoundAt(way, beta, (all - 1) / 100.0) == kLowPressureRuns) {
             --all;
         }
         int none = 1;
-        while (none < all && FoundAt(way, beta, none / 100.0) == Found::None) {
+        while (none < all && FoundAt(way, beta, none / 100.0) == 0) {
             ++none;
         }
         std::printf("lowpressure\t%s\t%.2f\t%.2f\t%.2f\n", way.name, double{beta}, none / 100.0,
