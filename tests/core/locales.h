@@ -13,7 +13,4 @@ inline const NumberLocale kIndia{'.', ",", 3, 2, 1};
 inline const NumberLocale kSpain{',', ".", 3, 3, 2};
 inline const NumberLocale kUngrouped{'.', "", 3, 3, 1};
 
-inline const NumberLocale kEveryLocale[] = {kUnitedStates, kGermany, kFrance,   kSwitzerland,
-                                            kIndia,        kSpain,   kUngrouped};
-
 }  // namespace tarvix::testing

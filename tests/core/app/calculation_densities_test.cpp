@@ -101,6 +101,8 @@ const SteamDensityRow kSteamDensityRows[] = {
     {"ZeroPsig",            "0",      "PSI", false, kLb, "0.03738", ""},
     {"AtmosphereAbsolute",  "14.7",   "PSI", true,  kLb, "0.03738", ""},
     {"HundredPsia",         "114.7",  "PSI", true,  kLb, "0.25704", ""},
+    {"AfterARowOutOfLine",  "386",    "PSI", false, kLb, "0.85466", ""},
+    {"WideRows",            "2400",   "PSI", false, kLb, "7.26260", ""},
     {"LastRow",             "3000",   "PSI", false, kLb, "11.86182", ""},
     {"LastRowAbsolute",     "3,014.7", "PSI", true, kLb, "11.86182", ""},
     {"Metric",              "100",    "PSI", false, kKg, "4.11738", ""},

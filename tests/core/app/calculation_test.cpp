@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <tuple>
 
 namespace tarvix::testing {
 namespace {
@@ -158,8 +159,6 @@ TEST_F(CalculationTest, ALiquidFlowTooHighForThePipe) {
     sheet.flow = "100000";
     ExpectResult(sheet, "",
                  "Flow rate is out of range (beta > 0.95). Flow rate too high for pipe size.");
-    sheet.flow = "0.00000000001";
-    ExpectResult(sheet, "", "Flow rate is out of range (beta <= 0.0).");
 }
 
 TEST_F(CalculationTest, APipeWithoutDiameterGivesNothing) {
@@ -174,38 +173,17 @@ TEST_F(CalculationTest, APipeWithoutDiameterGivesNothing) {
     }
 }
 
-TEST_F(CalculationTest, AMissingCalculatedGravityGivesNothing) {
-    for (const SolveFor mode : kModes) {
-        InputSheet sheet = LiquidSheet(mode);
-        sheet.sgCalculated = true;
-        sheet.density = "60";
-        sheet.sgf = "";
-        ExpectResult(sheet, "");
-    }
-}
-
-TEST_F(CalculationTest, EachFluidHasItsOwnCheck) {
-    InputSheet sheet = LiquidSheet();
-    sheet.sgf = "";
-    ExpectBad(sheet, "Incomplete fluid data (Flowing Specific Gravity).");
-    sheet = SteamSheet();
-    sheet.pf = "";
-    ExpectBad(sheet, "Incomplete fluid data (Operating Pressure).");
-    sheet = GasSheet();
-    sheet.pf = "";
-    ExpectBad(sheet, "Incomplete fluid data (Op. Pressure).");
-}
-
+// Each fluid has its own check; that of the run follows a good one only.
 TEST_F(CalculationTest, TheOrificeCheckFollowsAGoodFluidCheckOnly) {
-    for (const auto sheetOf : kFluidSheets) {
-        InputSheet sheet = sheetOf(SolveFor::FlowRate);
+    for (auto [sheet, entry, missing] :
+         {std::tuple{LiquidSheet(), &InputSheet::sgf, "Flowing Specific Gravity"},
+          std::tuple{SteamSheet(), &InputSheet::pf, "Operating Pressure"},
+          std::tuple{GasSheet(), &InputSheet::pf, "Op. Pressure"}}) {
         sheet.deltaP = "";
         ExpectBad(sheet, "Incomplete or Non-Numeric fluid data (Differential Pressure).");
+        sheet.*entry = "";
+        ExpectBad(sheet, "Incomplete fluid data (" + std::string(missing) + ").");
     }
-    InputSheet sheet = LiquidSheet();
-    sheet.sgf = "";
-    sheet.deltaP = "";
-    ExpectBad(sheet, "Incomplete fluid data (Flowing Specific Gravity).");
 }
 
 TEST_F(CalculationTest, AnUnknownFluidEndsTheProgram) {

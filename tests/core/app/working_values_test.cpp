@@ -19,57 +19,36 @@ std::vector<float> ValuesOf(const WorkingValues& working) {
 
 class WorkingValuesTest : public SheetTest {
   protected:
-    // The sheet, checked after kBefore, is good and leaves `expected`.
-    template <typename Check>
-    void ExpectStored(Check check, const InputSheet& sheet, const WorkingValues& expected) {
-        const CheckResult result = check(sheet, kBefore, module);
-        EXPECT_EQ(result.status(), kDataGood) << result.message;
-        EXPECT_EQ(ValuesOf(result.working), ValuesOf(expected));
+    // What the checks of a sheet leave after kBefore, in the order of ValuesOf.
+    void ExpectStored(const InputSheet& sheet, const std::vector<float>& expected,
+                      int status = kDataGood) {
+        const CheckResult result = CheckInputs(sheet, kBefore, module);
+        EXPECT_EQ(result.status(), status) << result.message;
+        EXPECT_EQ(ValuesOf(result.working), expected);
     }
-    template <typename Check>
-    void ExpectLeft(Check check, const InputSheet& sheet) {
-        const CheckResult result = check(sheet, kBefore, module);
-        EXPECT_EQ(result.status(), kDataBad);
-        EXPECT_EQ(ValuesOf(result.working), ValuesOf(kBefore));
-    }
+    void ExpectLeft(const InputSheet& sheet) { ExpectStored(sheet, ValuesOf(kBefore), kDataBad); }
 };
 
-TEST_F(WorkingValuesTest, StatusesAndPressure) {
+TEST_F(WorkingValuesTest, StartAtZero) {
+    EXPECT_EQ(ValuesOf(module.working), std::vector<float>(8));
     EXPECT_EQ(kDataGood, 1);
     EXPECT_EQ(kDataBad, 2);
-    EXPECT_EQ(kAtmosphericPressurePsi, 14.7F);
 }
 
 TEST_F(WorkingValuesTest, OfALiquid) {
     InputSheet sheet = LiquidSheet();
     sheet.sgf = "0.82";
     sheet.sgb = "0.85";
-    WorkingValues expected = kBefore;
-    expected.FlowingSG = 0.82F;
-    expected.BaseSG = 0.85F;
-    ExpectStored(DataChkLiquid, sheet, expected);
+    ExpectStored(sheet, {0.82F, 0.85F, 3, 4, 5, 6, 7, 8});
     sheet.sgbVisible = false;
-    expected.BaseSG = kBefore.BaseSG;
-    ExpectStored(DataChkLiquid, sheet, expected);
+    ExpectStored(sheet, {0.82F, 2, 3, 4, 5, 6, 7, 8});
     // A calculated gravity that is not there counts as zero.
     sheet.sgCalculated = true;
     sheet.density = "60";
     sheet.sgf = "";
-    expected.FlowingSG = 0;
-    ExpectStored(DataChkLiquid, sheet, expected);
+    ExpectStored(sheet, {0, 2, 3, 4, 5, 6, 7, 8});
     sheet.density = "0";
-    ExpectLeft(DataChkLiquid, sheet);
-}
-
-TEST_F(WorkingValuesTest, OfALiquidInTheLocale) {
-    Module1 german(platform, kGermany);
-    InputSheet sheet = LiquidSheet();
-    sheet.sgf = {"0,82", kGermany};
-    sheet.sgb = {"0.85", kGermany};
-    EXPECT_EQ(DataChkLiquid(sheet, {}, german).message,
-              "Non-Numeric fluid data (Base Specific Gravity).");
-    sheet.sgb = {"0,85", kGermany};
-    EXPECT_EQ(DataChkLiquid(sheet, {}, german).working.FlowingSG, 0.82F);
+    ExpectLeft(sheet);
 }
 
 TEST_F(WorkingValuesTest, OfSteam) {
@@ -78,65 +57,33 @@ TEST_F(WorkingValuesTest, OfSteam) {
     sheet.densityUnit = UnitNamed(kDensityUnits, "kg/cubic meter");
     sheet.pf = "700";
     sheet.density = "4.1";
-    WorkingValues expected = kBefore;
-    expected.OperPress = 700.0F * 0.1450378F;
-    expected.BasePress = 14.7F;
-    expected.OperDensity = 4.1F * 0.06242798F;
-    ExpectStored(DataChkSteam, sheet, expected);
+    ExpectStored(sheet, {1, 2, 3, 4, 700.0F * 0.1450378F, 14.7F, 4.1F * 0.06242798F, 8});
     sheet.density = "0";
-    ExpectLeft(DataChkSteam, sheet);
+    ExpectLeft(sheet);
 }
 
 // The correction decides what the third entry of a gas is.
 TEST_F(WorkingValuesTest, OfAGas) {
-    InputSheet sheet = GasSheet();
-    sheet.tf = "75.5";
-    sheet.gasSGb = "0.6";
-    sheet.pressUnit = UnitNamed(kPressUnits, "bar");
-    sheet.pf = "7";
-    WorkingValues expected = kBefore;
-    expected.FlowTempF = 75.5F;
-    expected.BaseTempF = 60.0F;
-    expected.BaseSG = 0.6F;
-    expected.OperPress = 7.0F * 14.5039F;
-    expected.BasePress = 14.7F;
-    ExpectStored(DataChkGas, sheet, expected);
-
-    sheet.compCorrection = CompCorrection::Zf;
-    sheet.zfVisible = true;
-    sheet.zf = "0.9";
-    expected.UserZf = 0.9F;
-    ExpectStored(DataChkGas, sheet, expected);
-
-    sheet.compCorrection = CompCorrection::Density;
-    sheet.zf = "10";
-    sheet.zfDensityUnit = UnitNamed(kDensityUnits, "kg/cubic meter");
-    sheet.densityUnit = {"none of its business", 1000.0F};
-    expected.UserZf = kBefore.UserZf;
-    expected.OperDensity = 0.6242798F;
-    ExpectStored(DataChkGas, sheet, expected);
-
-    sheet.gasSGbVisible = false;
-    expected.BaseSG = kBefore.BaseSG;
-    ExpectStored(DataChkGas, sheet, expected);
-    sheet.zf = "0";
-    ExpectLeft(DataChkGas, sheet);
-}
-
-TEST_F(WorkingValuesTest, OfAGasInCelsius) {
+    constexpr float kPsi = 7.0F * 14.5039F;
     InputSheet sheet = GasSheet();
     sheet.degC = true;
     sheet.tf = "100";
-    EXPECT_EQ(DataChkGas(sheet, {}, module).working.FlowTempF, 212.0F);
-    sheet.tf = "-40";
-    EXPECT_EQ(DataChkGas(sheet, {}, module).working.FlowTempF, -40.0F);
-}
-
-TEST_F(WorkingValuesTest, OfTheRunAreNone) {
-    const auto check = [](const InputSheet& sheet, const WorkingValues& before, Module1&) {
-        return OrificeDataCheck(sheet, before);
-    };
-    ExpectStored(check, LiquidSheet(SolveFor::Beta), kBefore);
+    sheet.gasSGb = "0.6";
+    sheet.pressUnit = UnitNamed(kPressUnits, "bar");
+    sheet.pf = "7";
+    ExpectStored(sheet, {1, 0.6F, 212, 60, kPsi, 14.7F, 7, 8});
+    sheet.compCorrection = CompCorrection::Zf;
+    sheet.zfVisible = true;
+    sheet.zf = "0.9";
+    ExpectStored(sheet, {1, 0.6F, 212, 60, kPsi, 14.7F, 7, 0.9F});
+    sheet.compCorrection = CompCorrection::Density;
+    sheet.gasSGbVisible = false;
+    sheet.zf = "10";
+    sheet.zfDensityUnit = UnitNamed(kDensityUnits, "kg/cubic meter");
+    sheet.densityUnit = {"none of its business", 1000.0F};
+    ExpectStored(sheet, {1, 2, 212, 60, kPsi, 14.7F, 0.6242798F, 8});
+    sheet.zf = "0";
+    ExpectLeft(sheet);
 }
 
 TEST(BetaRangeTest, TheBoundsAreInsideAndSingles) {

@@ -35,30 +35,6 @@ TEST(SteamTableTest, ARowGivesItsOwnDensity) {
     }
 }
 
-TEST(SteamTableTest, BetweenRowsItIsInterpolated) {
-    struct Point {
-        const char* name;
-        float pressure;
-        double density;  // by hand: d1 + (p - p1) (d2 - d1) / (p2 - p1)
-    };
-    for (const auto& [name, pressure, density] : {
-             Point{"first half", 0.5F, 0.038565},
-             Point{"nearest above", 0.75F, 0.0391575},
-             Point{"falling part", 67.5F, 0.184565},
-             Point{"falling near the upper row", 67.75F, 0.1836025},
-             Point{"rising again", 68.5F, 0.186715},
-             Point{"near 105 from below", 104.0F, 0.265544},
-             Point{"before 385", 384.0F, 0.850366},
-             Point{"after 385", 386.0F, 0.854664},
-             Point{"near 525 from below", 524.0F, 1.162904},
-             Point{"wide rows, lower", 2100.0F, 5.850012},
-             Point{"wide rows, upper", 2400.0F, 7.262598},
-             Point{"half-way to 3000", 2750.0F, 9.79764},
-         }) {
-        EXPECT_NEAR(double{DensityAt(pressure)}, density, density * 2e-7) << name;
-    }
-}
-
 // Half-way between two rows the lower one is the nearest; it shows in the last place only.
 TEST(SteamTableTest, OnATieTheLowerRowIsTheNearest) {
     int told = 0;

@@ -161,11 +161,5 @@ const ReadRow kNoNumberRows[] = {
 INSTANTIATE_TEST_SUITE_P(Numbers, NumberAsRead, ::testing::ValuesIn(kNumberRows), kRowName);
 INSTANTIATE_TEST_SUITE_P(Others, NumberAsRead, ::testing::ValuesIn(kNoNumberRows), kRowName);
 
-TEST(NumberTextRead, ATextWithoutGroupsIsReadInEveryLocale) {
-    for (const NumberLocale& locale : kEveryLocale) {
-        EXPECT_EQ(TextToSingle("1234567", locale), 1234567.0F);
-    }
-}
-
 }  // namespace
 }  // namespace tarvix::testing
