@@ -141,34 +141,24 @@ TEST_P(DataCheck, AGoodSheetIsGood) {
     EXPECT_EQ(Says(With({{other, "x"}}, other.field)), "");
 }
 
-TEST_P(DataCheck, AnEmptyEntryIsNamed) {
+// About the whole set, and while it is being edited.
+TEST_P(DataCheck, ABadEntryIsNamed) {
     for (const Entry& entry : row.required) {
-        EXPECT_EQ(Says(With({{entry, ""}})), Empty(entry.name));
-        EXPECT_EQ(Says(With({{entry, ""}}, entry.field)), Empty(entry.name));
-    }
-}
-
-TEST_P(DataCheck, AnEntryThatIsNoNumberIsNamed) {
-    for (const Entry& entry : row.required) {
+        const auto expect = [&](const char* text, const std::string& whole,
+                                const std::string& edited) {
+            EXPECT_EQ(Says(With({{entry, text}})), whole) << text;
+            EXPECT_EQ(Says(With({{entry, text}}, entry.field)), edited) << text;
+        };
+        expect("", Empty(entry.name), Empty(entry.name));
         for (const char* text : {"x", "1..2", "1 2", " ", "1e60"}) {
-            EXPECT_EQ(Says(With({{entry, text}})), NotNumeric(entry.name)) << text;
-            EXPECT_EQ(Says(With({{entry, text}}, entry.field)), EditedNotNumeric(entry.name))
-                << text;
+            expect(text, NotNumeric(entry.name), EditedNotNumeric(entry.name));
         }
-    }
-}
-
-TEST_P(DataCheck, AnEntryOfZeroOrLessIsNamedWhereItMatters) {
-    for (const Entry& entry : row.required) {
+        const bool positive = entry.rule == Rule::Positive;
         for (const char* text : {"0", "-0.5", "1e-60"}) {
-            const bool bad = entry.rule == Rule::Positive;
-            EXPECT_EQ(Says(With({{entry, text}})), bad ? TooSmall(entry.name) : "") << text;
-            EXPECT_EQ(Says(With({{entry, text}}, entry.field)),
-                      bad ? EditedTooSmall(entry.name) : "")
-                << text;
+            expect(text, positive ? TooSmall(entry.name) : "",
+                   positive ? EditedTooSmall(entry.name) : "");
         }
-        EXPECT_EQ(Says(With({{entry, "1e-44"}})), "");
-        EXPECT_EQ(Says(With({{entry, "1e-44"}}, entry.field)), "");
+        expect("1e-44", "", "");
     }
 }
 
