@@ -85,19 +85,6 @@ inline InputSheet GasSheet(SolveFor mode = SolveFor::FlowRate) {
     return sheet;
 }
 
-// Runs the checks of a sheet and keeps what they find, as the window does. Returns the status.
-inline int CheckAndKeep(const InputSheet& sheet, Module1& module) {
-    const CheckResult result = CheckInputs(sheet, module.working, module);
-    module.working = result.working;
-    module.MsgText = result.message;
-    return result.status();
-}
-
-// Solves a sheet from what its checks have found.
-inline CalculationResult Solved(const InputSheet& sheet, Module1& module) {
-    return CalculateResult(sheet, module.working, module);
-}
-
 class SheetTest : public ::testing::Test {
   protected:
     // Runs a check; its result and message must fit together.

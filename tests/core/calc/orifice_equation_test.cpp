@@ -12,12 +12,6 @@ namespace {
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
-TEST(OrificeEquationTest, ConstantsToTheLastBit) {
-    EXPECT_EQ(double{kDischargeCoefficient}, 0.6000000238418579) << "a single";
-    EXPECT_EQ(kBaseAirDensityNumerator, 39.6619322);
-    EXPECT_EQ(kBaseAirDensityDenominator, 519.67);
-}
-
 TEST(OrificeEquationTest, FlowWithinItsLimits) {
     ExpectValue(FlowWithinLimits(142.28693F), 142.28693F);
     ExpectValue(FlowWithinLimits(999999999.0F), 999999999.0F);

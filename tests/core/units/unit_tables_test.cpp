@@ -42,15 +42,6 @@ TEST(UnitTablesTest, AreTheListedOnesEntryByEntry) {
     ExpectSameUnits(FlowUnitsOf(Fluid::Gas).units, "flow G");
 }
 
-TEST(UnitTablesTest, EachFluidHasItsDefaults) {
-    EXPECT_EQ(FlowUnitsOf(Fluid::Liquid).defaultFlowUnit, "Gallons");
-    EXPECT_EQ(FlowUnitsOf(Fluid::Liquid).defaultTimeUnit, "Minute");
-    EXPECT_EQ(FlowUnitsOf(Fluid::Steam).defaultFlowUnit, "Pounds");
-    EXPECT_EQ(FlowUnitsOf(Fluid::Steam).defaultTimeUnit, "Hour");
-    EXPECT_EQ(FlowUnitsOf(Fluid::Gas).defaultFlowUnit, "Standard Cubic Feet");
-    EXPECT_EQ(FlowUnitsOf(Fluid::Gas).defaultTimeUnit, "Day");
-}
-
 TEST(UnitTablesTest, AFluidHasACodeOfOneCapitalLetter) {
     EXPECT_EQ(FluidOf("L"), Fluid::Liquid);
     EXPECT_EQ(FluidOf("S"), Fluid::Steam);
@@ -58,12 +49,6 @@ TEST(UnitTablesTest, AFluidHasACodeOfOneCapitalLetter) {
     for (const char* code : {"", "l", "g", "s", "LG", "X", " L"}) {
         EXPECT_EQ(FluidOf(code), std::nullopt) << code;
     }
-}
-
-TEST(UnitTablesTest, LengthUnitNamesAreThoseOfTheTable) {
-    EXPECT_EQ(kLengthUnits[0].text, kInches);
-    EXPECT_EQ(kLengthUnits[1].text, kMillimeters);
-    EXPECT_EQ(kLengthUnits[2].text, kCentimeters);
 }
 
 }  // namespace
