@@ -82,8 +82,8 @@ TEST(Accuracy, WhatIsSolvedCarriesTheStandardsFlow) {
                                           static_cast<float>(diffPress), static_cast<float>(beta)};
                     return double{Solve(point.fluid, run).value.value()};
                 };
-                const double beta = double{point.beta};
-                const double drop = double{point.diffPressInH2O};
+                const auto beta = double{point.beta};
+                const auto drop = double{point.diffPressInH2O};
                 EXPECT_NEAR(flowOf(c.solvedDiffPress, beta) / c.standard, 1, 3e-6);
                 // Beta has 5 decimals: half of the last one, times the slope of the flow.
                 const double slope = 2 / (1 - std::pow(beta, 4));

@@ -40,6 +40,21 @@ TEST(Iso5167, CoefficientTermByTerm) {
                 0.60809355, 2e-8);
 }
 
+TEST(Iso5167, LimitsOfFlangeTaps) {
+    using iso5167::IsWithinFlangeTapLimits;
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.5, 100, 5000));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 100, 4999));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.25, 50, 1e5));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.249, 50, 1e5));  // a bore below 12.5 mm
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 49.9, 1e5));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.75, 1000, 1e6));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 1000.1, 1e5));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.751, 1000, 1e6));
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.099, 1000, 1e6));
+    EXPECT_TRUE(IsWithinFlangeTapLimits(0.5, 400, 17001));  // 170 x 0.25 x 400 = 17000
+    EXPECT_FALSE(IsWithinFlangeTapLimits(0.5, 400, 16999));
+}
+
 // The older equation differs by a little, more towards the critical point.
 TEST(If97, VaporDensityAgreesWithTheOlderEquation) {
     for (int kelvin = 300; kelvin <= 642; kelvin += 3) {

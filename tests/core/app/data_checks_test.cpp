@@ -159,6 +159,9 @@ TEST_P(DataCheck, ABadEntryIsNamed) {
                    positive ? EditedTooSmall(entry.name) : "");
         }
         expect("1e-44", "", "");
+        if (entry.rule == Rule::AnyNumber) {
+            expect("-1000", "", "");  // below absolute zero: for the equation to refuse
+        }
     }
 }
 
