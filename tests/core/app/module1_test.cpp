@@ -110,7 +110,6 @@ const ScaleRow kScaleRows[] = {
     {"MinusThousands",       -1234.5F,         "-1,234.5000", "-1,234.500000", "-1234.500000"},
     {"MinusTooSmallToShow",  -0.0000001F,      "0.0000",    "0.000000",  "0.000000"},
     {"Infinity",             kSingleInfinity, "", "", ""},
-    {"MinusInfinity",        -kSingleInfinity, "", "", ""},
     {"NotANumber",           std::numeric_limits<float>::quiet_NaN(), "", "", ""},
 };
 // clang-format on

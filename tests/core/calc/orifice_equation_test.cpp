@@ -53,5 +53,11 @@ TEST(OrificeEquationTest, ASolvedBetaLiesAboveZeroAndUpTo95Hundredths) {
     ExpectNothing(BetaOfClosedForm(double{kNaN}));
 }
 
+TEST(OrificeEquationTest, AnInfinityOrNaNIsNoValue) {
+    for (const float value : {kInfinity, -kInfinity, kNaN}) {
+        ExpectNothing(Outcome::Value(value));
+    }
+}
+
 }  // namespace
 }  // namespace tarvix::testing
