@@ -36,13 +36,6 @@ class FocusEventsTest : public PlayerTest {
     std::vector<bool> told_;
 };
 
-TEST_F(FocusEventsTest, TheCaretOfAFieldThatWasNeverVisitedIsNotTold) {
-    ListenTo(*form().txtTf);
-    form().txtTf->setFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(form().txtTf->hasFocus());
-    ExpectNothingTold();
-}
-
 TEST_F(FocusEventsTest, TheSelectionThatComesAndGoesWithTheFocusIsNotTold) {
     NumericField& field = *form().txtDeltaP;
     Play({"click optCalcFR"});

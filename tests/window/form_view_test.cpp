@@ -93,22 +93,11 @@ TEST_F(FormViewTest, KeepsTheFocusInSight) {
     EXPECT_EQ(down().value(), 0);
 }
 
-// The form fills what the footer leaves, to the edges, where nothing scrolls.
-TEST_F(FormViewTest, LosesNoRoom) {
-    view_.footer().setMinimumHeight(30);
-    view_.resize(600, 500);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(view_.scrollArea().geometry(), QRect(0, 0, 600, 470));
-    EXPECT_EQ(view_.scrollArea().viewport()->geometry(), QRect(0, 0, 600, 470));
-    EXPECT_EQ(view_.canvas().geometry(), QRect(0, 0, 600, 470));
-    EXPECT_EQ(view_.footer().geometry(), QRect(0, 470, 600, 30));
-}
-
 // ---- The smallest window ----
 
 // A frame with the margins around it, and one line of the text below, besides the message line.
 TEST_F(LayoutTest, TheSmallestWindowShowsAFrameAndTheMessage) {
-    Play({"", {"click optGas"}});
+    Play({"click optGas"});
     window().resize(window().minimumSize());
     Settle();
     EXPECT_EQ(window().size(), window().minimumSize());

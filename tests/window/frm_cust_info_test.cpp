@@ -6,14 +6,11 @@
 #include "tests/core/recording_platform.h"
 
 #include <QApplication>
-#include <QFontInfo>
-#include <QFontMetricsF>
 #include <QTest>
 
 #include <array>
 #include <gtest/gtest.h>
 #include <memory>
-#include <utility>
 
 namespace tarvix::testing {
 namespace {
@@ -61,17 +58,11 @@ class CustomerWindowTest : public ::testing::Test {
     std::unique_ptr<frmCustInfo> window_;
 };
 
-TEST_F(CustomerWindowTest, IsSeenAndReadAloud) {
+// What is seen is in the kept picture.
+TEST_F(CustomerWindowTest, IsReadAloud) {
     const frmCustInfo& window = Open();
     EXPECT_EQ(window.windowTitle(), "Brindle Tarvix");
     EXPECT_TRUE(window.isModal());
-    const std::pair<const char*, const char*> captions[] = {
-        {"Label1", "Customer"}, {"Label2", "Tag"},       {"cmdPrint", "Print"},
-        {"cmdClear", "Clear"},  {"cmdCancel", "Cancel"},
-    };
-    for (const auto& [name, caption] : captions) {
-        EXPECT_EQ(window.findChild<QWidget*>(name)->property("text").toString(), caption);
-    }
     EXPECT_EQ(window.txtCust1->accessibleName(), "Customer");
     EXPECT_EQ(window.txtCust2->accessibleName(), "Customer, second line");
     EXPECT_EQ(window.txtTag->accessibleName(), "Tag");
@@ -132,16 +123,13 @@ TEST_F(CustomerWindowTest, NextReportStartsWithTheLastTextsSelected) {
     EXPECT_EQ(window.txtCust1->text(), "Sawyer");
 }
 
+// By a click or from elsewhere, too, where the toolkit does not do it.
 TEST_F(CustomerWindowTest, GettingTheFocusSelectsTheWholeText) {
-    frmCustInfo& window = OpenAfter({"one", "two", "three"});
-    QTest::keyClick(&window, Qt::Key_Tab);
-    EXPECT_TRUE(window.txtCust2->hasFocus());
-    EXPECT_EQ(window.txtCust2->selectedText(), "two");
-    QTest::keyClick(&window, Qt::Key_Tab);
-    EXPECT_TRUE(window.txtTag->hasFocus());
-    EXPECT_EQ(window.txtTag->selectedText(), "three");
-    QTest::keyClick(&window, Qt::Key_Tab, Qt::ShiftModifier);
-    EXPECT_EQ(window.txtCust2->selectedText(), "two");
+    frmCustInfo& window = OpenAfter(kLast);
+    for (QLineEdit* field : {window.txtCust2, window.txtTag, window.txtCust1}) {
+        field->setFocus(Qt::OtherFocusReason);
+        EXPECT_EQ(field->selectedText(), field->text());
+    }
 }
 
 TEST_F(CustomerWindowTest, ClearEmptiesTheFieldsOnlyAndLeadsToTheFirstLine) {
@@ -167,16 +155,6 @@ TEST_F(CustomerWindowTest, TabGoesRoundInOrder) {
         EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
     }
     EXPECT_TRUE(window.isVisible());
-}
-
-TEST_F(CustomerWindowTest, FieldsShowWhatThePaperHolds) {
-    frmCustInfo& window = Open();
-    for (const EntryLine* field : {window.txtCust1, window.txtCust2, window.txtTag}) {
-        const double line = QFontMetricsF(field->font()).horizontalAdvance(QString(62, 'M'));
-        EXPECT_GE(field->width(), line);
-        EXPECT_LE(field->width(), line + 40);
-        EXPECT_TRUE(QFontInfo(field->font()).fixedPitch());
-    }
 }
 
 TEST_F(CustomerWindowTest, SaysWhenLinesWillBePrintedNarrower) {

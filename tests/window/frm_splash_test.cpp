@@ -4,13 +4,15 @@
 #include "tests/core/fatal_errors.h"
 #include "tests/core/locales.h"
 #include "tests/core/named_row.h"
-#include "tests/window/renamed_font.h"
+#include "tests/window/event_watcher.h"
 #include "ui/windows/qt_platform.h"
 
-#include <QApplication>
+#include <QCoreApplication>
+#include <QDataStream>
 #include <QDateTime>
+#include <QFontDatabase>
 #include <QFontInfo>
-#include <QPixmap>
+#include <QRawFont>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -49,25 +51,6 @@ class ListedClock : public RecordingPlatform {
     std::function<void()> onLook;
 };
 
-// Counts the events of one kind that reach an object.
-class EventCounter : public QObject {
-  public:
-    EventCounter(QObject& watched, QEvent::Type type) : type_(type) {
-        watched.installEventFilter(this);
-    }
-    int count() const { return count_; }
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        count_ += event->type() == type_ ? 1 : 0;
-        return QObject::eventFilter(watched, event);
-    }
-
-  private:
-    QEvent::Type type_;
-    int count_ = 0;
-};
-
 class SplashTest : public ::testing::Test {
   protected:
     void SetUp() override {
@@ -95,14 +78,57 @@ class SplashTest : public ::testing::Test {
                        [this] { steps_ << (splash_.isVisible() ? "show on splash" : "show"); }}};
 };
 
-// The name in 3.2 times the desktop's size and bold, the version in 1.1 times and not.
-TEST_F(SplashTest, TheNameStandsOutFromTheVersion) {
-    const double usual = QFontInfo(QApplication::font()).pointSizeF();
-    EXPECT_TRUE(splash_.Label1->font().bold());
-    EXPECT_FALSE(splash_.Label2->font().bold());
-    EXPECT_NEAR(splash_.Label1->font().pointSizeF(), 3.2 * usual, 0.05);
-    EXPECT_NEAR(splash_.Label2->font().pointSizeF(), 1.1 * usual, 0.05);
-}
+// A font of the desktop under another name, installed for this process while it lives: the tables
+// of the desktop's font, as a file of the Open Font Format has them, with a table of names of its
+// own.
+class RenamedFont {
+  public:
+    explicit RenamedFont(const QString& family)
+        : id_(QFontDatabase::addApplicationFontFromData(FileOf(family))) {
+        EXPECT_TRUE(QFontDatabase::applicationFontFamilies(id_).contains(family));
+    }
+    ~RenamedFont() { QFontDatabase::removeApplicationFont(id_); }
+    RenamedFont(const RenamedFont&) = delete;
+    RenamedFont& operator=(const RenamedFont&) = delete;
+
+  private:
+    // One record: the family (1) in English (0x409) for Windows (3) in UTF-16 (1).
+    static QByteArray NamesOf(const QString& family) {
+        QByteArray names;
+        QDataStream out(&names, QIODevice::WriteOnly);
+        const auto bytes = static_cast<quint16>(2 * family.size());
+        out << quint16{0} << quint16{1} << quint16{18};
+        out << quint16{3} << quint16{1} << quint16{0x409} << quint16{1} << bytes << quint16{0};
+        for (const QChar character : family) {
+            out << character.unicode();
+        }
+        return names;
+    }
+
+    static QByteArray FileOf(const QString& family) {
+        constexpr const char* kTables[] = {"OS/2", "cmap", "glyf", "head", "hhea",
+                                           "hmtx", "loca", "maxp", "name", "post"};
+        constexpr quint16 kCount = std::size(kTables);
+        const QRawFont desktop = QRawFont::fromFont(QFont());
+        QByteArray directory;
+        QByteArray tables;
+        QDataStream out(&directory, QIODevice::WriteOnly);
+        // The version of outlines as TrueType has them; how to search in the directory, the check
+        // sums and what aligns the tables are read by nobody.
+        out << quint32{0x00010000} << kCount << quint16{0} << quint16{0} << quint16{0};
+        for (const char* tag : kTables) {
+            const QByteArray table =
+                tag == QByteArray("name") ? NamesOf(family) : desktop.fontTable(tag);
+            const auto place = static_cast<quint32>(12 + 16 * kCount + tables.size());
+            out.writeRawData(tag, 4);
+            out << quint32{0} << place << static_cast<quint32>(table.size());
+            tables += table;
+        }
+        return directory + tables;
+    }
+
+    int id_;
+};
 
 TEST(SplashFontTest, FamiliesOfItsOwnWhereTheyAreInstalled) {
     const RenamedFont nameFont("Microsoft Sans Serif");
@@ -114,39 +140,11 @@ TEST(SplashFontTest, FamiliesOfItsOwnWhereTheyAreInstalled) {
     EXPECT_EQ(QFontInfo(splash.Label2->font()).family(), "MS Sans Serif");
 }
 
-// Two logos in boxes of the same size, one at the left and one at the right margin, above the texts
-// in the middle.
-TEST_F(SplashTest, IsACardWithItsLogosAtBothSides) {
-    splash_.show();  // by which a card on a small screen gets the room that its logos need
-    const QRect card = splash_.rect();
-    const QRect left = splash_.imgBrindleLogo->geometry();
-    const QRect right = splash_.imgVeltraneLogo->geometry();
-    EXPECT_EQ(left.size(), QSize(240, 60));
-    EXPECT_EQ(right.size(), left.size());
-    EXPECT_EQ(left.y(), right.y());
-    EXPECT_LT(left.right(), right.left());
-    EXPECT_EQ(left.x() - card.x(), card.right() - right.right());
-    for (const QLabel* label : {splash_.Label1, splash_.Label2}) {
-        EXPECT_NEAR(label->geometry().center().x(), card.center().x(), 1);
-        EXPECT_GT(label->y(), left.bottom());
-    }
-    EXPECT_EQ(splash_.palette().color(QPalette::Window), QColor(Qt::white));
-    EXPECT_EQ(splash_.palette().color(QPalette::WindowText), QColor("#1F2A37"));
+// How it looks is in the kept picture.
+TEST_F(SplashTest, IsReadAloud) {
     EXPECT_EQ(splash_.windowTitle(), "Brindle Tarvix");
     EXPECT_EQ(splash_.imgBrindleLogo->accessibleName(), "Brindle");
     EXPECT_EQ(splash_.imgVeltraneLogo->accessibleName(), "Veltrane");
-}
-
-TEST_F(SplashTest, ShowsNameVersionAndLogos) {
-    EXPECT_EQ(splash_.findChild<QLabel*>("Label1")->text(), "Tarvix");
-    EXPECT_EQ(splash_.findChild<QLabel*>("Label2")->text(), "Version: 3.0");
-    Run();
-    const auto middle = [this](const char* name) {
-        const QPixmap logo = splash_.findChild<QLabel*>(name)->pixmap();
-        return logo.isNull() ? QColor() : logo.toImage().pixelColor(logo.rect().center());
-    };
-    EXPECT_GT(middle("imgBrindleLogo").red(), 200);
-    EXPECT_GT(middle("imgVeltraneLogo").blue(), 200);
 }
 
 TEST_F(SplashTest, HandsOverInOrderAndOnlyOnce) {
@@ -192,28 +190,20 @@ const WaitRow kWaitRows[] = {
 INSTANTIATE_TEST_SUITE_P(Clocks, SplashWait, ::testing::ValuesIn(kWaitRows), kRowName);
 
 TEST_F(SplashTest, IsPaintedWithItsLogosBeforeTheWait) {
-    const EventCounter brindle(*splash_.imgBrindleLogo, QEvent::Paint);
-    const EventCounter veltrane(*splash_.imgVeltraneLogo, QEvent::Paint);
-    const EventCounter name(*splash_.Label1, QEvent::Paint);
-    QImage picture;
+    const EventWatcher brindle(*splash_.imgBrindleLogo, QEvent::Paint);
+    const EventWatcher veltrane(*splash_.imgVeltraneLogo, QEvent::Paint);
+    const EventWatcher name(*splash_.Label1, QEvent::Paint);
     clock_.onLook = [&] {
-        if (clock_.looks == 1) {
-            EXPECT_GT(brindle.count(), 0);
-            EXPECT_GT(veltrane.count(), 0);
-            EXPECT_GT(name.count(), 0);
-            picture = splash_.grab().toImage();
+        for (const EventWatcher* paints : {&brindle, &veltrane, &name}) {
+            EXPECT_GT(paints->count(), 0);
         }
     };
     Run();
-    ASSERT_FALSE(picture.isNull());
-    const QPoint onLogo = splash_.imgBrindleLogo->geometry().center();
-    EXPECT_GT(picture.pixelColor(onLogo).red(), 200);
-    EXPECT_LT(picture.pixelColor(onLogo).green(), 60);
 }
 
 TEST_F(SplashTest, HandlesNoEventsDuringTheWait) {
     QObject probe;
-    const EventCounter delivered(probe, QEvent::User);
+    const EventWatcher delivered(probe, QEvent::User);
     clock_.seconds = {10, 10, 10, 11, 12, 13};
     clock_.onLook = [&] {
         if (clock_.looks == 1) {
@@ -273,22 +263,17 @@ TEST(SplashClockTest, TheSleepEndsInALaterSecond) {
     EXPECT_GT(QDateTime::currentSecsSinceEpoch(), before);
 }
 
+// A fixed folder stands in for one that can't be read.
 TEST(AppPathTest, EndsInTheSystemsSeparator) {
 #ifdef Q_OS_WIN
     EXPECT_EQ(AppPathOf("C:/Program Files/Tarvix"), "C:\\Program Files\\Tarvix\\");
     EXPECT_EQ(AppPathOf("D:/"), "D:\\");
+    EXPECT_EQ(AppPathOf(""), "C:\\Tarvix\\");
 #else
     EXPECT_EQ(AppPathOf("/usr/lib/tarvix"), "/usr/lib/tarvix/");
     EXPECT_EQ(AppPathOf("/"), "/");
-    EXPECT_EQ(AppPathOf(QString::fromUtf8("/home/jürgen/tarvix 3")), "/home/jürgen/tarvix 3/");
-#endif
-}
-
-TEST(AppPathTest, FixedFolderStandsInForOneThatCannotBeRead) {
-#ifdef Q_OS_WIN
-    EXPECT_EQ(AppPathOf(""), "C:\\Tarvix\\");
-#else
     EXPECT_EQ(AppPathOf(""), "/opt/Tarvix/");
+    EXPECT_EQ(AppPathOf(QString::fromUtf8("/home/jürgen/tarvix 3")), "/home/jürgen/tarvix 3/");
 #endif
 }
 

@@ -1,4 +1,5 @@
 // Everything can be done without a mouse.
+#include "tests/window/event_watcher.h"
 #include "tests/window/layout_fixtures.h"
 
 #include <QClipboard>
@@ -116,14 +117,6 @@ TEST_F(KeyboardTest, OptionsAndFieldsThatAreOpenedAreTabStops) {
     EXPECT_EQ(Names(walked.begin(), walked.begin() + static_cast<long>(expected.size())), expected);
 }
 
-TEST_F(KeyboardTest, TheCoveredNominalSizeIsNoTabStop) {
-    Play({"answer text 4", "choose cboPipeID Other (User Entered)"});
-    ASSERT_TRUE(form().IsVisible(*form().txtMaskNomSize));
-    EXPECT_EQ(std::ranges::count(Walk(form().optCalcBeta), "cboNomSize"), 0);
-    Play({"choose cboPipeID #0"});
-    EXPECT_EQ(std::ranges::count(Walk(form().optCalcBeta), "cboNomSize"), 1);
-}
-
 // ---- Arrow keys in the groups of options ----
 
 TEST_F(KeyboardTest, ArrowKeysAndSpaceSelectAndRunTheHandler) {
@@ -192,28 +185,15 @@ TEST_F(KeyboardTest, AltMLeadsToTheFirstControlOfTheTab) {
     }
 }
 
-// Keeps the names of what is shown.
-class ShownWindows : public QObject {
-  public:
-    ShownWindows() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() == QEvent::Show && object->isWidgetType()) {
-            names += object->objectName();
-        }
-        return false;
-    }
-
-    QStringList names;
-};
-
 TEST_F(KeyboardTest, F1AndAltAShowTheAboutWindow) {
     Play({"focus txtPf"});
     for (const auto& [key, modifier] :
          {std::pair(Qt::Key_F1, Qt::NoModifier), std::pair(Qt::Key_A, Qt::AltModifier)}) {
-        const ShownWindows shown;
+        QStringList shown;
+        const EventWatcher windows(*qApp, QEvent::Show,
+                                   [&](QObject& window) { shown += window.objectName(); });
         Press(key, modifier);
-        EXPECT_EQ(shown.names.count("AboutBox"), 1);
+        EXPECT_EQ(shown.count("AboutBox"), 1);
     }
 }
 

@@ -50,7 +50,7 @@ class LayoutTest : public PlayerTest {
         QApplication::setPalette(palette_);
     }
 
-    void Play(const WindowState& state) { ASSERT_EQ(Player().Play(state).toStdString(), ""); }
+    void Show(const WindowState& state) { ASSERT_EQ(Player().Play(state).toStdString(), ""); }
 
   private:
     QFont font_ = QApplication::font();

@@ -45,11 +45,11 @@ TEST(ReadablePaletteTest, LeavesADisabledTextOfFiveToOne) {
 // less than one of 255 shades, and again until the whole of a shade is gone.
 TEST(ReadablePaletteTest, LeavesAFieldOfOnePointFiveTwoToOne) {
     const auto field = [](const QColor& own) {
-        return ReadablePalette(DesktopPalette(QColor(0x2E, 0x2E, 0x2E), own,
-                                              QColor(0x58, 0x58, 0x58), Qt::white, Qt::gray))
+        return ReadablePalette(DesktopPalette(0x2E2E2E, own, 0x585858, Qt::white, Qt::gray))
             .color(QPalette::Base);
     };
     EXPECT_EQ(field(QColor(3, 3, 0)), QColor(3, 3, 0));
+    EXPECT_EQ(field(QColor(160, 160, 160)), QColor(160, 160, 160)) << "seen, as it is lighter";
     // The first step whose contrast is 1.52 or more: 7 twentieths of the way, 3 - 1 and 2 - 0.
     EXPECT_EQ(field(QColor(3, 3, 2)), QColor(2, 2, 2));
 }
@@ -57,9 +57,7 @@ TEST(ReadablePaletteTest, LeavesAFieldOfOnePointFiveTwoToOne) {
 // Of a window of #151515 and texts of #BDBDBD the 19th step is #B4B4B4; its ring, #787878, stands
 // 3.80147 to 1 against the lighter shade of the window. The 18th, #ACACAC, does not reach 3.8.
 TEST(ReadablePaletteTest, LightensTheRingOfAnOptionToThreePointEightToOne) {
-    const QColor window(0x15, 0x15, 0x15);
-    const QPalette desktop =
-        DesktopPalette(window, window, window, QColor(0xBD, 0xBD, 0xBD), Qt::gray);
+    const QPalette desktop = DesktopPalette(0x151515, 0x151515, 0x151515, 0xBDBDBD, Qt::gray);
     EXPECT_EQ(DiscPalette(desktop, desktop).color(QPalette::Window), QColor(0xB4, 0xB4, 0xB4));
 }
 

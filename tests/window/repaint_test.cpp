@@ -1,32 +1,11 @@
 // What the user sees before a calculation begins.
+#include "tests/window/event_watcher.h"
 #include "tests/window/window_states.h"
 
-#include <QEvent>
-
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace tarvix::testing {
 namespace {
-
-// Calls a function whenever an object has been sent a Paint.
-class PaintWatcher : public QObject {
-  public:
-    PaintWatcher(QObject& watched, std::function<void()> onPaint) : onPaint_(std::move(onPaint)) {
-        watched.installEventFilter(this);
-    }
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            onPaint_();
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-  private:
-    std::function<void()> onPaint_;
-};
 
 // What the choice of the fluid shows is seen at once, and then what comes of it.
 TEST(RepaintTest, AGasIsSeenBeforeItIsCalculated) {
@@ -34,7 +13,7 @@ TEST(RepaintTest, AGasIsSeenBeforeItIsCalculated) {
     ASSERT_EQ(player.Play({"", {"click optLiquid"}}), "");
     const int runs = player.window().calculationRuns();
     bool painted = false;
-    const PaintWatcher gravity(*player.form().fraGasSG, [&] {
+    const EventWatcher gravity(*player.form().fraGasSG, QEvent::Paint, [&](QObject&) {
         painted = painted || player.window().calculationRuns() == runs;
     });
     ASSERT_EQ(player.Act("click optGas"), "");
@@ -49,7 +28,7 @@ TEST(RepaintTest, TheBoxOfTheBoresUnitIsPaintedBeforeTheBoreIsEmptied) {
     const std::string bore = player.form().txtOriBoreDia->Text();
     ASSERT_NE(bore, "");
     bool painted = false;
-    const PaintWatcher box(*player.form().cboOriBoreUnit, [&] {
+    const EventWatcher box(*player.form().cboOriBoreUnit, QEvent::Paint, [&](QObject&) {
         painted = painted || player.form().txtOriBoreDia->Text() == bore;
     });
     ASSERT_EQ(player.Act("choose cboOriBoreUnit Millimeters"), "");

@@ -18,7 +18,7 @@ class ResultLineTest : public LayoutTest {
   protected:
     ResultLineTest() {
         QApplication::setFont(QFont("DejaVu Sans", 14));
-        Play({"", kFlowOfWater});  // on the whole form
+        Play(kFlowOfWater);  // on the whole form
         window().resize(800, 600);
         Settle();
     }
@@ -51,6 +51,7 @@ TEST_F(ResultLineTest, SaysTheValueWhileItsFieldIsOutOfSight) {
     ScrollTo(down.maximum());
     ASSERT_TRUE(View().Shows(*form().txtFlow));
     EXPECT_FALSE(Line().isVisible());
+    EXPECT_EQ(down.value(), down.maximum()) << "the user stays where he scrolled";
     ScrollTo(0);
     EXPECT_TRUE(Line().isVisible());
 }
@@ -68,19 +69,6 @@ TEST_F(ResultLineTest, FollowsWhatIsTyped) {
     EXPECT_FALSE(Line().isVisible()) << "there is no value";
 }
 
-TEST_F(ResultLineTest, TakesNoRoomWhereTheFieldIsInSight) {
-    Player().ShowWhole();
-    Settle();
-    ASSERT_TRUE(View().Shows(*form().txtFlow));
-    EXPECT_FALSE(Line().isVisible());
-    const int without = View().footer().height();
-    window().resize(800, 600);
-    Settle();
-    ScrollTo(0);
-    EXPECT_TRUE(Line().isVisible());
-    EXPECT_GT(View().footer().height(), without);
-}
-
 // The room that the line gives back shows the field that it stood for.
 TEST_F(ResultLineTest, DoesNotHideTheFieldItself) {
     ScrollTo(0);
@@ -93,17 +81,6 @@ TEST_F(ResultLineTest, DoesNotHideTheFieldItself) {
     ScrollTo(field.mapTo(&View().canvas(), QPoint(0, field.height())).y() - viewport.height() - 1);
     EXPECT_TRUE(View().Shows(field));
     EXPECT_FALSE(Line().isVisible());
-}
-
-TEST_F(ResultLineTest, LeavesTheUserWhereHeScrolled) {
-    QApplication::setActiveWindow(&window());
-    form().txtSGf->setFocus();
-    ScrollTo(0);
-    const QScrollBar& down = *View().scrollArea().verticalScrollBar();
-    ScrollTo(down.maximum());
-    ASSERT_FALSE(Line().isVisible());
-    EXPECT_EQ(down.value(), down.maximum());
-    EXPECT_FALSE(View().Shows(*form().optCalcFR));
 }
 
 // However long the line and the message are, the window may be as small as it may.

@@ -31,7 +31,6 @@ int main(int argc, char* argv[]) {
             std::fprintf(stderr, "%s\n", qPrintable(why));
             return 1;
         }
-        player.ShowWhole();
         QString name = state.name;
         name.replace("; ", "-").replace(": ", "-").replace(", ", "-").replace(' ', '_');
         const QString file = QString("%1-%2.png").arg(++number, 3, 10, QLatin1Char('0')).arg(name);
