@@ -43,36 +43,6 @@ TEST_P(PaperTest, FullestPageStaysInsideTheMargins) {
     }
 }
 
-TEST_P(PaperTest, EveryPartStandsInItsPlace) {
-    const PdfPage page = PageOf(GasSheet(), paper_.size);
-    // The title below three lines at the left margin.
-    const PdfWord& title = page.Word("Orifice");
-    EXPECT_NEAR(title.left, paper_.left, 0.1);
-    EXPECT_NEAR(title.top, paper_.top + 3 * 12 * 1.1328125, 0.5);
-    EXPECT_EQ(page.LineOf(title), "Orifice calculation for Bore size - Flange Taps - Gas");
-    // The values end in column 40.
-    const double column40 = paper_.left + 40 * kCharacter12;
-    for (const char* value :
-         {"25,000.00", "50.25", "(20.00)", "150.00", "0.60", "1.00000", "2.067", "0.517"}) {
-        EXPECT_NEAR(page.Word(value).right, column40, 0.2) << value;
-    }
-    const PdfWord& unit = page.Word("Standard");
-    EXPECT_NEAR(unit.left, column40 + kCharacter12, 0.2);
-    EXPECT_EQ(page.LineOf(unit), "Flow Rate 25,000.00 Standard Cubic Feet/Day");
-    // The notes at 8000 twips, and the columns of the footer below each other.
-    EXPECT_NEAR(page.Word("Note:").top, paper_.top + 400, 0.5);
-    const double column = 28 * 8 * 1229.0 / 2048.0;
-    EXPECT_NEAR(page.Word("Brindle", 1).left, paper_.left, 0.1);
-    EXPECT_NEAR(page.Word("Marlow").left, paper_.left, 0.1);
-    int office = 0;
-    for (const char* city : {"Port", "Kestrel", "Fenwick"}) {
-        EXPECT_NEAR(page.Word(city).left, paper_.left + (office + 1) * column, 0.2);
-        // The headquarters' own telephone number comes after those of the offices.
-        EXPECT_NEAR(page.Word("Tel.", office).left, page.Word(city).left, 0.2);
-        EXPECT_NEAR(page.Word("Fax", office++).left, page.Word(city).left, 0.2);
-    }
-}
-
 TEST_P(PaperTest, FontsAreCourierNewOrItsEqualAndEmbedded) {
     ASSERT_TRUE(Paint(GasSheet(), paper_.size));
     const QStringList fonts = FontsOf(File());

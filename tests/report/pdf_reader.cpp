@@ -43,15 +43,14 @@ bool ReadBefore(const PdfWord& a, const PdfWord& b) {
 
 }  // namespace
 
-const PdfWord& PdfPage::Word(const QString& text, int occurrence) const {
+const PdfWord& PdfPage::Word(const QString& text) const {
     static const PdfWord kNone{};
-    for (const PdfWord& word : words) {
-        if (word.text == text && occurrence-- == 0) {
-            return word;
-        }
+    const auto word = std::ranges::find(words, text, &PdfWord::text);
+    if (word == words.end()) {
+        ADD_FAILURE() << "no word " << text.toStdString();
+        return kNone;
     }
-    ADD_FAILURE() << "no word " << text.toStdString();
-    return kNone;
+    return *word;
 }
 
 QString PdfPage::LineOf(const PdfWord& word) const {

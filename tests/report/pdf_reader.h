@@ -26,8 +26,8 @@ struct PdfPage {
     double height;  // points
     std::vector<PdfWord> words;
 
-    // The n-th (from 0) occurrence of a word. Fails the test when it isn't there.
-    const PdfWord& Word(const QString& text, int occurrence = 0) const;
+    // The first of these words. Fails the test when it isn't there.
+    const PdfWord& Word(const QString& text) const;
 
     // The words whose middle is on the same line as `word`, from left to right, joined by blanks.
     QString LineOf(const PdfWord& word) const;

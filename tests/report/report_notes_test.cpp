@@ -58,15 +58,6 @@ TEST_F(ReportNotesTest, TextsAndPlaces) {
     EXPECT_GE(lines.at(expected.size()).yTwips, kFooterTop) << "the lines between are empty";
 }
 
-TEST_F(ReportNotesTest, SameHeightWhateverStandsAbove) {
-    for (const ReportSheet& sheet : {LiquidSheet(), GasSheet(), SteamSheet(), FullestSheet()}) {
-        const std::vector<ReportLine> lines = LinesFrom(Page(sheet), kNotesTop - 1);
-        EXPECT_EQ(lines.front().text,
-                  "Note: Values for the beta ratio are approximate, typically within");
-        EXPECT_EQ(lines.front().yTwips, 8000);
-    }
-}
-
 TEST_F(ReportFooterTest, FourColumnsOnFourLines) {
     const std::vector<ReportLine> lines = LinesFrom(Page(GasSheet()), kFooterTop);
     ASSERT_EQ(lines.size(), 6U);
@@ -96,12 +87,6 @@ TEST_F(ReportFooterTest, DateAndWebSite) {
     EXPECT_FALSE(last.font.italic);
     // One empty line, four lines, two empty lines of 8 points above it.
     EXPECT_NEAR(last.yTwips, kFooterTop + 7 * kHeight8, 0.01);
-}
-
-TEST_F(ReportFooterTest, EndsAboveTheBottomMarginOfLetter) {
-    const ReportLine last = Page(FullestSheet()).lines.back();
-    // 11 inches, less 4.5% at the top and at the bottom.
-    EXPECT_LE(last.yTwips + kHeight10, 15840 * 0.91);
 }
 
 }  // namespace
