@@ -181,28 +181,21 @@ class RunnerTest(unittest.TestCase):
                 self.assert_red(script, message, outputs)
         self.assert_red("state\n#= calculations 3\n", "exit status 2", status=2)
 
-    def test_player_that_is_not_there(self):
-        (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
-        result, printed = self.run_main(self.folder.name + "/none", self.folder.name)
-        self.assertEqual(result, 1)
-        self.assertIn("can't be started", printed)
-
-    def test_player_that_hangs(self):
-        player = Path(self.folder.name) / "player"
-        player.write_text(f"#!{sys.executable}\nimport threading\nthreading.Event().wait()\n")
-        player.chmod(0o755)
-        (Path(self.folder.name) / "a.script").write_text("state\n#= pages 0\n")
-        result, printed = self.run_main("--timeout", "0.5", str(player), self.folder.name)
-        self.assertEqual(result, 1)
-        self.assertIn("did not end within 0.5 seconds", printed)
-
-    def test_file_that_is_not_there(self):
-        result, printed = self.run_main("/bin/true", self.folder.name + "/none.script")
-        self.assertEqual(result, 1)
-        self.assertIn("can't be read", printed)
-
-    def test_folder_without_scenarios(self):
-        self.assertEqual(self.run_main("/bin/true", self.folder.name)[0], 2)
+    def test_what_cannot_be_played(self):
+        root = Path(self.folder.name)
+        (root / "a.script").write_text("state\n#= pages 0\n")
+        (root / "empty").mkdir()
+        hanging = root / "player"
+        hanging.write_text(f"#!{sys.executable}\nimport threading\nthreading.Event().wait()\n")
+        hanging.chmod(0o755)
+        for status, message, *arguments in (
+                (1, "can't be started", root / "none", root),
+                (1, "did not end within 0.5 seconds", "--timeout", 0.5, hanging, root),
+                (1, "can't be read", "/bin/true", root / "none.script"),
+                (2, "no scenarios found", "/bin/true", root / "empty")):
+            result, printed = self.run_main(*map(str, arguments))
+            self.assertEqual(result, status, message)
+            self.assertIn(message, printed)
 
 
 if __name__ == "__main__":
