@@ -1,6 +1,7 @@
 #include "tests/report/pdf_reader.h"
 
 #include <QColor>
+#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -54,17 +55,14 @@ const PdfWord& PdfPage::Word(const QString& text) const {
 }
 
 QString PdfPage::LineOf(const PdfWord& word) const {
-    std::vector<PdfWord> line;
     const double middle = (word.top + word.bottom) / 2;
-    std::copy_if(words.begin(), words.end(), std::back_inserter(line),
-                 [middle](const PdfWord& w) { return w.top < middle && middle < w.bottom; });
-    std::sort(line.begin(), line.end(),
-              [](const PdfWord& a, const PdfWord& b) { return a.left < b.left; });
-    QStringList texts;
-    for (const PdfWord& w : line) {
-        texts << w.text;
+    QMap<double, QString> line;  // by their left edges
+    for (const PdfWord& w : words) {
+        if (w.top < middle && middle < w.bottom) {
+            line.insert(w.left, w.text);
+        }
     }
-    return texts.join(' ');
+    return line.values().join(' ');
 }
 
 bool CanReadPdf() {

@@ -27,17 +27,11 @@ double FieldContrast(const QImage& picture, const QWidget& field) {
                       picture.pixelColor(place.left() - 3, place.center().y()));
 }
 
-// As DesktopPalette, the darkest that there is.
-QPalette BlackPalette() {
-    return DesktopPalette(Qt::black, Qt::black, Qt::black, Qt::white, Qt::gray);
-}
-
-QPalette LighterFieldsPalette() {
-    return DesktopPalette(0x303030, 0x383838, 0x404040, Qt::white, Qt::gray);
-}
-
+// Of common desktops, the darkest that there is, and one with fields lighter than its windows.
 std::vector<QPalette> DarkPalettes() {
-    return {DarkPalette(), PaleDarkPalette(), BlackPalette(), LighterFieldsPalette()};
+    return {DarkPalette(), PaleDarkPalette(),
+            DesktopPalette(Qt::black, Qt::black, Qt::black, Qt::white, Qt::gray),
+            DesktopPalette(0x303030, 0x383838, 0x404040, Qt::white, Qt::gray)};
 }
 
 TEST_F(DarkDesktopTest, EmptyFieldsAreSeenAndTextsInThemRead) {

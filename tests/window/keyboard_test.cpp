@@ -122,19 +122,17 @@ TEST_F(KeyboardTest, OptionsAndFieldsThatAreOpenedAreTabStops) {
 TEST_F(KeyboardTest, ArrowKeysAndSpaceSelectAndRunTheHandler) {
     Play({"click optCalcBeta"});
     const int before = Calculations();
-    Press(Qt::Key_Down);
-    EXPECT_TRUE(form().optCalcDP->Value());
-    EXPECT_EQ(BackColorOf(*form().optCalcDP), BackColor::Green);
-    EXPECT_EQ(Focus(), "optCalcDP");
-    Press(Qt::Key_Right);
-    EXPECT_TRUE(form().optCalcFR->Value());
-    EXPECT_TRUE(form().txtFlow->Locked());
-    Press(Qt::Key_Down);
-    EXPECT_TRUE(form().optCalcBeta->Value()) << "after the last comes the first";
-    Press(Qt::Key_Up);
-    EXPECT_TRUE(form().optCalcFR->Value()) << "before the first stands the last";
-    Press(Qt::Key_Left);
-    EXPECT_TRUE(form().optCalcDP->Value());
+    // After the last comes the first, before the first stands the last.
+    const std::pair<Qt::Key, OptionButton*> arrows[] = {{Qt::Key_Down, form().optCalcDP},
+                                                        {Qt::Key_Right, form().optCalcFR},
+                                                        {Qt::Key_Down, form().optCalcBeta},
+                                                        {Qt::Key_Up, form().optCalcFR},
+                                                        {Qt::Key_Left, form().optCalcDP}};
+    for (const auto& [arrow, selected] : arrows) {
+        Press(arrow);
+        EXPECT_TRUE(selected->Value() && selected->hasFocus()) << arrow;
+        EXPECT_EQ(BackColorOf(*selected), BackColor::Green);
+    }
     EXPECT_EQ(Calculations() - before, 5) << "each arrow calculated once";
     form().optCalcFR->setFocus();
     Press(Qt::Key_Space);

@@ -1,4 +1,5 @@
 // The layout in every state of the window, at every font size from 8 to 14 points.
+#include "tests/core/named_row.h"
 #include "tests/window/desktop_colors.h"
 #include "tests/window/layout_faults.h"
 #include "tests/window/layout_fixtures.h"
@@ -108,8 +109,7 @@ TEST_F(LayoutTest, FitsOnASmallScreenUpToTenPoints) {
     }
 }
 
-struct Desktop {
-    const char* name;
+struct Desktop : NamedRow {
     QPalette (*colors)();
 };
 
@@ -117,12 +117,10 @@ class LayoutOnDesktopTest : public LayoutTest, public ::testing::WithParamInterf
 
 INSTANTIATE_TEST_SUITE_P(
     Desktops, LayoutOnDesktopTest,
-    ::testing::Values(Desktop{"Toolkit", [] { return QApplication::palette(); }},
-                      Desktop{"Light", LightPalette}, Desktop{"Dark", DarkPalette},
-                      Desktop{"PaleDark", PaleDarkPalette}),
-    [](const ::testing::TestParamInfo<Desktop>& desktop) {
-        return std::string(desktop.param.name);
-    });
+    ::testing::Values(Desktop{{"Toolkit"}, [] { return QApplication::palette(); }},
+                      Desktop{{"Light"}, LightPalette}, Desktop{{"Dark"}, DarkPalette},
+                      Desktop{{"PaleDark"}, PaleDarkPalette}),
+    kRowName);
 
 TEST_P(LayoutOnDesktopTest, TextsCanBeReadOnEveryColor) {
     // At 14 points the strokes of letters are as strong as their color.

@@ -3,8 +3,6 @@
 
 #include <QClipboard>
 #include <QInputMethodEvent>
-#include <QMenu>
-#include <QMenuBar>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTest>
@@ -310,23 +308,6 @@ TEST_F(FieldMouseTest, ComingBackToTheWindowKeepsTheCaret) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     EXPECT_EQ(field.selectedText(), "");
     EXPECT_EQ(field.cursorPosition(), 2);
-}
-
-TEST_F(FieldMouseTest, ComingBackFromTheMenuBarKeepsTheCaret) {
-    NumericField& field = Enter();
-    QTest::keyClicks(&field, "123");
-    QMenuBar& menus = *window().menuBar();
-    QTest::keyClick(&field, Qt::Key_F, Qt::AltModifier);
-    ASSERT_TRUE(menus.activeAction());
-    while (QWidget* menu = QApplication::activePopupWidget()) {
-        QTest::keyClick(menu, Qt::Key_Escape);
-    }
-    if (menus.hasFocus()) {
-        QTest::keyClick(&menus, Qt::Key_Escape);
-    }
-    ASSERT_TRUE(field.hasFocus());
-    QTest::keyClicks(&field, "4");
-    EXPECT_EQ(field.text(), "1234");
 }
 
 }  // namespace
