@@ -102,7 +102,7 @@ double LargestOfModes(tarvix::Fluid fluid, const std::function<void(InputSheet&)
     for (const NamedMode& mode : kModes) {
         InputSheet sheet = PlainSheet(fluid);
         change(sheet);
-        sheet.flow = Entry(NumberText(ExactResult(sheet, SolveFor::FlowRate, Units()), 9));
+        sheet.flow = Typed(ExactResult(sheet, SolveFor::FlowRate, Units()), 9);
         sheet.mode = mode.mode;
         const double wanted = ExactResult(sheet, Units());
         const auto text = ShownResult(sheet);
@@ -115,8 +115,8 @@ double LargestOfModes(tarvix::Fluid fluid, const std::function<void(InputSheet&)
 }
 
 // The entry, given in the first unit, in a unit with this factor.
-std::string InUnit(const std::string& entry, double factor) {
-    return NumberText(ValueOfText(entry) / factor, 9);
+EnteredNumber InUnit(const EnteredNumber& entry, double factor) {
+    return Typed(ValueOfText(entry.text()) / factor, 9);
 }
 
 template <typename UnitList, typename Change>
@@ -137,19 +137,19 @@ void PrintInvariances() {
     const std::span<const NamedFluid> all(kFluids);
     PrintInvariance("pressure", all.subspan(1), kPressUnits,
                     [](InputSheet& sheet, const Unit& unit) {
-                        sheet.pf = Entry(InUnit(sheet.pf.text(), Units().Of("press", unit.text)));
+                        sheet.pf = InUnit(sheet.pf, Units().Of("press", unit.text));
                         sheet.pressUnit = unit;
                     });
-    PrintInvariance(
-        "differential pressure", all, kDeltaPUnits, [](InputSheet& sheet, const Unit& unit) {
-            sheet.deltaP = Entry(InUnit(sheet.deltaP.text(), Units().Of("deltaP", unit.text)));
-            sheet.deltaPUnit = unit;
-        });
+    PrintInvariance("differential pressure", all, kDeltaPUnits,
+                    [](InputSheet& sheet, const Unit& unit) {
+                        sheet.deltaP = InUnit(sheet.deltaP, Units().Of("deltaP", unit.text));
+                        sheet.deltaPUnit = unit;
+                    });
     PrintInvariance("density", all.subspan(1), kDensityUnits,
                     [](InputSheet& sheet, const Unit& unit) {
                         const double factor = Units().Of("density", unit.text);
-                        sheet.zf = Entry(InUnit(sheet.zf.text(), factor));
-                        sheet.density = Entry(InUnit(sheet.density.text(), factor));
+                        sheet.zf = InUnit(sheet.zf, factor);
+                        sheet.density = InUnit(sheet.density, factor);
                         sheet.zfDensityUnit = unit;
                         sheet.densityUnit = unit;
                     });

@@ -18,17 +18,16 @@ namespace tarvix::accuracy {
 namespace {
 
 constexpr double kInchesOfWaterPerPsi = 27.7;  // good enough to keep dp/p in its range
-constexpr int kEntryDigits = 5;
 constexpr int kFlowDigits = 7;
 
 }  // namespace
 
-std::string NumberText(double value, int digits) {
+EnteredNumber Typed(double value, int digits) {
     const int whole =
         value == 0 ? 1 : static_cast<int>(std::floor(std::log10(std::fabs(value)))) + 1;
     char text[64];
     std::snprintf(text, sizeof text, "%.*f", std::max(digits - whole, 0), value);
-    return text;
+    return Entry(text);
 }
 
 std::optional<std::string> ShownResult(const InputSheet& sheet) {
@@ -76,33 +75,32 @@ void RandomSheets::PickPipe(InputSheet& sheet) {
 
 void RandomSheets::FillLiquid(InputSheet& sheet) {
     sheet.sgbVisible = sheet.flowKind == FlowKind::Volume;
-    sheet.sgf = Entry(NumberText(Between(0.5, 1.9), kEntryDigits));
-    sheet.sgb = Entry(NumberText(Between(0.5, 1.9), kEntryDigits));
+    sheet.sgf = Typed(Between(0.5, 1.9));
+    sheet.sgb = Typed(Between(0.5, 1.9));
 }
 
 void RandomSheets::FillPressure(InputSheet& sheet) {
     psia_ = LogBetween(20, 1500);
     sheet.absolutePressure = Coin();
     const double entered = sheet.absolutePressure ? psia_ : psia_ - 14.7;
-    sheet.pf = Entry(NumberText(entered / units_.Of("press", sheet.pressUnit.text), kEntryDigits));
+    sheet.pf = Typed(entered / units_.Of("press", sheet.pressUnit.text));
 }
 
 void RandomSheets::FillGas(InputSheet& sheet) {
     FillPressure(sheet);
     sheet.degC = Coin();
-    sheet.tf = Entry(NumberText(Between(-40, 200), kEntryDigits));
+    sheet.tf = Typed(Between(-40, 200));
     const std::size_t correction = Pick(3);
-    sheet.gasSGb = Entry(NumberText(Between(0.55, 1.6), kEntryDigits));
+    sheet.gasSGb = Typed(Between(0.55, 1.6));
     sheet.gasSGbVisible = true;
     sheet.zfVisible = correction != 0;
     if (correction == 1) {
         sheet.compCorrection = CompCorrection::Zf;
-        sheet.zf = Entry(NumberText(Between(0.7, 1.2), kEntryDigits));
+        sheet.zf = Typed(Between(0.7, 1.2));
     } else if (correction == 2) {
         sheet.compCorrection = CompCorrection::Density;
         const double density = 0.005 * psia_ * Between(0.5, 2);
-        sheet.zf = Entry(
-            NumberText(density / units_.Of("density", sheet.zfDensityUnit.text), kEntryDigits));
+        sheet.zf = Typed(density / units_.Of("density", sheet.zfDensityUnit.text));
     }
 }
 
@@ -115,8 +113,7 @@ void RandomSheets::FillSteam(InputSheet& sheet) {
         sheet.density = Entry(SteamDensityTextOf(sheet, module).density);
     } else {
         const double density = 0.0023 * psia_ * Between(0.5, 1);
-        sheet.density =
-            Entry(NumberText(density / units_.Of("density", sheet.densityUnit.text), kEntryDigits));
+        sheet.density = Typed(density / units_.Of("density", sheet.densityUnit.text));
     }
 }
 
@@ -136,10 +133,10 @@ InputSheet RandomSheets::Next(tarvix::Fluid fluid, SolveFor mode) {
     }
     const double most = psia_ == 0 ? 400 : std::min(400.0, 0.3 * psia_ * kInchesOfWaterPerPsi);
     const double h = LogBetween(1, most);
-    sheet.beta = Entry(NumberText(Between(0.1, 0.75), kEntryDigits));
-    sheet.deltaP = Entry(NumberText(h / units_.Of("deltaP", sheet.deltaPUnit.text), kEntryDigits));
+    sheet.beta = Typed(Between(0.1, 0.75));
+    sheet.deltaP = Typed(h / units_.Of("deltaP", sheet.deltaPUnit.text));
     if (mode != SolveFor::FlowRate) {
-        sheet.flow = Entry(NumberText(ExactResult(sheet, SolveFor::FlowRate, units_), kFlowDigits));
+        sheet.flow = Typed(ExactResult(sheet, SolveFor::FlowRate, units_), kFlowDigits);
         (mode == SolveFor::Beta ? sheet.beta : sheet.deltaP) = {};
     }
     return sheet;

@@ -12,13 +12,13 @@
 
 namespace tarvix::accuracy {
 
-// `value` with so many significant digits, without an exponent.
-std::string NumberText(double value, int digits);
-
 // A text as a sheet holds it.
 inline EnteredNumber Entry(std::string text) {
     return {std::move(text), NumberLocale{}};
 }
+
+// `value` as it is typed: with so many significant digits, without an exponent.
+EnteredNumber Typed(double value, int digits = 5);
 
 // What the program shows for the sheet; nothing when it shows no result.
 std::optional<std::string> ShownResult(const InputSheet& sheet);
