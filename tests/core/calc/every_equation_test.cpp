@@ -81,6 +81,40 @@ TEST_P(EveryEquation, ReportsABetaOfOneOrMore) {
     EXPECT_EQ(row.solve(run).message, "");
 }
 
+constexpr float kOdd[] = {0.0F, 1e-45F, 1e-38F, 1e-20F, 0.001F, 0.5F,  0.999999F,
+                          1.0F, 50.0F,  1e5F,   1e20F,  3e38F,  -1.0F, -1e30F};
+
+// Whatever the inputs: a finite value or a message or neither. Returns how many values there are.
+int ValuesOfOddRuns(const Equation& solve, float diameter) {
+    int values = 0;
+    for (const SolveFor solveFor : kModes) {
+        for (const float a : kOdd) {
+            for (const float b : kOdd) {
+                const Outcome outcome = solve({solveFor, diameter, a, b, a < 0 ? 0.5F : a});
+                EXPECT_FALSE(outcome.value && !outcome.message.empty()) << a << ' ' << b;
+                EXPECT_TRUE(!outcome.value || std::isfinite(*outcome.value)) << a << ' ' << b;
+                values += outcome.value ? 1 : 0;
+            }
+        }
+    }
+    return values;
+}
+
+TEST_P(EveryEquation, IsBrokenByNoInput) {
+    EXPECT_GT(ValuesOfOddRuns(row.solve, row.diameter), 30);
+}
+
+TEST(EquationsTest, AreBrokenByNoPressure) {
+    int values = 0;
+    for (const float pressure : kOdd) {
+        for (const Equation& equation :
+             {Air(kVolume, pressure), Air(kMass, pressure), Steam(pressure, 0.3F)}) {
+            values += ValuesOfOddRuns(equation, 2.067F);
+        }
+    }
+    EXPECT_GT(values, 1500);
+}
+
 // clang-format off
 const RunRow kRuns[] = {
     // Liquid: flowing and base gravity.                      D       beta   h        flow           exact flow     h back        beta back
