@@ -46,6 +46,16 @@ def wait_until(what, condition):
     raise AssertionError(f"waited {PATIENCE} s in vain: {what}")
 
 
+def works(group):
+    """Whether a process of the group runs; one that has ended, and was not asked how, does not."""
+    for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
+        with contextlib.suppress(OSError):
+            state, _, its_group = stat.read_text().rpartition(")")[2].split()[:3]
+            if int(its_group) == group and state != "Z":
+                return True
+    return False
+
+
 class Desk:
     """The desktop. `environment` is what a program needs to run on it."""
 
@@ -138,13 +148,16 @@ class Desk:
         return line
 
     def stop(self):
-        """Ends every process of the desktop, the last started first."""
+        """Ends every process of the desktop, the last started first, and what it has started: that
+        would still write its settings into a folder that is being removed."""
         for process in reversed(self.processes):
             with contextlib.suppress(ProcessLookupError):
                 os.killpg(process.pid, signal.SIGTERM)
             try:
                 process.wait(PATIENCE)
-            except subprocess.TimeoutExpired:
+                wait_until("the end of what a process has started",
+                           lambda group=process.pid: not works(group))
+            except (subprocess.TimeoutExpired, AssertionError):
                 os.killpg(process.pid, signal.SIGKILL)
                 process.wait()
         self.processes.clear()

@@ -19,11 +19,11 @@ namespace {
 // The window's rows, and no other text is seen in a label or on a button.
 void ExpectTexts(const QWidget& window, const std::string& name) {
     const std::vector<DataRow> rows = RowsOf(ReadDataFile("window_texts.tsv"), name);
-    size_t texts = window.findChildren<QAbstractButton*>().size();
+    qsizetype texts = window.findChildren<QAbstractButton*>().size();
     for (const QLabel* label : window.findChildren<QLabel*>()) {
         texts += !label->isHidden() && !label->text().isEmpty() ? 1 : 0;
     }
-    EXPECT_EQ(texts, rows.size());
+    EXPECT_EQ(texts, static_cast<qsizetype>(rows.size()));
     for (const DataRow& row : rows) {
         const auto* control = window.findChild<QWidget*>(QString::fromStdString(row[1]));
         ASSERT_NE(control, nullptr) << row[1];

@@ -5,7 +5,6 @@
 #include "app/sheets.h"
 #include "named_row.h"
 
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace tarvix::testing {

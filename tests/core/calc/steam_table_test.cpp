@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
-#include <string>
 
 namespace tarvix::testing {
 namespace {
