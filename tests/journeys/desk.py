@@ -46,6 +46,16 @@ def wait_until(what, condition):
     raise AssertionError(f"waited {PATIENCE} s in vain: {what}")
 
 
+def comes_soon(condition):
+    """Whether a condition comes true in a few seconds; what has not by then, is to be done again."""
+    end = time.monotonic() + 5
+    while time.monotonic() < end:
+        if condition():
+            return True
+        time.sleep(0.02)
+    return False
+
+
 def works(group):
     """Whether a process of the group runs; one that has ended, and was not asked how, does not."""
     for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):

@@ -9,7 +9,7 @@ import contextlib
 import pyatspi
 from gi.repository import Atspi, GLib
 
-from desk import PATIENCE, wait_until
+from desk import PATIENCE, comes_soon, wait_until
 
 GONE = (GLib.GError, LookupError, NotImplementedError, AttributeError)
 
@@ -200,8 +200,12 @@ class Program:
     def type_into(self, begins, text):
         """Clicks on a field, which selects its text, and types."""
         field = self.field(begins)
-        self.click(field)
-        wait_until(f"the focus in {begins}", lambda: field.focused)
+
+        def is_clicked():
+            # While the window manager is busy with one click, another may be lost.
+            self.click(field)
+            return comes_soon(lambda: field.focused)
+        wait_until(f"the focus in {begins}", is_clicked)
         self.desk.write(text)
         self.wait_for_text(begins, text)
 
