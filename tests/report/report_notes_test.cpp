@@ -58,6 +58,15 @@ TEST_F(ReportNotesTest, TextsAndPlaces) {
     EXPECT_GE(lines.at(expected.size()).yTwips, kFooterTop) << "the lines between are empty";
 }
 
+TEST_F(ReportNotesTest, SameHeightWhateverStandsAbove) {
+    for (const ReportSheet& sheet : {LiquidSheet(), GasSheet(), SteamSheet(), FullestSheet()}) {
+        const std::vector<ReportLine> lines = LinesFrom(Page(sheet), kNotesTop - 1);
+        EXPECT_EQ(lines.front().text,
+                  "Note: Values for the beta ratio are approximate, typically within");
+        EXPECT_EQ(lines.front().yTwips, 8000);
+    }
+}
+
 TEST_F(ReportFooterTest, FourColumnsOnFourLines) {
     const std::vector<ReportLine> lines = LinesFrom(Page(GasSheet()), kFooterTop);
     ASSERT_EQ(lines.size(), 6U);

@@ -11,7 +11,7 @@
 namespace tarvix::testing {
 namespace {
 
-// Its texts and how they stand are in the kept picture.
+// Its texts are in the table of texts, how they stand in the kept picture.
 TEST(AboutBoxTest, IsReadAloudFromItsButton) {
     const AboutBox box;
     EXPECT_EQ(box.windowTitle(), "About Brindle Tarvix");

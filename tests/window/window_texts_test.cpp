@@ -34,9 +34,11 @@ void ExpectTexts(const QWidget& window, const std::string& name) {
 TEST(WindowTextsTest, AreThoseOfTheTable) {
     RecordingPlatform platform;
     Module1 module(platform, kUnitedStates);
-    module.AppPath = TARVIX_LOGOS "/";
+    module.AppPath = AppPathOf(TARVIX_LOGOS);
     ExpectTexts(frmSplash(module, {}), "frmSplash");
     ExpectTexts(frmCustInfo(module), "frmCustInfo");
+    // Each time it is opened.
+    ExpectTexts(AboutBox(), "AboutBox");
     ExpectTexts(AboutBox(), "AboutBox");
 }
 
