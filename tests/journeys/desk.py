@@ -46,9 +46,9 @@ def wait_until(what, condition):
     raise AssertionError(f"waited {PATIENCE} s in vain: {what}")
 
 
-def comes_soon(condition):
-    """Whether a condition comes true in a few seconds; what has not by then, is to be done again."""
-    end = time.monotonic() + 5
+def comes_soon(condition, seconds=5):
+    """Whether a condition comes true in a little while; what has not by then, is to be done again."""
+    end = time.monotonic() + seconds
     while time.monotonic() < end:
         if condition():
             return True

@@ -6,7 +6,6 @@ import pathlib
 import re
 import subprocess
 import sys
-import time
 import unittest
 
 TESTS = pathlib.Path(__file__).resolve().parent.parent
@@ -109,12 +108,7 @@ class WindowsDesk:
 
     def comes_soon(self, condition):
         """Whether something that the program does comes in a little while."""
-        end = time.monotonic() + SOON
-        while time.monotonic() < end:
-            if condition():
-                return True
-            time.sleep(0.05)
-        return False
+        return desks.comes_soon(condition, SOON)
 
     # Windows, seen from outside.
 
